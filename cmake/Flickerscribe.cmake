@@ -1,0 +1,26 @@
+# Shared compile settings and the one-line test helper.
+
+add_library(fs_warnings INTERFACE)
+target_compile_options(fs_warnings INTERFACE -Wall -Wextra -Wpedantic -Werror)
+
+if(FS_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# fs_add_test(NAME [GUI] source... LIBS lib...)
+# One GoogleTest executable; every TEST in it becomes its own ctest entry.
+# GUI tests get a main() that starts a QApplication on the offscreen platform.
+function(fs_add_test name)
+  cmake_parse_arguments(ARG "GUI" "" "LIBS" ${ARGN})
+  add_executable(${name} ${ARG_UNPARSED_ARGUMENTS})
+  if(ARG_GUI)
+    target_link_libraries(${name} PRIVATE fs_gui_test_main)
+  else()
+    target_link_libraries(${name} PRIVATE GTest::gmock_main)
+  endif()
+  target_link_libraries(${name} PRIVATE ${ARG_LIBS} GTest::gmock fs_warnings)
+  gtest_discover_tests(${name}
+    PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;FS_TEST=1"
+    DISCOVERY_TIMEOUT 60)
+endfunction()

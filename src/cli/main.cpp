@@ -1,0 +1,6 @@
+#include <cstdio>
+
+int main() {
+    std::fputs("usage: flickerscribe-cli COMMAND ...\n", stderr);
+    return 2;
+}
