@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+class QWidget;
+
+namespace fs::ui {
+
+enum class MsgIcon { None, Critical, Question, Exclamation, Information };
+enum class MsgButtons { Ok, OkCancel, YesNo, YesNoCancel };
+enum class MsgAnswer { Ok, Cancel, Yes, No };
+
+// The state of one file dialog object, kept by its owner between uses, the way
+// a common dialog keeps its file name and folder. Filter is written
+// "Description (*.ext)|*.ext|Other (*.*)|*.*".
+struct FileDialogState {
+    QString DialogTitle;
+    QString Filter;
+    QString InitDir;
+    QString FileName;
+};
+
+// Every modal question, file dialog and clipboard access of the program goes
+// through this, so that tests can answer them. Each window takes one in its
+// constructor.
+class Dialogs {
+public:
+    virtual ~Dialogs() = default;
+
+    // An empty title means the application's own name.
+    virtual MsgAnswer Message(QWidget* parent, const QString& text, const QString& title, MsgIcon icon,
+                              MsgButtons buttons) = 0;
+    // The answer as text; Cancel gives nullopt.
+    virtual std::optional<QString> InputBox(QWidget* parent, const QString& prompt, const QString& title,
+                                            const QString& defaultText) = 0;
+    // Shows the open or save dialog for `state`. On OK the chosen path is
+    // written to state.FileName and true returned; Cancel returns false and
+    // leaves `state` as it was. The dialog itself neither asks about
+    // overwriting nor adds a suffix.
+    virtual bool ShowOpen(QWidget* parent, FileDialogState& state) = 0;
+    virtual bool ShowSave(QWidget* parent, FileDialogState& state) = 0;
+    // The chosen folder, or the empty text on Cancel.
+    virtual QString BrowseForFolder(QWidget* parent, const QString& title) = 0;
+
+    virtual void SetClipboardText(const QString& text) = 0;
+    // The clipboard's text: empty when it holds none, nullopt when it can't be read.
+    virtual std::optional<QString> ClipboardText() = 0;
+};
+
+}  // namespace fs::ui
