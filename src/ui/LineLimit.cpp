@@ -1,0 +1,14 @@
+#include "ui/LineLimit.h"
+
+#include "ui/Dialogs.h"
+
+namespace fs::ui {
+
+void ShowLineLimitMessage(Dialogs& dialogs, QWidget* parent) {
+    dialogs.Message(parent,
+                    QStringLiteral("An animation holds at most 32767 lines. The lines up to that limit "
+                                   "are kept; the rest could not be added."),
+                    QStringLiteral("Line limit reached"), MsgIcon::Exclamation, MsgButtons::Ok);
+}
+
+}  // namespace fs::ui

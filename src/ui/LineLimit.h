@@ -1,0 +1,13 @@
+#pragma once
+
+class QWidget;
+
+namespace fs::ui {
+
+class Dialogs;
+
+// The one message for work that the 32767-line limit of an animation stopped:
+// the lines that stand are kept, and the user is told that the rest is missing.
+void ShowLineLimitMessage(Dialogs& dialogs, QWidget* parent);
+
+}  // namespace fs::ui
