@@ -33,6 +33,8 @@ public:
 
 private:
     QTextEdit* edit_;
+    // What SetSelText writes in: the colour last given to SetSelColor.
+    Colour lastColour_ = kBlack;
 };
 
 }  // namespace fs::ui

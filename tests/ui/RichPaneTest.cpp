@@ -1,0 +1,239 @@
+#include <gmock/gmock.h>
+
+#include <QSignalSpy>
+#include <QTest>
+#include <QTextEdit>
+
+#include "colour/Palette.h"
+#include "ui/RichPane.h"
+
+namespace fs::ui {
+namespace {
+
+constexpr Colour kRed = Rgb(255, 0, 0);
+constexpr Colour kGreen = Rgb(0, 255, 0);
+constexpr Colour kOdd = Rgb(128, 0, 0);
+
+using Runs = std::vector<ColouredRun>;
+
+// Every character with its colour, the way a walk position by position sees it.
+std::vector<std::pair<char, Colour>> Flatten(const Runs& runs) {
+    std::vector<std::pair<char, Colour>> out;
+    for (const auto& run : runs)
+        for (char c : run.text) out.emplace_back(c, run.colour);
+    return out;
+}
+
+// Fills the pane one character at a time through the selection operations,
+// as the render walk does.
+void PaintCharByChar(Pane& pane, const Runs& runs) {
+    pane.SetText("");
+    int position = 0;
+    for (const auto& [c, colour] : Flatten(runs)) {
+        pane.SetSelStart(position);
+        pane.SetSelLength(1);
+        pane.SetSelColor(colour);
+        pane.SetSelText(std::string(1, c));
+        ++position;
+    }
+}
+
+struct RunsCase {
+    const char* name;
+    Runs given;
+    Runs expected;  // merged neighbours, empty runs gone
+};
+
+class RichPaneRuns : public testing::TestWithParam<RunsCase> {};
+
+TEST_P(RichPaneRuns, BulkAndCharacterWalkGiveTheSamePane) {
+    const RunsCase& c = GetParam();
+    QTextEdit bulkEdit, walkEdit;
+    RichPane bulk(&bulkEdit), walk(&walkEdit);
+
+    bulk.SetRuns(c.given);
+    PaintCharByChar(walk, c.given);
+
+    EXPECT_EQ(bulk.Runs(), c.expected);
+    EXPECT_EQ(walk.Runs(), c.expected);
+    std::string text;
+    for (const auto& run : c.expected) text += run.text;
+    EXPECT_EQ(bulk.Text(), text);
+    EXPECT_EQ(walk.Text(), text);
+
+    // Reading back one character at a time agrees with the bulk read.
+    const auto chars = Flatten(c.expected);
+    for (int p = 0; p < static_cast<int>(chars.size()); ++p) {
+        bulk.SetSelStart(p);
+        bulk.SetSelLength(1);
+        EXPECT_EQ(bulk.SelColor(), chars[static_cast<std::size_t>(p)].second) << "at " << p;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, RichPaneRuns,
+    testing::Values(
+        RunsCase{"Empty", {}, {}}, RunsCase{"EmptyRunsVanish", {{"", kRed}, {"", kGreen}}, {}},
+        RunsCase{"OneRun", {{"plain", kWhite}}, {{"plain", kWhite}}},
+        RunsCase{"ColourChanges", {{"Fl", kRed}, {"ick", kWhite}}, {{"Fl", kRed}, {"ick", kWhite}}},
+        RunsCase{"NeighboursMerge", {{"a", kRed}, {"b", kRed}, {"c", kGreen}}, {{"ab", kRed}, {"c", kGreen}}},
+        RunsCase{"BlackAndOutsidePalette", {{"x", kBlack}, {"y", kOdd}}, {{"x", kBlack}, {"y", kOdd}}},
+        RunsCase{"EveryCharacterItsColour",
+                 {{"a", kRed}, {"b", kGreen}, {"c", kRed}, {"d", kGreen}},
+                 {{"a", kRed}, {"b", kGreen}, {"c", kRed}, {"d", kGreen}}},
+        // A line break takes the colour of the character in front of it.
+        RunsCase{"LineBreaks", {{"ab\n", kRed}, {"cd", kGreen}}, {{"ab\n", kRed}, {"cd", kGreen}}},
+        RunsCase{"BreakColouredUnlikeItsLine",
+                 {{"ab", kRed}, {"\n", kGreen}, {"cd", kGreen}},
+                 {{"ab\n", kRed}, {"cd", kGreen}}},
+        RunsCase{"EmptyLines", {{"a\n\n", kRed}, {"b", kGreen}}, {{"a\n\n", kRed}, {"b", kGreen}}},
+        RunsCase{"LeadingBreakIsBlack", {{"\nx", kRed}}, {{"\n", kBlack}, {"x", kRed}}},
+        // Windows-1252 bytes above 127 and the no-break space survive.
+        RunsCase{"HighBytes", {{"\x80\xA0\xE9\xFF^", kWhite}}, {{"\x80\xA0\xE9\xFF^", kWhite}}}),
+    [](const testing::TestParamInfo<RunsCase>& info) { return std::string(info.param.name); });
+
+TEST(RichPane, ABulkReplacementRaisesTheChangeSignalOnce) {
+    QTextEdit edit;
+    RichPane pane(&edit);
+    pane.SetText("old");
+    QSignalSpy spy(&edit, &QTextEdit::textChanged);
+    Runs many;
+    for (int i = 0; i < 500; ++i) many.push_back({"x", i % 2 ? kRed : kGreen});
+    pane.SetRuns(many);
+    EXPECT_EQ(spy.count(), 1);
+    pane.SetText("Preview");
+    EXPECT_EQ(spy.count(), 2);
+}
+
+TEST(RichPane, TextTypedWithoutAColourReadsBlack) {
+    QTextEdit edit;
+    RichPane pane(&edit);
+    edit.insertPlainText(QStringLiteral("typed"));
+    EXPECT_EQ(pane.Runs(), (Runs{{"typed", kBlack}}));
+    pane.SetSelStart(0);
+    EXPECT_EQ(pane.SelColor(), kBlack);
+}
+
+TEST(RichPane, SetTextIsBlackWhateverWasThereBefore) {
+    QTextEdit edit;
+    RichPane pane(&edit);
+    pane.SetRuns({{"red", kRed}});
+    pane.SetText("Preview");
+    EXPECT_EQ(pane.Runs(), (Runs{{"Preview", kBlack}}));
+}
+
+struct SelectionCase {
+    const char* name;
+    int start;
+    int length;
+    int expectedStart;
+    int expectedLength;
+};
+
+class RichPaneSelection : public testing::TestWithParam<SelectionCase> {};
+
+TEST_P(RichPaneSelection, StartAndLengthAreCutAtTheEnd) {
+    const SelectionCase& c = GetParam();
+    QTextEdit edit;
+    RichPane pane(&edit);
+    pane.SetText("abcde");
+    pane.SetSelStart(c.start);
+    pane.SetSelLength(c.length);
+    EXPECT_EQ(pane.SelStart(), c.expectedStart);
+    EXPECT_EQ(pane.SelLength(), c.expectedLength);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, RichPaneSelection,
+    testing::Values(SelectionCase{"Inside", 1, 2, 1, 2}, SelectionCase{"LengthPastEnd", 3, 10, 3, 2},
+                    SelectionCase{"StartAtEnd", 5, 1, 5, 0}, SelectionCase{"StartPastEnd", 40, 1, 5, 0},
+                    SelectionCase{"NegativeStart", -3, 1, 0, 1},
+                    SelectionCase{"NegativeLength", 2, -1, 2, 0}),
+    [](const testing::TestParamInfo<SelectionCase>& info) { return std::string(info.param.name); });
+
+TEST(RichPane, SettingTheStartEndsTheSelection) {
+    QTextEdit edit;
+    RichPane pane(&edit);
+    pane.SetText("abcde");
+    pane.SetSelStart(1);
+    pane.SetSelLength(3);
+    pane.SetSelStart(2);
+    EXPECT_EQ(pane.SelLength(), 0);
+}
+
+TEST(RichPane, ColouringASelectionChangesOnlyThoseCharacters) {
+    QTextEdit edit;
+    RichPane pane(&edit);
+    pane.SetRuns({{"abcd", kWhite}});
+    pane.SetSelStart(1);
+    pane.SetSelLength(2);
+    QSignalSpy spy(&edit, &QTextEdit::textChanged);
+    pane.SetSelColor(kRed);
+    EXPECT_EQ(pane.Runs(), (Runs{{"a", kWhite}, {"bc", kRed}, {"d", kWhite}}));
+    EXPECT_EQ(pane.SelColor(), kRed);
+    EXPECT_EQ(spy.count(), 1) << "a change of colour alone is a change of the pane";
+    EXPECT_EQ(pane.Text(), "abcd");
+}
+
+TEST(RichPane, AColourChosenWithNothingSelectedColoursWhatIsTypedNext) {
+    QTextEdit edit;
+    RichPane pane(&edit);
+    pane.SetRuns({{"ab", kWhite}});
+    pane.SetSelStart(2);
+    pane.SetSelColor(kGreen);
+    EXPECT_EQ(pane.SelColor(), kGreen);
+    EXPECT_EQ(pane.Runs(), (Runs{{"ab", kWhite}})) << "nothing is inserted";
+    QTest::keyClicks(&edit, QStringLiteral("xy"));
+    EXPECT_EQ(pane.Runs(), (Runs{{"ab", kWhite}, {"xy", kGreen}}));
+}
+
+TEST(RichPane, TypingTakesTheColourOfTheCharacterInFront) {
+    QTextEdit edit;
+    RichPane pane(&edit);
+    pane.SetRuns({{"ab", kRed}, {"cd", kGreen}});
+    pane.SetSelStart(2);
+    EXPECT_EQ(pane.SelColor(), kRed);
+    QTest::keyClicks(&edit, QStringLiteral("x"));
+    EXPECT_EQ(pane.Runs(), (Runs{{"abx", kRed}, {"cd", kGreen}}));
+}
+
+TEST(RichPane, SelTextReplacesTheSelectionInTheLastChosenColour) {
+    QTextEdit edit;
+    RichPane pane(&edit);
+    pane.SetRuns({{"abcd", kWhite}});
+    pane.SetSelColor(kRed);
+    pane.SetSelStart(1);
+    pane.SetSelLength(2);
+    pane.SetSelText("XYZ");
+    EXPECT_EQ(pane.Runs(), (Runs{{"a", kWhite}, {"XYZ", kRed}, {"d", kWhite}}));
+    EXPECT_EQ(pane.SelStart(), 4);
+    EXPECT_EQ(pane.SelLength(), 0);
+}
+
+TEST(RichPane, AnEmptySelTextAtTheEndChangesNothing) {
+    QTextEdit edit;
+    RichPane pane(&edit);
+    pane.SetText("ab");
+    QSignalSpy spy(&edit, &QTextEdit::textChanged);
+    pane.SetSelStart(2);
+    pane.SetSelText("");
+    EXPECT_EQ(spy.count(), 0);
+    EXPECT_EQ(pane.Text(), "ab");
+}
+
+TEST(RichPane, LockedKeepsTheUserOutButNotTheRoutines) {
+    QTextEdit edit;
+    RichPane pane(&edit);
+    pane.SetLocked(true);
+    EXPECT_TRUE(pane.Locked());
+    EXPECT_TRUE(edit.isReadOnly());
+    pane.SetText("still written");
+    EXPECT_EQ(pane.Text(), "still written");
+    QTest::keyClicks(&edit, QStringLiteral("zz"));
+    EXPECT_EQ(pane.Text(), "still written");
+    pane.SetLocked(false);
+    EXPECT_FALSE(edit.isReadOnly());
+}
+
+}  // namespace
+}  // namespace fs::ui
