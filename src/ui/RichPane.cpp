@@ -77,6 +77,7 @@ std::string RichPane::Text() const {
 
 void RichPane::SetText(std::string_view text) {
     SetRuns({ColouredRun{std::string(text), kBlack}});
+    SetSelStart(0);
 }
 
 int RichPane::SelStart() const {
@@ -84,6 +85,7 @@ int RichPane::SelStart() const {
 }
 
 void RichPane::SetSelStart(int position) {
+    pending_.reset();
     QTextCursor cursor = edit_->textCursor();
     cursor.setPosition(std::clamp(position, 0, Length(*edit_->document())));
     edit_->setTextCursor(cursor);
@@ -95,6 +97,7 @@ int RichPane::SelLength() const {
 }
 
 void RichPane::SetSelLength(int length) {
+    pending_.reset();
     QTextCursor cursor = edit_->textCursor();
     const int start = cursor.selectionStart();
     const int end = std::clamp(start + std::max(0, length), start, Length(*edit_->document()));
@@ -106,14 +109,20 @@ void RichPane::SetSelLength(int length) {
 Colour RichPane::SelColor() const {
     const QTextCursor cursor = edit_->textCursor();
     if (cursor.hasSelection()) return ColourAt(*edit_->document(), cursor.selectionStart());
-    // What typing at the caret would take: a colour chosen for the next
-    // insertion, else the character in front of the caret.
-    return ColourOf(cursor.charFormat());
+    // The widget forgets a chosen colour when the caret moves; so do we.
+    if (pending_ && cursor.position() == pendingAt_ && ColourOf(cursor.charFormat()) == *pending_)
+        return *pending_;
+    if (cursor.position() > 0) return ColourAt(*edit_->document(), cursor.position() - 1);
+    return kBlack;
 }
 
 void RichPane::SetSelColor(Colour colour) {
-    lastColour_ = colour;
     QTextCursor cursor = edit_->textCursor();
+    if (!cursor.hasSelection()) {
+        pending_ = colour;
+        pendingAt_ = cursor.position();
+    }
+    // With nothing selected this is the colour the widget types in next.
     cursor.mergeCharFormat(FormatOf(colour));
     edit_->setTextCursor(cursor);
 }
@@ -121,7 +130,9 @@ void RichPane::SetSelColor(Colour colour) {
 void RichPane::SetSelText(std::string_view text) {
     QTextCursor cursor = edit_->textCursor();
     if (text.empty() && !cursor.hasSelection()) return;
-    cursor.insertText(ToQString(text), FormatOf(lastColour_));
+    const Colour colour = SelColor();
+    pending_.reset();
+    cursor.insertText(ToQString(text), FormatOf(colour));
     edit_->setTextCursor(cursor);
 }
 
@@ -149,7 +160,7 @@ void RichPane::SetRuns(const std::vector<ColouredRun>& runs) {
         cursor.insertText(ToQString(run.text), *it);
     }
     cursor.endEditBlock();
-    if (!runs.empty()) lastColour_ = runs.back().colour;
+    pending_.reset();
     // The caret ends behind the last character, as after a render character by
     // character, with no colour pending for the next insertion.
     QTextCursor caret(doc);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "colour/Pane.h"
 
 class QTextEdit;
@@ -33,8 +35,10 @@ public:
 
 private:
     QTextEdit* edit_;
-    // What SetSelText writes in: the colour last given to SetSelColor.
-    Colour lastColour_ = kBlack;
+    // A colour given to SetSelColor with nothing selected, and where the caret
+    // stood then: it holds for the next insertion until the caret moves.
+    std::optional<Colour> pending_;
+    int pendingAt_ = 0;
 };
 
 }  // namespace fs::ui

@@ -197,16 +197,67 @@ TEST(RichPane, TypingTakesTheColourOfTheCharacterInFront) {
     EXPECT_EQ(pane.Runs(), (Runs{{"abx", kRed}, {"cd", kGreen}}));
 }
 
-TEST(RichPane, SelTextReplacesTheSelectionInTheLastChosenColour) {
+TEST(RichPane, SelTextReplacesTheSelectionInTheColourJustGiven) {
     QTextEdit edit;
     RichPane pane(&edit);
     pane.SetRuns({{"abcd", kWhite}});
-    pane.SetSelColor(kRed);
     pane.SetSelStart(1);
     pane.SetSelLength(2);
+    pane.SetSelColor(kRed);
     pane.SetSelText("XYZ");
     EXPECT_EQ(pane.Runs(), (Runs{{"a", kWhite}, {"XYZ", kRed}, {"d", kWhite}}));
     EXPECT_EQ(pane.SelStart(), 4);
+    EXPECT_EQ(pane.SelLength(), 0);
+}
+
+struct CaretColourCase {
+    const char* name;
+    int caret;
+    bool choose;    // SetSelColor(green) at the caret before reading
+    bool moveAway;  // then the caret moves and comes back
+    Colour expected;
+};
+
+class RichPaneCaretColour : public testing::TestWithParam<CaretColourCase> {};
+
+// With nothing selected the colour read, and inserted by SelText, is the one
+// chosen at this caret, else the colour of the character in front, else black.
+TEST_P(RichPaneCaretColour, ReadAndInsertedAlike) {
+    const CaretColourCase& c = GetParam();
+    QTextEdit edit;
+    RichPane pane(&edit);
+    pane.SetRuns({{"ab", kRed}, {"cd", kWhite}});
+    pane.SetSelStart(c.caret);
+    if (c.choose) pane.SetSelColor(kGreen);
+    if (c.moveAway) {
+        pane.SetSelStart(c.caret == 0 ? 1 : 0);
+        pane.SetSelStart(c.caret);
+    }
+    EXPECT_EQ(pane.SelColor(), c.expected);
+    pane.SetSelText("x");
+    pane.SetSelStart(c.caret);
+    pane.SetSelLength(1);
+    EXPECT_EQ(pane.SelColor(), c.expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, RichPaneCaretColour,
+                         testing::Values(CaretColourCase{"AtStartNothingInFront", 0, false, false, kBlack},
+                                         CaretColourCase{"BehindRed", 2, false, false, kRed},
+                                         CaretColourCase{"AtEnd", 4, false, false, kWhite},
+                                         CaretColourCase{"ChosenAtStart", 0, true, false, kGreen},
+                                         CaretColourCase{"ChosenInside", 2, true, false, kGreen},
+                                         CaretColourCase{"ChosenThenMoved", 2, true, true, kRed}),
+                         [](const testing::TestParamInfo<CaretColourCase>& info) {
+                             return std::string(info.param.name);
+                         });
+
+TEST(RichPane, SetTextPutsTheCaretAtTheStartAndRunsAtTheEnd) {
+    QTextEdit edit;
+    RichPane pane(&edit);
+    pane.SetText("Preview");
+    EXPECT_EQ(pane.SelStart(), 0);
+    pane.SetRuns({{"abc", kRed}});
+    EXPECT_EQ(pane.SelStart(), 3);
     EXPECT_EQ(pane.SelLength(), 0);
 }
 
