@@ -38,13 +38,16 @@ public:
     virtual int SelLength() const = 0;
     // Cut off at the end of the text.
     virtual void SetSelLength(int length) = 0;
-    // The colour of the first selected character; with an empty selection the
-    // colour of the character in front of the caret (the colour that typing
-    // there would take).
+    // The colour of the first selected character. With an empty selection: the
+    // colour given to SetSelColor since the caret last moved, else the colour
+    // of the character in front of the caret (the colour that typing there
+    // would take), else black, the colour of text never painted.
     virtual Colour SelColor() const = 0;
     // Colours the selection; with an empty selection, what is inserted next.
     virtual void SetSelColor(Colour colour) = 0;
-    // Replaces the selection by `text` in the colour last given to SetSelColor.
+    // Replaces the selection by `text` in the colour last given to SetSelColor
+    // (the colour SelColor reads), leaving the caret behind it. The empty text
+    // with an empty selection changes nothing.
     virtual void SetSelText(std::string_view text) = 0;
 
     virtual bool Locked() const = 0;

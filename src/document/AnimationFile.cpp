@@ -1,0 +1,93 @@
+#include "document/AnimationFile.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "document/TextFile.h"
+
+namespace fs {
+namespace {
+
+constexpr std::string_view kLineEnd = "\r\n";
+constexpr std::string_view kDefaultTime = "15";
+constexpr std::string_view kNoAction = "[none]";
+
+}  // namespace
+
+bool FileExists(const std::string& path) {
+    if (path.empty()) return false;
+    const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0) return false;
+    struct stat st {};
+    const bool file = ::fstat(fd, &st) == 0 && !S_ISDIR(st.st_mode);
+    ::close(fd);
+    return file;
+}
+
+LoadStatus LoadAnimationBytes(std::string_view data, AnimationScript& script) {
+    AnimationScript::Batch batch(script);
+    script.ClearLines();
+    LoadStatus status = LoadStatus::Loaded;
+    bool first = true;
+    bool magic = false;
+    std::string_view record[2];  // Text and Time of the record being read
+    int inRecord = 0;            // lines of it read so far
+    ForEachTextLine(data, [&](std::string_view line) {
+        if (first) {
+            first = false;
+            magic = line == kAnimationMagic;
+            return true;
+        }
+        bool added = true;
+        if (!magic) {
+            added = script.AppendLine(std::string(line), std::string(kDefaultTime), std::string(kNoAction));
+        } else if (inRecord < 2) {
+            record[inRecord++] = line;
+        } else {
+            // The third line is read and dropped; only a full record is added.
+            inRecord = 0;
+            added = script.AppendLine(std::string(record[0]), std::string(record[1]), std::string(kNoAction));
+        }
+        if (!added) status = LoadStatus::Truncated;
+        return added;
+    });
+    return status;
+}
+
+LoadStatus LoadAnimationFile(const std::string& path, AnimationScript& script) {
+    AnimationScript::Batch batch(script);
+    // The old animation is gone before the file is even opened.
+    script.ClearLines();
+    const auto data = ReadFileBytes(path);
+    if (!data) return LoadStatus::ReadFailed;
+    return LoadAnimationBytes(*data, script);
+}
+
+std::string AnimationFileBytes(const AnimationScript& script) {
+    std::size_t size = kAnimationMagic.size() + kLineEnd.size();
+    for (int i = 1; i <= script.Count(); ++i) {
+        const auto& line = script.LineAt(i);
+        size += line.Text.size() + line.Time.size() + line.Action.size() + 3 * kLineEnd.size();
+    }
+    std::string out;
+    out.reserve(size);
+    const auto addLine = [&out](std::string_view text) {
+        out += text;
+        out += kLineEnd;
+    };
+    addLine(kAnimationMagic);
+    for (int i = 1; i <= script.Count(); ++i) {
+        const auto& line = script.LineAt(i);
+        addLine(line.Text);
+        addLine(line.Time);
+        addLine(line.Action);
+    }
+    return out;
+}
+
+std::optional<SaveError> SaveAnimationFile(const std::string& path, const AnimationScript& script) {
+    return WriteFileSafely(path, AnimationFileBytes(script));
+}
+
+}  // namespace fs
