@@ -13,17 +13,13 @@ void MemoryPane::SetText(std::string_view text) {
 }
 
 void MemoryPane::SetSelStart(int position) {
-    const int start = std::clamp(position, 0, Length());
-    if (start == selStart_ && selLength_ == 0) return;  // the caret stays where it is
-    selStart_ = start;
+    selStart_ = std::clamp(position, 0, Length());
     selLength_ = 0;
     pending_.reset();
 }
 
 void MemoryPane::SetSelLength(int length) {
-    const int cut = std::clamp(length, 0, Length() - selStart_);
-    if (cut == selLength_) return;
-    selLength_ = cut;
+    selLength_ = std::clamp(length, 0, Length() - selStart_);
     pending_.reset();
 }
 

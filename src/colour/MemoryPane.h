@@ -18,7 +18,8 @@ namespace fs {
 //   chosen) is black, the box's default colour.
 // - SetSelStart: negative is 0, past the end is the end; the selection becomes
 //   empty there (SelLength 0). SetSelLength: negative is 0, cut at the end.
-//   Any change of the selection forgets a pending insertion colour.
+//   Every write of either forgets a pending insertion colour, as the caret
+//   counts as moved.
 // - SetSelColor with a selection colours it; with an empty selection it sets
 //   the pending colour: what SetSelText inserts next.
 // - SelColor read: the colour of the first selected character; with an empty
