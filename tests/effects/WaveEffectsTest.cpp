@@ -49,18 +49,6 @@ TEST(Wave2, TypesTheNameInOneCharacterAFrame) {
         // Every frame ends in the protecting "^0": nothing at all.
         {"Wave 2", "0", "Kat", "", true, L{}, "Kat", "^0"},
         {"Wave 2", "0", "", "[QZT]", true, L{}, "", "[QZT]"},
-        // The name isn't rewritten, and a tag in front is never protected.
-        {"Wave 2", "0", "Ka", "[QZT]", false, L{"[QZT]K", "[QZT]Ka"}, "Ka", "[QZT]"},
-    };
-    for (const auto& c : cases) CheckEffect(c);
-}
-
-TEST(Effects, UnknownOrMiscasedNamesDoNothing) {
-    const EffectCase cases[] = {
-        {"wave 2", "0", "^1Kat", "[QZT]", true, L{}, "^1Kat", "[QZT]"},
-        {"Wave Forward", "0", "^1Kat", "[QZT]", true, L{}, "^1Kat", "[QZT]"},
-        {"bounce", "1", "^1Kat", "^4[QZT]", false, L{}, "^1Kat", "^4[QZT]"},
-        {"", "1", "^1Kat", "", false, L{}, "^1Kat", ""},
     };
     for (const auto& c : cases) CheckEffect(c);
 }
