@@ -1,6 +1,72 @@
-#include <cstdio>
+#include <algorithm>
+#include <span>
+#include <string>
+#include <vector>
 
-int main() {
-    std::fputs("usage: flickerscribe-cli COMMAND ...\n", stderr);
-    return 2;
+#include "cli/Args.h"
+#include "cli/Commands.h"
+#include "cli/Terminal.h"
+
+namespace fs::cli {
+namespace {
+
+// Every command of the program, in the order the overview lists them. A new
+// command is one line here and one declaration in Commands.h.
+const Command* const kCommands[] = {
+    &kGenerateCommand, &kImportCommand, &kRenderCommand,
+    // Effects command: goes here.
+};
+
+std::string Overview() {
+    std::string text = "usage: " + std::string(kProgramName) + " COMMAND [OPTIONS] ARGUMENTS\n       " +
+                       std::string(kProgramName) + " COMMAND --help\n\nCommands:\n";
+    std::size_t width = 0;
+    for (const Command* command : kCommands) width = std::max(width, command->spec.name.size());
+    for (const Command* command : kCommands) {
+        text += "  " + std::string(command->spec.name) +
+                std::string(width - command->spec.name.size() + 2, ' ') + std::string(command->spec.summary) +
+                "\n";
+    }
+    text +=
+        "\nExit status: 0 done, 1 a file could not be read or written, 2 usage error,\n"
+        "3 the 32767-line limit stopped the work (the lines that stood were written).\n";
+    return text;
+}
+
+int Run(const Command& command, std::span<const std::string> args) {
+    ParseOutcome outcome = ParseArgs(command.spec, args);
+    switch (outcome.kind) {
+        case ParseOutcome::Kind::Help:
+            WriteNative(stdout, CommandHelp(command.spec));
+            return kExitOk;
+        case ParseOutcome::Kind::UsageError:
+            return UsageError(command.spec, outcome.error);
+        case ParseOutcome::Kind::Run:
+            break;
+    }
+    return command.run(outcome.args);
+}
+
+int Dispatch(const std::vector<std::string>& args) {
+    if (args.empty()) {
+        WriteNative(stderr, Overview());
+        return kExitUsage;
+    }
+    if (args[0] == "--help" || args[0] == "-h") {
+        WriteNative(stdout, Overview());
+        return kExitOk;
+    }
+    for (const Command* command : kCommands) {
+        if (command->spec.name == args[0]) return Run(*command, std::span(args).subspan(1));
+    }
+    Complain("unknown command " + args[0]);
+    WriteNative(stderr, Overview());
+    return kExitUsage;
+}
+
+}  // namespace
+}  // namespace fs::cli
+
+int main(int argc, char** argv) {
+    return fs::cli::Dispatch(std::vector<std::string>(argv + 1, argv + argc));
 }

@@ -1,0 +1,129 @@
+#include "cli/Args.h"
+
+#include <algorithm>
+
+#include "cli/Terminal.h"
+
+namespace fs::cli {
+namespace {
+
+const OptionSpec* FindOption(const CommandSpec& spec, std::string_view name) {
+    const auto it = std::find_if(spec.options.begin(), spec.options.end(),
+                                 [&](const OptionSpec& o) { return o.name == name; });
+    return it == spec.options.end() ? nullptr : &*it;
+}
+
+bool IsHelp(std::string_view arg) {
+    return arg == "--help" || arg == "-h";
+}
+
+ParseOutcome Fail(std::string message) {
+    ParseOutcome outcome;
+    outcome.kind = ParseOutcome::Kind::UsageError;
+    outcome.error = std::move(message);
+    return outcome;
+}
+
+}  // namespace
+
+bool ParsedArgs::Has(std::string_view option) const {
+    return std::any_of(options_.begin(), options_.end(), [&](const auto& o) { return o.first == option; });
+}
+
+std::optional<std::string> ParsedArgs::Value(std::string_view option) const {
+    for (auto it = options_.rbegin(); it != options_.rend(); ++it) {
+        if (it->first == option) return it->second;
+    }
+    return std::nullopt;
+}
+
+std::vector<std::string> ParsedArgs::Values(std::string_view option) const {
+    std::vector<std::string> values;
+    for (const auto& [name, value] : options_) {
+        if (name == option) values.push_back(value);
+    }
+    return values;
+}
+
+ParseOutcome ParseArgs(const CommandSpec& spec, std::span<const std::string> args) {
+    ParseOutcome outcome;
+    bool optionsEnded = false;
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        const std::string& arg = args[i];
+        if (optionsEnded || arg == "-" || !arg.starts_with('-')) {
+            outcome.args.AddPositional(arg);
+            continue;
+        }
+        if (arg == "--") {
+            optionsEnded = true;
+            continue;
+        }
+        if (IsHelp(arg)) {
+            outcome.kind = ParseOutcome::Kind::Help;
+            return outcome;
+        }
+        const auto equals = arg.find('=');
+        const std::string name = arg.substr(0, equals);
+        const OptionSpec* option = FindOption(spec, name);
+        if (option == nullptr) {
+            return Fail("unknown option " + arg + " (a text that begins with '-' goes behind --)");
+        }
+        if (option->valueName.empty()) {
+            if (equals != std::string::npos) return Fail("option " + name + " takes no value");
+            outcome.args.AddOption(name, {});
+        } else if (equals != std::string::npos) {
+            outcome.args.AddOption(name, arg.substr(equals + 1));
+        } else if (i + 1 < args.size()) {
+            outcome.args.AddOption(name, args[++i]);
+        } else {
+            return Fail("option " + name + " needs a value " + std::string(option->valueName));
+        }
+    }
+
+    const auto& given = outcome.args.Positionals();
+    const std::size_t wanted = spec.positionals.size();
+    if (given.size() < wanted) return Fail("missing " + std::string(spec.positionals[given.size()]));
+    if (given.size() > wanted && !(spec.lastRepeats && wanted > 0)) {
+        return Fail("unexpected argument " + given[wanted]);
+    }
+    return outcome;
+}
+
+std::string UsageLine(const CommandSpec& spec) {
+    std::string line = "usage: " + std::string(kProgramName) + " " + std::string(spec.name);
+    for (const OptionSpec& option : spec.options) {
+        line += " [" + std::string(option.name);
+        if (!option.valueName.empty()) line += " " + std::string(option.valueName);
+        line += "]";
+    }
+    for (std::string_view positional : spec.positionals) line += " " + std::string(positional);
+    if (spec.lastRepeats && !spec.positionals.empty()) line += "...";
+    return line;
+}
+
+std::string CommandHelp(const CommandSpec& spec) {
+    std::string help = UsageLine(spec) + "\n\n" + std::string(spec.summary) + "\n";
+    if (!spec.details.empty()) help += std::string(spec.details) + "\n";
+    std::vector<std::pair<std::string, std::string_view>> rows;
+    for (const OptionSpec& option : spec.options) {
+        std::string left = std::string(option.name);
+        if (!option.valueName.empty()) left += " " + std::string(option.valueName);
+        rows.emplace_back(std::move(left), option.help);
+    }
+    rows.emplace_back("--help", "show this help");
+    std::size_t width = 0;
+    for (const auto& row : rows) width = std::max(width, row.first.size());
+    help += "\nOptions:\n";
+    for (const auto& [left, text] : rows) {
+        help += "  " + left + std::string(width - left.size() + 2, ' ') + std::string(text) + "\n";
+    }
+    return help;
+}
+
+int UsageError(const CommandSpec& spec, std::string_view message) {
+    Complain(message);
+    WriteNative(stderr, UsageLine(spec) + "\n");
+    return kExitUsage;
+}
+
+}  // namespace fs::cli

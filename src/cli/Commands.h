@@ -1,0 +1,19 @@
+#pragma once
+
+#include "cli/Args.h"
+
+namespace fs::cli {
+
+// One command of the program: what it accepts, and what it does with the
+// arguments once they fit. `run` gives the exit status.
+struct Command {
+    CommandSpec spec;
+    int (*run)(const ParsedArgs& args);
+};
+
+// Each defined in the source file of the same name.
+extern const Command kGenerateCommand;
+extern const Command kImportCommand;
+extern const Command kRenderCommand;
+
+}  // namespace fs::cli

@@ -1,0 +1,78 @@
+#include "cli/Terminal.h"
+
+#include <unistd.h>
+
+#include "cli/Args.h"
+#include "document/Cp1252.h"
+#include "document/SafeWrite.h"
+#include "document/TextFile.h"
+
+namespace fs::cli {
+
+std::string TextArgument(std::string_view utf8) {
+    return Utf8ToCp1252(utf8);
+}
+
+bool IsTerminal(std::FILE* stream) {
+    return ::isatty(::fileno(stream)) == 1;
+}
+
+bool WriteText(std::FILE* stream, std::string_view text) {
+    if (IsTerminal(stream)) return WriteNative(stream, Cp1252ToUtf8(text));
+    return WriteNative(stream, text);
+}
+
+bool WriteNative(std::FILE* stream, std::string_view text) {
+    return std::fwrite(text.data(), 1, text.size(), stream) == text.size();
+}
+
+void Complain(std::string_view message) {
+    std::string line(kProgramName);
+    line += ": ";
+    line += message;
+    line += '\n';
+    WriteNative(stderr, line);
+}
+
+std::optional<std::string> ReadInput(const std::string& path) {
+    if (path != "-") return ReadFileBytes(path);
+    std::string data;
+    char buffer[1 << 16];
+    for (;;) {
+        const std::size_t n = std::fread(buffer, 1, sizeof buffer, stdin);
+        data.append(buffer, n);
+        if (n < sizeof buffer) break;
+    }
+    if (std::ferror(stdin)) return std::nullopt;
+    return data;
+}
+
+int CannotRead(const std::string& path) {
+    Complain(path == "-" ? std::string("cannot read standard input") : "cannot read " + path);
+    return kExitFileError;
+}
+
+int LineLimitReached() {
+    Complain(
+        "an animation holds at most 32767 lines; the lines up to that limit were kept, the rest "
+        "was left out");
+    return kExitLineLimit;
+}
+
+int WriteResult(const std::optional<std::string>& file, std::string_view bytes) {
+    if (file && *file != "-") {
+        if (const auto error = WriteFileSafely(*file, bytes)) {
+            Complain("cannot write " + *file + ": " + error->text + " (" + std::to_string(error->number) +
+                     ")");
+            return kExitFileError;
+        }
+        return kExitOk;
+    }
+    if (!WriteText(stdout, bytes) || std::fflush(stdout) != 0) {
+        Complain("cannot write standard output");
+        return kExitFileError;
+    }
+    return kExitOk;
+}
+
+}  // namespace fs::cli

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdio>
+#include <optional>
+#include <string>
+#include <string_view>
+
+// What goes in and out of the command-line program. The program holds text in
+// Windows-1252, one byte a character; a terminal speaks UTF-8. Text arguments
+// are converted on the way in, and text for a terminal on the way out, while
+// files and pipes get the bytes as they are. Paths are never converted.
+namespace fs::cli {
+
+// A text argument (a name, a coded text) as the program holds it.
+std::string TextArgument(std::string_view utf8);
+
+bool IsTerminal(std::FILE* stream);
+
+// Writes program text: as UTF-8 to a terminal, as bytes to anything else.
+// False when the write failed.
+bool WriteText(std::FILE* stream, std::string_view text);
+
+// Writes text that is already in the terminal's encoding (usage, messages
+// with paths). False when the write failed.
+bool WriteNative(std::FILE* stream, std::string_view text);
+
+// "flickerscribe-cli: <message>" as one line on standard error.
+void Complain(std::string_view message);
+
+// The whole content of an input: standard input for "-", else the file.
+// nullopt when it can't be read.
+std::optional<std::string> ReadInput(const std::string& path);
+
+// Reports an input that can't be read; gives kExitFileError.
+int CannotRead(const std::string& path);
+
+// Reports that the line limit stopped the work; gives kExitLineLimit.
+int LineLimitReached();
+
+// Puts a command's result where it goes: into FILE (written safely, so a
+// failed write leaves an old file whole) or, without a file or for "-", to
+// standard output. Gives kExitOk, or kExitFileError after a message.
+int WriteResult(const std::optional<std::string>& file, std::string_view bytes);
+
+}  // namespace fs::cli
