@@ -1,0 +1,150 @@
+#include "ui/QtDialogs.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QMimeData>
+
+namespace fs::ui {
+
+namespace {
+
+QString TitleOrAppName(const QString& title) {
+    return title.isEmpty() ? QApplication::applicationName() : title;
+}
+
+QMessageBox::Icon ToQtIcon(MsgIcon icon) {
+    switch (icon) {
+        case MsgIcon::Critical:
+            return QMessageBox::Critical;
+        case MsgIcon::Question:
+            return QMessageBox::Question;
+        case MsgIcon::Exclamation:
+            return QMessageBox::Warning;
+        case MsgIcon::Information:
+            return QMessageBox::Information;
+        case MsgIcon::None:
+            break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+struct ButtonSet {
+    QMessageBox::StandardButtons buttons;
+    QMessageBox::StandardButton escape;  // also the answer when the box is closed otherwise
+};
+
+ButtonSet ToQtButtons(MsgButtons buttons) {
+    switch (buttons) {
+        case MsgButtons::OkCancel:
+            return {QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel};
+        case MsgButtons::YesNo:
+            return {QMessageBox::Yes | QMessageBox::No, QMessageBox::No};
+        case MsgButtons::YesNoCancel:
+            return {QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Cancel};
+        case MsgButtons::Ok:
+            break;
+    }
+    return {QMessageBox::Ok, QMessageBox::Ok};
+}
+
+MsgAnswer ToAnswer(int button, QMessageBox::StandardButton escape) {
+    switch (button) {
+        case QMessageBox::Ok:
+            return MsgAnswer::Ok;
+        case QMessageBox::Yes:
+            return MsgAnswer::Yes;
+        case QMessageBox::No:
+            return MsgAnswer::No;
+        case QMessageBox::Cancel:
+            return MsgAnswer::Cancel;
+        default:
+            return ToAnswer(escape, QMessageBox::Cancel);
+    }
+}
+
+}  // namespace
+
+QStringList QtNameFilters(const QString& filter) {
+    QStringList out;
+    const QStringList parts = filter.split(u'|');
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString description = parts[i].trimmed();
+        QString patterns = parts[i + 1].trimmed();
+        patterns.replace(u';', u' ');
+        if (description.contains(QStringLiteral("(%1)").arg(patterns)))
+            out << description;
+        else
+            out << QStringLiteral("%1 (%2)").arg(description, patterns);
+    }
+    return out;
+}
+
+MsgAnswer QtDialogs::Message(QWidget* parent, const QString& text, const QString& title, MsgIcon icon,
+                             MsgButtons buttons) {
+    const ButtonSet set = ToQtButtons(buttons);
+    QMessageBox box(ToQtIcon(icon), TitleOrAppName(title), text, set.buttons, parent);
+    box.setEscapeButton(set.escape);
+    const int pressed = box.exec();
+    return ToAnswer(pressed, set.escape);
+}
+
+std::optional<QString> QtDialogs::InputBox(QWidget* parent, const QString& prompt, const QString& title,
+                                           const QString& defaultText) {
+    QInputDialog dialog(parent);
+    dialog.setWindowTitle(TitleOrAppName(title));
+    dialog.setLabelText(prompt);
+    dialog.setInputMode(QInputDialog::TextInput);
+    dialog.setTextValue(defaultText);
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    return dialog.textValue();
+}
+
+bool QtDialogs::ShowOpen(QWidget* parent, FileDialogState& state) {
+    return ShowFileDialog(parent, state, false);
+}
+
+bool QtDialogs::ShowSave(QWidget* parent, FileDialogState& state) {
+    return ShowFileDialog(parent, state, true);
+}
+
+bool QtDialogs::ShowFileDialog(QWidget* parent, FileDialogState& state, bool save) {
+    QFileDialog dialog(parent, state.DialogTitle);
+    dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    // The commands test for existence and ask about overwriting themselves, and
+    // a name typed without an extension stays without one.
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, true);
+    dialog.setDefaultSuffix(QString());
+    const QStringList filters = QtNameFilters(state.Filter);
+    if (!filters.isEmpty()) dialog.setNameFilters(filters);
+    const QString folder = !state.InitDir.isEmpty() ? state.InitDir : lastFolder_;
+    if (!folder.isEmpty()) dialog.setDirectory(folder);
+    // A remembered name with a folder of its own opens in that folder.
+    if (!state.FileName.isEmpty()) dialog.selectFile(state.FileName);
+    if (dialog.exec() != QDialog::Accepted) return false;
+    const QStringList chosen = dialog.selectedFiles();
+    if (chosen.isEmpty()) return false;
+    state.FileName = QDir::toNativeSeparators(chosen.first());
+    lastFolder_ = QFileInfo(chosen.first()).absolutePath();
+    return true;
+}
+
+QString QtDialogs::BrowseForFolder(QWidget* parent, const QString& title) {
+    return QDir::toNativeSeparators(QFileDialog::getExistingDirectory(parent, title));
+}
+
+void QtDialogs::SetClipboardText(const QString& text) {
+    QGuiApplication::clipboard()->setText(text);
+}
+
+std::optional<QString> QtDialogs::ClipboardText() {
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    if (data == nullptr) return std::nullopt;
+    return data->hasText() ? data->text() : QString();
+}
+
+}  // namespace fs::ui

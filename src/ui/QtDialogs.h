@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QStringList>
+
+#include "ui/Dialogs.h"
+
+namespace fs::ui {
+
+// The dialogs of a running program: Qt's message box, input dialog, file and
+// folder dialogs, and the system clipboard.
+class QtDialogs : public Dialogs {
+public:
+    MsgAnswer Message(QWidget* parent, const QString& text, const QString& title, MsgIcon icon,
+                      MsgButtons buttons) override;
+    std::optional<QString> InputBox(QWidget* parent, const QString& prompt, const QString& title,
+                                    const QString& defaultText) override;
+    bool ShowOpen(QWidget* parent, FileDialogState& state) override;
+    bool ShowSave(QWidget* parent, FileDialogState& state) override;
+    QString BrowseForFolder(QWidget* parent, const QString& title) override;
+    void SetClipboardText(const QString& text) override;
+    std::optional<QString> ClipboardText() override;
+
+private:
+    bool ShowFileDialog(QWidget* parent, FileDialogState& state, bool save);
+
+    // The folder of the last file chosen, where a dialog with no folder of its
+    // own opens next.
+    QString lastFolder_;
+};
+
+// "Description (*.a)|*.a|All (*.*)|*.*" as Qt's name filters:
+// "Description (*.a)", "All (*.*)". A description without its patterns in
+// brackets gets them appended; several patterns ("*.a;*.b") are separated by
+// blanks.
+QStringList QtNameFilters(const QString& filter);
+
+}  // namespace fs::ui

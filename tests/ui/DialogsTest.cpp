@@ -1,0 +1,203 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest-spi.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+
+#include "ScriptedDialogs.h"
+#include "ui/QtDialogs.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace fs::ui {
+namespace {
+
+// --- the filter text of the file dialogs
+
+struct FilterCase {
+    const char* name;
+    QString filter;
+    QStringList expected;
+};
+
+class NameFilters : public testing::TestWithParam<FilterCase> {};
+
+TEST_P(NameFilters, BecomeQtFilters) {
+    EXPECT_EQ(QtNameFilters(GetParam().filter), GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, NameFilters,
+    testing::Values(FilterCase{"OnePair",
+                               u"Brennock Animation Script (*.fsq)|*.fsq"_s,
+                               {u"Brennock Animation Script (*.fsq)"_s}},
+                    FilterCase{"TwoPairs",
+                               u"Scripts (*.cfg)|*.cfg|All files (*.*)|*.*"_s,
+                               {u"Scripts (*.cfg)"_s, u"All files (*.*)"_s}},
+                    FilterCase{"PatternsNotInDescription", u"Scripts|*.cfg"_s, {u"Scripts (*.cfg)"_s}},
+                    FilterCase{"SeveralPatterns", u"Text|*.txt;*.cfg"_s, {u"Text (*.txt *.cfg)"_s}},
+                    FilterCase{"Empty", QString(), {}},
+                    FilterCase{"DescriptionWithoutPattern", u"Lonely"_s, {}}),
+    [](const testing::TestParamInfo<FilterCase>& info) { return std::string(info.param.name); });
+
+// --- the real message box, answered by pressing its buttons
+
+struct MessageCase {
+    const char* name;
+    MsgButtons buttons;
+    QMessageBox::StandardButton press;  // NoButton: the box is closed with Escape
+    MsgAnswer expected;
+};
+
+class QtMessage : public testing::TestWithParam<MessageCase> {};
+
+TEST_P(QtMessage, GivesTheAnswerOfThePressedButton) {
+    const MessageCase& c = GetParam();
+    QtDialogs dialogs;
+    QString seenTitle;
+    QMessageBox::Icon seenIcon = QMessageBox::NoIcon;
+    QTimer::singleShot(0, [&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        seenTitle = box->windowTitle();
+        seenIcon = box->icon();
+        if (c.press == QMessageBox::NoButton)
+            QTest::keyClick(box, Qt::Key_Escape);
+        else
+            box->button(c.press)->click();
+    });
+    const MsgAnswer answer = dialogs.Message(nullptr, u"Text"_s, QString(), MsgIcon::Exclamation, c.buttons);
+    EXPECT_EQ(answer, c.expected);
+    EXPECT_EQ(seenTitle, QApplication::applicationName()) << "an empty title is the program's name";
+    EXPECT_EQ(seenIcon, QMessageBox::Warning);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, QtMessage,
+    testing::Values(
+        MessageCase{"Ok", MsgButtons::Ok, QMessageBox::Ok, MsgAnswer::Ok},
+        MessageCase{"OkEscape", MsgButtons::Ok, QMessageBox::NoButton, MsgAnswer::Ok},
+        MessageCase{"OkCancelOk", MsgButtons::OkCancel, QMessageBox::Ok, MsgAnswer::Ok},
+        MessageCase{"OkCancelCancel", MsgButtons::OkCancel, QMessageBox::Cancel, MsgAnswer::Cancel},
+        MessageCase{"OkCancelEscape", MsgButtons::OkCancel, QMessageBox::NoButton, MsgAnswer::Cancel},
+        MessageCase{"YesNoYes", MsgButtons::YesNo, QMessageBox::Yes, MsgAnswer::Yes},
+        MessageCase{"YesNoEscape", MsgButtons::YesNo, QMessageBox::NoButton, MsgAnswer::No},
+        MessageCase{"YesNoCancelNo", MsgButtons::YesNoCancel, QMessageBox::No, MsgAnswer::No},
+        MessageCase{"YesNoCancelEscape", MsgButtons::YesNoCancel, QMessageBox::NoButton, MsgAnswer::Cancel}),
+    [](const testing::TestParamInfo<MessageCase>& info) { return std::string(info.param.name); });
+
+TEST(QtInputBox, GivesTheTextOrNothingOnCancel) {
+    QtDialogs dialogs;
+    QTimer::singleShot(0, [] {
+        auto* box = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        EXPECT_EQ(box->textValue(), u"5"_s);
+        box->setTextValue(u"12"_s);
+        box->accept();
+    });
+    EXPECT_EQ(dialogs.InputBox(nullptr, u"How many?"_s, u"Copy"_s, u"5"_s), std::optional<QString>(u"12"_s));
+
+    QTimer::singleShot(0, [] { QApplication::activeModalWidget()->close(); });
+    EXPECT_EQ(dialogs.InputBox(nullptr, u"How many?"_s, u"Copy"_s, u"5"_s), std::nullopt);
+}
+
+// --- the scripted dialogs that the window tests rely on
+
+TEST(ScriptedDialogs, AnswersInQueueOrderAndRecordsEveryCall) {
+    ScriptedDialogs dialogs;
+    dialogs.QueueMessageAnswer(MsgAnswer::Cancel);
+    dialogs.QueueMessageAnswer(MsgAnswer::Yes);
+    dialogs.QueueInput(u"7"_s);
+    dialogs.QueueInput(std::nullopt);
+
+    EXPECT_EQ(dialogs.Message(nullptr, u"a"_s, u"T"_s, MsgIcon::Question, MsgButtons::OkCancel),
+              MsgAnswer::Cancel);
+    EXPECT_EQ(dialogs.Message(nullptr, u"b"_s, QString(), MsgIcon::None, MsgButtons::YesNo), MsgAnswer::Yes);
+    EXPECT_EQ(dialogs.Message(nullptr, u"info"_s, QString(), MsgIcon::Information, MsgButtons::Ok),
+              MsgAnswer::Ok)
+        << "a plain OK box needs no queued answer";
+    EXPECT_EQ(dialogs.InputBox(nullptr, u"p"_s, u"t"_s, u"d"_s), std::optional<QString>(u"7"_s));
+    EXPECT_EQ(dialogs.InputBox(nullptr, u"p"_s, u"t"_s, u"d"_s), std::nullopt);
+
+    ASSERT_EQ(dialogs.Messages().size(), 3u);
+    EXPECT_EQ(dialogs.Messages()[0].title, u"T"_s);
+    EXPECT_EQ(dialogs.Messages()[0].icon, MsgIcon::Question);
+    EXPECT_EQ(dialogs.Messages()[1].buttons, MsgButtons::YesNo);
+    const auto inputs = dialogs.CallsOf(DialogCall::Kind::InputBox);
+    ASSERT_EQ(inputs.size(), 2u);
+    EXPECT_EQ(inputs[0].prompt, u"p"_s);
+    EXPECT_EQ(inputs[0].defaultText, u"d"_s);
+    EXPECT_TRUE(dialogs.AllAnswersUsed());
+}
+
+TEST(ScriptedDialogs, FileDialogsWriteTheNameOnlyOnOk) {
+    ScriptedDialogs dialogs;
+    dialogs.QueueOpen(u"/tmp/a.fsq"_s);
+    dialogs.QueueSave(std::nullopt);
+    FileDialogState state{u"Open it"_s, u"X (*.x)|*.x"_s, u"/tmp"_s, u"old.fsq"_s};
+
+    EXPECT_TRUE(dialogs.ShowOpen(nullptr, state));
+    EXPECT_EQ(state.FileName, u"/tmp/a.fsq"_s);
+    EXPECT_FALSE(dialogs.ShowSave(nullptr, state));
+    EXPECT_EQ(state.FileName, u"/tmp/a.fsq"_s);
+
+    const auto opens = dialogs.CallsOf(DialogCall::Kind::ShowOpen);
+    ASSERT_EQ(opens.size(), 1u);
+    EXPECT_EQ(opens[0].state.FileName, u"old.fsq"_s) << "the state as the dialog was given it";
+    EXPECT_EQ(opens[0].state.InitDir, u"/tmp"_s);
+}
+
+TEST(ScriptedDialogs, ClipboardHoldsTextAndCanBeMadeUnreadable) {
+    ScriptedDialogs dialogs;
+    EXPECT_EQ(dialogs.ClipboardText(), std::optional<QString>(QString()));
+    dialogs.SetClipboardText(u"^1A"_s);
+    EXPECT_EQ(dialogs.ClipboardText(), std::optional<QString>(u"^1A"_s));
+    dialogs.clipboardUnreadable = true;
+    EXPECT_EQ(dialogs.ClipboardText(), std::nullopt);
+    EXPECT_EQ(dialogs.CallsOf(DialogCall::Kind::SetClipboard).size(), 1u);
+}
+
+TEST(ScriptedDialogs, AnUnexpectedQuestionFailsAndIsRefused) {
+    ScriptedDialogs dialogs;
+    MsgAnswer answer = MsgAnswer::Ok;
+    EXPECT_NONFATAL_FAILURE(
+        answer = dialogs.Message(nullptr, u"Overwrite?"_s, QString(), MsgIcon::Question, MsgButtons::YesNo),
+        "unexpected message");
+    EXPECT_EQ(answer, MsgAnswer::No);
+    EXPECT_NONFATAL_FAILURE(
+        answer = dialogs.Message(nullptr, u"Go?"_s, QString(), MsgIcon::Question, MsgButtons::YesNoCancel),
+        "unexpected message");
+    EXPECT_EQ(answer, MsgAnswer::Cancel);
+    FileDialogState state;
+    bool ok = true;
+    EXPECT_NONFATAL_FAILURE(ok = dialogs.ShowSave(nullptr, state), "unexpected save dialog");
+    EXPECT_FALSE(ok);
+    QString folder = u"x"_s;
+    EXPECT_NONFATAL_FAILURE(folder = dialogs.BrowseForFolder(nullptr, u"Pick"_s),
+                            "unexpected folder browser");
+    EXPECT_TRUE(folder.isEmpty());
+    dialogs.QueueMessageAnswer(MsgAnswer::Yes);
+    EXPECT_NONFATAL_FAILURE(
+        answer = dialogs.Message(nullptr, u"Sure?"_s, QString(), MsgIcon::Question, MsgButtons::OkCancel),
+        "no button of the message");
+    EXPECT_EQ(answer, MsgAnswer::Cancel);
+}
+
+TEST(ScriptedDialogs, OnCallRunsWhileTheQuestionStands) {
+    ScriptedDialogs dialogs;
+    dialogs.QueueMessageAnswer(MsgAnswer::Ok);
+    int seen = 0;
+    dialogs.onCall = [&](const DialogCall& call) {
+        ++seen;
+        EXPECT_EQ(call.text, u"Now"_s);
+    };
+    dialogs.Message(nullptr, u"Now"_s, QString(), MsgIcon::None, MsgButtons::OkCancel);
+    EXPECT_EQ(seen, 1);
+}
+
+}  // namespace
+}  // namespace fs::ui
