@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+
+class QDialog;
+
+namespace fs::ui {
+
+// Gives a dialog its name and caption and makes it a fixed window of the given
+// client size in twips: no minimise or maximise button, no size grip, no
+// entry of its own in the task bar. Shown with an owner, Qt centres it on the
+// owner.
+void MakeFixedDialog(QDialog& dialog, const QString& name, const QString& caption, int clientWidth,
+                     int clientHeight);
+
+// Like MakeFixedDialog, but the user can resize, minimise and maximise the
+// window; the size given is the one it opens with.
+void MakeSizableDialog(QDialog& dialog, const QString& name, const QString& caption, int clientWidth,
+                       int clientHeight);
+
+}  // namespace fs::ui

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QFont>
+#include <QString>
+
+class QTextEdit;
+
+namespace fs::ui {
+
+// A bold face of the given family and point size; when the family is missing,
+// Qt picks one by the style hint (a fixed-pitch face for TypeWriter).
+QFont BoldFont(const QString& family, qreal points, QFont::StyleHint fallback);
+
+// Gives a rich text pane its look: the grey background that every coloured
+// pane has, black as the colour of text never painted, and `font`.
+void StyleGreyPane(QTextEdit* pane, const QFont& font);
+
+}  // namespace fs::ui

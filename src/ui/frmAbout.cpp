@@ -1,0 +1,99 @@
+#include "ui/frmAbout.h"
+
+#include <QLabel>
+#include <QPalette>
+#include <QPushButton>
+#include <QTextEdit>
+
+#include "colour/ColouredText.h"
+#include "ui/DialogWindow.h"
+#include "ui/PaneStyle.h"
+#include "ui/ProgramInfo.h"
+#include "ui/RichPane.h"
+#include "ui/Twips.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace fs::ui {
+namespace {
+
+// One stroke of the etched separator: a horizontal line from (x1, y) to
+// (x2, y) in twips, `thickness` pixels thick.
+QWidget* AddLine(QWidget* parent, const QString& name, int x1, int x2, int y, int thickness, QColor colour) {
+    auto* line = new QWidget(parent);
+    line->setObjectName(name);
+    line->setGeometry(Twips(x1), Twips(y), Twips(x2) - Twips(x1), thickness);
+    line->setAutoFillBackground(true);
+    QPalette palette = line->palette();
+    palette.setColor(QPalette::Window, colour);
+    line->setPalette(palette);
+    return line;
+}
+
+// The pane takes one '\n' for a line break where the text has CR LF.
+std::string WithPaneBreaks(const std::string& text) {
+    std::string out;
+    out.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') continue;
+        out += text[i];
+    }
+    return out;
+}
+
+}  // namespace
+
+std::string AboutText() {
+    return "^1Flicker^7scribe\r\n\r\nVersion ^8" + info::ProgramVersion() +
+           "\r\n^8Made by ^7[QZT]^2Quillon\r\n";
+}
+
+frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
+    MakeFixedDialog(*this, u"frmAbout"_s, QString(), 5730, 3045);
+
+    txtPreview_ = new QTextEdit(this);
+    txtPreview_->setObjectName(u"txtPreview"_s);
+    txtPreview_->setGeometry(TwipsRect(120, 120, 5415, 2175));
+    txtPreview_->setReadOnly(true);
+    txtPreview_->setLineWrapMode(QTextEdit::NoWrap);
+    StyleGreyPane(txtPreview_, BoldFont(u"Courier New"_s, 14.25, QFont::TypeWriter));
+    pane_ = std::make_unique<RichPane>(txtPreview_);
+
+    // An etched separator: a grey stroke with a white one just below it.
+    Line1_[1] = AddLine(this, u"Line1_1"_s, 90, 5654, 2445, 1, QColor(128, 128, 128));
+    Line1_[0] = AddLine(this, u"Line1_0"_s, 105, 5654, 2460, 2, Qt::white);
+
+    Label1_ = new QLabel(
+        u"Flickerscribe website @ "_s + info::kWebSite + u" [QZT] Website @ "_s + info::kClanWebSite + u" "_s,
+        this);
+    Label1_->setObjectName(u"Label1"_s);
+    Label1_->setGeometry(TwipsRect(120, 2520, 3615, 495));
+    Label1_->setWordWrap(true);
+    Label1_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+
+    cmdOK_ = new QPushButton(u"OK"_s, this);
+    cmdOK_->setObjectName(u"cmdOK"_s);
+    cmdOK_->setGeometry(TwipsRect(4245, 2625, 1260, 345));
+    cmdOK_->setDefault(true);
+    connect(cmdOK_, &QPushButton::clicked, this, &frmAbout::cmdOK_Click);
+    cmdOK_->setFocus();
+
+    Form_Load();
+}
+
+frmAbout::~frmAbout() = default;
+
+void frmAbout::Form_Load() {
+    setWindowTitle(u"About "_s + info::kProgramTitle);
+    RenderCodedText(WithPaneBreaks(AboutText()), *pane_);
+}
+
+void frmAbout::cmdOK_Click() {
+    accept();
+}
+
+Pane& frmAbout::PreviewPane() {
+    return *pane_;
+}
+
+}  // namespace fs::ui

@@ -1,0 +1,108 @@
+#include "ui/frmHelp.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "ui/DialogIcons.h"
+#include "ui/DialogWindow.h"
+#include "ui/Dialogs.h"
+#include "ui/ProgramInfo.h"
+#include "ui/Twips.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace fs::ui {
+namespace {
+
+QGroupBox* AddFrame(QWidget* parent, const QString& name, const QString& caption, int top, int height) {
+    auto* frame = new QGroupBox(caption, parent);
+    frame->setObjectName(name);
+    frame->setGeometry(TwipsRect(120, top, 4215, height));
+    return frame;
+}
+
+QLineEdit* AddValueBox(QWidget* frame, const QString& name, const QString& value, int top) {
+    auto* box = new QLineEdit(value, frame);
+    box->setObjectName(name);
+    box->setGeometry(TwipsRect(120, top, 3495, 375));
+    box->setReadOnly(true);
+    box->setAlignment(Qt::AlignCenter);
+    box->setCursorPosition(0);
+    return box;
+}
+
+QPushButton* AddCopyButton(QWidget* frame, const QString& name, int top, const QString& what) {
+    auto* button = new QPushButton(frame);
+    button->setObjectName(name);
+    button->setGeometry(TwipsRect(3720, top, 375, 375));
+    button->setIcon(CopyIcon());
+    button->setAccessibleName(what);
+    button->setAutoDefault(false);
+    return button;
+}
+
+QLabel* AddLabel(QWidget* frame, const QString& name, const QString& caption, int top) {
+    auto* label = new QLabel(caption, frame);
+    label->setObjectName(name);
+    label->setGeometry(TwipsRect(120, top, 1695, 255));
+    return label;
+}
+
+}  // namespace
+
+frmHelp::frmHelp(Dialogs& dialogs, QWidget* parent) : QDialog(parent), dialogs_(dialogs) {
+    MakeFixedDialog(*this, u"frmHelp"_s, u"Help!!"_s, 4470, 4620);
+
+    fraFAQ_ = AddFrame(this, u"fraFAQ"_s, u"Help + FAQ + Tutorial"_s, 120, 855);
+    Text1_ = AddValueBox(fraFAQ_, u"Text1"_s, info::kWebSite, 360);
+    Command2_ = AddCopyButton(fraFAQ_, u"Command2"_s, 360, u"Copy the web site address"_s);
+    connect(Command2_, &QPushButton::clicked, this, &frmHelp::Command2_Click);
+
+    Frame1_ = AddFrame(this, u"Frame1"_s, u"Forums"_s, 1080, 855);
+    Text2_ = AddValueBox(Frame1_, u"Text2"_s, info::kForums, 360);
+    Command3_ = AddCopyButton(Frame1_, u"Command3"_s, 360, u"Copy the forums address"_s);
+    connect(Command3_, &QPushButton::clicked, this, &frmHelp::Command3_Click);
+
+    Frame2_ = AddFrame(this, u"Frame2"_s, u"Contact me"_s, 2160, 1695);
+    Label1_ = AddLabel(Frame2_, u"Label1"_s, u"Email"_s, 240);
+    Text3_ = AddValueBox(Frame2_, u"Text3"_s, info::kEmail, 480);
+    Label1_->setBuddy(Text3_);
+    Command4_ = AddCopyButton(Frame2_, u"Command4"_s, 480, u"Copy the e-mail address"_s);
+    connect(Command4_, &QPushButton::clicked, this, &frmHelp::Command4_Click);
+    Label2_ = AddLabel(Frame2_, u"Label2"_s, u"ICQ"_s, 960);
+    Text4_ = AddValueBox(Frame2_, u"Text4"_s, info::kChatNumber, 1200);
+    Label2_->setBuddy(Text4_);
+    Command5_ = AddCopyButton(Frame2_, u"Command5"_s, 1200, u"Copy the chat number"_s);
+    connect(Command5_, &QPushButton::clicked, this, &frmHelp::Command5_Click);
+
+    Command1_ = new QPushButton(u"Close"_s, this);
+    Command1_->setObjectName(u"Command1"_s);
+    Command1_->setGeometry(TwipsRect(2880, 4080, 1455, 375));
+    Command1_->setAutoDefault(false);
+    connect(Command1_, &QPushButton::clicked, this, &frmHelp::Command1_Click);
+    Command1_->setFocus();
+}
+
+void frmHelp::Command2_Click() {
+    dialogs_.SetClipboardText(info::kWebSite);
+}
+
+void frmHelp::Command3_Click() {
+    dialogs_.SetClipboardText(info::kForums);
+}
+
+void frmHelp::Command4_Click() {
+    dialogs_.SetClipboardText(info::kEmail);
+}
+
+void frmHelp::Command5_Click() {
+    dialogs_.SetClipboardText(info::kChatNumber);
+}
+
+void frmHelp::Command1_Click() {
+    reject();
+}
+
+}  // namespace fs::ui

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QDialog>
+#include <memory>
+#include <vector>
+
+class QPushButton;
+class QTextEdit;
+
+namespace fs {
+class AnimationScript;
+class Pane;
+}  // namespace fs
+
+namespace fs::ui {
+
+class Dialogs;
+class RichPane;
+
+// Simple edit: the whole animation typed into one multi-line pane, one frame
+// a text line, painted with the colour buttons. Save replaces the line list by
+// the pane's lines; the window stays open and never shows the list.
+class frmSimpleEdit : public QDialog {
+    Q_OBJECT
+
+public:
+    frmSimpleEdit(AnimationScript& script, Dialogs& dialogs, QWidget* parent = nullptr);
+    ~frmSimpleEdit() override;
+
+    void cmdColor_Click(int index);
+    // Empties the list and appends one line (Time "15", Action "[none]") for
+    // each text line of the pane that holds more than blanks. Asks nothing;
+    // only a full list stops it, and then the user is told.
+    void cmdSave_Click();
+    void cmdClose_Click();
+    // The pane fills the window below the colour strip; the strip is as wide
+    // as the window.
+    void Form_Resize();
+
+    Pane& PreviewPane();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    AnimationScript& script_;
+    Dialogs& dialogs_;
+    QWidget* picColors_;
+    std::vector<QPushButton*> cmdColor_;
+    QPushButton* cmdSave_;
+    QPushButton* cmdClose_;
+    QTextEdit* txtPreview_;
+    std::unique_ptr<RichPane> pane_;
+};
+
+}  // namespace fs::ui
