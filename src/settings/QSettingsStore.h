@@ -1,0 +1,26 @@
+#pragma once
+
+#include "settings/SettingsStore.h"
+
+namespace fs::settings {
+
+// The settings in a per-user text file, kept by QSettings: on Linux
+// ~/.config/Flickerscribe/Flickerscribe.conf. Every value is text and comes
+// back exactly as written.
+class QSettingsStore : public SettingsStore {
+public:
+    // The user's own file in the platform's configuration folder.
+    QSettingsStore();
+    // Another file, for tests.
+    explicit QSettingsStore(QString filePath);
+
+    const QString& FilePath() const { return filePath_; }
+
+    QString ReadRegistryString(const QString& valueName, const QString& defaultValue = {}) const override;
+    void WriteRegistryString(const QString& valueName, const QString& value) override;
+
+private:
+    QString filePath_;
+};
+
+}  // namespace fs::settings

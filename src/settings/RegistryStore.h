@@ -1,0 +1,16 @@
+#pragma once
+
+#include "settings/SettingsStore.h"
+
+namespace fs::settings {
+
+// The settings as string values in the per-user registry: the single key
+// "Software/Flickerscribe" directly under HKEY_CURRENT_USER (the slash is part
+// of the key's name, not a path separator). Windows only.
+class RegistryStore : public SettingsStore {
+public:
+    QString ReadRegistryString(const QString& valueName, const QString& defaultValue = {}) const override;
+    void WriteRegistryString(const QString& valueName, const QString& value) override;
+};
+
+}  // namespace fs::settings

@@ -1,0 +1,19 @@
+#include "settings/UserSettingsStore.h"
+
+#ifdef _WIN32
+#include "settings/RegistryStore.h"
+#else
+#include "settings/QSettingsStore.h"
+#endif
+
+namespace fs::settings {
+
+std::unique_ptr<SettingsStore> OpenUserSettingsStore() {
+#ifdef _WIN32
+    return std::make_unique<RegistryStore>();
+#else
+    return std::make_unique<QSettingsStore>();
+#endif
+}
+
+}  // namespace fs::settings

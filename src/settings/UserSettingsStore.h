@@ -1,0 +1,13 @@
+#pragma once
+
+#include <memory>
+
+#include "settings/SettingsStore.h"
+
+namespace fs::settings {
+
+// The current user's settings store of this platform: the registry on
+// Windows, a configuration file elsewhere.
+std::unique_ptr<SettingsStore> OpenUserSettingsStore();
+
+}  // namespace fs::settings

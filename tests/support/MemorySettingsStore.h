@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+
+#include "settings/SettingsStore.h"
+
+namespace fs::settings {
+
+// A settings store in memory for tests: starts empty (a first run) or with
+// the values given, and tells what was read and whether anything was written.
+class MemorySettingsStore : public SettingsStore {
+public:
+    MemorySettingsStore() = default;
+    explicit MemorySettingsStore(QMap<QString, QString> values) : values_(std::move(values)) {}
+
+    QString ReadRegistryString(const QString& valueName, const QString& defaultValue = {}) const override {
+        reads_.append(valueName);
+        const auto it = values_.constFind(valueName);
+        return it == values_.constEnd() ? defaultValue : *it;
+    }
+
+    void WriteRegistryString(const QString& valueName, const QString& value) override {
+        values_.insert(valueName, value);
+        writes_.append(valueName);
+    }
+
+    const QMap<QString, QString>& Values() const { return values_; }
+    bool Has(const QString& valueName) const { return values_.contains(valueName); }
+    // The names read and written, in order.
+    const QStringList& Reads() const { return reads_; }
+    const QStringList& Writes() const { return writes_; }
+    bool Written() const { return !writes_.isEmpty(); }
+
+private:
+    QMap<QString, QString> values_;
+    mutable QStringList reads_;
+    QStringList writes_;
+};
+
+}  // namespace fs::settings
