@@ -62,25 +62,19 @@ TEST(ConfigImport, OneLineScripts) {
     };
     const Case cases[] = {
         {"  // set name \"x\"", {}},
-        {"//set name \"x\"; set name \"y\"", {}},
         {"\t// set name \"x\"", {}},  // a tab makes it no comment: the piece is no set name
-        {"\tset name \"x\"", {}},
         {"set name \"x\"; // text", {{"x"}}},
         {"set name \"x\" // text", {{"x // text"}}},
         {"SET NAME \"x\"", {{"x"}}},
-        {"Set Name \"x\"", {{"x"}}},
         {"set  name \"x\"", {}},
         {"set name ", {}},
         {"set name x", {{"x"}}},
-        {"set name=x", {{"x"}}},
         {"set name \"a\"\"b\"", {{"ab"}}},
         {"set name \"  lead\"", {{"  lead"}}},
-        {"set name \"x\"   ", {{"x   "}}},
         {"   ;  ; set name \"x\";;", {{"x"}}},
         {"set name \"a\";set name \"b\";set name \"c\"", {{"a"}, {"b"}, {"c"}}},
         {"set name \"caf\xE9\"", {{"caf\xE9"}}},
         {"set name \"x\"\nset name \"y\"", {{"x\nset name y"}}},  // a lone line feed ends nothing
-        {"", {}},
     };
     for (const auto& c : cases) EXPECT_EQ(Import(c.line), c.lines) << c.line;
 }
@@ -99,14 +93,10 @@ TEST(ConfigImport, WaitSetsTheTimeOfTheLineAppendedLast) {
         {"set name x;wait \" 7 \"", {{"x", " 7 "}}},  // trimmed before the quotes go
         {"set name x;wait 007", {{"x", "007"}}},
         {"set name x;wait 1.5", {{"x", "1.5"}}},
-        {"set name x;wait 0", {{"x", "0"}}},
-        {"set name x;wait 250", {{"x", "250"}}},
         {"set name x;wait abc", {{"x"}}},
         {"set name x;wait 99999", {{"x"}}},
         {"set name x;Wait 20", {{"x"}}},
-        {"set name x;WAIT 20", {{"x"}}},
         {"set name x;wait5", {{"x"}}},
-        {"set name x;wait 5", {{"x", "5"}}},
         {"set name x;wait\t20", {{"x", "20"}}},  // the fifth character goes whatever it is
         {"set name x;waitX20", {{"x", "20"}}},
         {"set name x;set name y;wait 20", {{"x"}, {"y", "20"}}},
@@ -114,14 +104,6 @@ TEST(ConfigImport, WaitSetsTheTimeOfTheLineAppendedLast) {
         {"set name x\r\n// wait 20", {{"x"}}},
     };
     for (const auto& c : cases) EXPECT_EQ(Import(c.script), c.lines) << c.script;
-}
-
-TEST(ConfigImport, RemoveQuotes) {
-    const std::pair<const char*, const char*> cases[] = {
-        {"", ""},           {"\"", ""},     {"\"\"\"", ""},     {"\"a\"", "a"},
-        {"a\"b\"c", "abc"}, {"'a'", "'a'"}, {"plain", "plain"},
-    };
-    for (const auto& [in, out] : cases) EXPECT_EQ(RemoveQuotes(in), out) << in;
 }
 
 TEST(ConfigImport, GeneratedScriptComesBack) {

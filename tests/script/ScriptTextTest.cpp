@@ -44,10 +44,6 @@ TEST(ScriptText, WaitCommandTable) {
     }
 }
 
-TEST(ScriptText, WaitCommandWithoutAReportStillFallsBack) {
-    EXPECT_EQ(WaitCommand("abc", nullptr), "wait 15");
-}
-
 TEST(ScriptText, NameCommandTable) {
     struct Case {
         std::string text;
@@ -67,15 +63,6 @@ TEST(ScriptText, NameCommandTable) {
         {std::string("a\0b", 3), std::string("set name \"a\0b\"", 14)},
     };
     for (const auto& c : cases) EXPECT_EQ(NameCommand(c.text), c.command) << '"' << c.text << '"';
-}
-
-TEST(ScriptText, BannerLinesAreThirtyCharactersWithTheAddressCentred) {
-    for (std::string_view line : kScriptBanner) {
-        EXPECT_EQ(line.size(), 30u) << line;
-        EXPECT_TRUE(line.starts_with("//")) << line;
-        EXPECT_TRUE(line.ends_with("\\\\")) << line;
-    }
-    EXPECT_EQ(kScriptBanner[5], "//-" + std::string(kContactAddress) + "-\\\\");
 }
 
 TEST(ScriptText, EmptyListGivesTheEmptyLineAndTheBannerAlone) {
@@ -129,14 +116,6 @@ TEST(ScriptText, ActionPlaysNoPartAndTwoRunsAgree) {
     const std::string first = BuildScriptText(plain, nullptr);
     EXPECT_EQ(first, BuildScriptText(odd, nullptr));
     EXPECT_EQ(first, BuildScriptText(plain, nullptr));
-}
-
-TEST(ScriptText, AppendScriptLinePutsTheBreakInFront) {
-    std::string text;
-    AppendScriptLine(text, "a");
-    AppendScriptLine(text, "");
-    AppendScriptLine(text, "b");
-    EXPECT_EQ(text, "\r\na\r\n\r\nb");
 }
 
 }  // namespace
