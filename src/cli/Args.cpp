@@ -7,10 +7,10 @@
 namespace fs::cli {
 namespace {
 
-const OptionSpec* FindOption(const CommandSpec& spec, std::string_view name) {
-    const auto it = std::find_if(spec.options.begin(), spec.options.end(),
-                                 [&](const OptionSpec& o) { return o.name == name; });
-    return it == spec.options.end() ? nullptr : &*it;
+const OptionSyntax* FindOption(const CommandSyntax& syntax, std::string_view name) {
+    const auto it = std::find_if(syntax.options.begin(), syntax.options.end(),
+                                 [&](const OptionSyntax& o) { return o.name == name; });
+    return it == syntax.options.end() ? nullptr : &*it;
 }
 
 bool IsHelp(std::string_view arg) {
@@ -45,7 +45,7 @@ std::vector<std::string> ParsedArgs::Values(std::string_view option) const {
     return values;
 }
 
-ParseOutcome ParseArgs(const CommandSpec& spec, std::span<const std::string> args) {
+ParseOutcome ParseArgs(const CommandSyntax& syntax, std::span<const std::string> args) {
     ParseOutcome outcome;
     bool optionsEnded = false;
     for (std::size_t i = 0; i < args.size(); ++i) {
@@ -64,7 +64,7 @@ ParseOutcome ParseArgs(const CommandSpec& spec, std::span<const std::string> arg
         }
         const auto equals = arg.find('=');
         const std::string name = arg.substr(0, equals);
-        const OptionSpec* option = FindOption(spec, name);
+        const OptionSyntax* option = FindOption(syntax, name);
         if (option == nullptr) {
             return Fail("unknown option " + arg + " (a text that begins with '-' goes behind --)");
         }
@@ -81,31 +81,31 @@ ParseOutcome ParseArgs(const CommandSpec& spec, std::span<const std::string> arg
     }
 
     const auto& given = outcome.args.Positionals();
-    const std::size_t wanted = spec.positionals.size();
-    if (given.size() < wanted) return Fail("missing " + std::string(spec.positionals[given.size()]));
-    if (given.size() > wanted && !(spec.lastRepeats && wanted > 0)) {
+    const std::size_t wanted = syntax.positionals.size();
+    if (given.size() < wanted) return Fail("missing " + std::string(syntax.positionals[given.size()]));
+    if (given.size() > wanted && !(syntax.lastRepeats && wanted > 0)) {
         return Fail("unexpected argument " + given[wanted]);
     }
     return outcome;
 }
 
-std::string UsageLine(const CommandSpec& spec) {
-    std::string line = "usage: " + std::string(kProgramName) + " " + std::string(spec.name);
-    for (const OptionSpec& option : spec.options) {
+std::string UsageLine(const CommandSyntax& syntax) {
+    std::string line = "usage: " + std::string(kProgramName) + " " + std::string(syntax.name);
+    for (const OptionSyntax& option : syntax.options) {
         line += " [" + std::string(option.name);
         if (!option.valueName.empty()) line += " " + std::string(option.valueName);
         line += "]";
     }
-    for (std::string_view positional : spec.positionals) line += " " + std::string(positional);
-    if (spec.lastRepeats && !spec.positionals.empty()) line += "...";
+    for (std::string_view positional : syntax.positionals) line += " " + std::string(positional);
+    if (syntax.lastRepeats && !syntax.positionals.empty()) line += "...";
     return line;
 }
 
-std::string CommandHelp(const CommandSpec& spec) {
-    std::string help = UsageLine(spec) + "\n\n" + std::string(spec.summary) + "\n";
-    if (!spec.details.empty()) help += std::string(spec.details) + "\n";
+std::string CommandHelp(const CommandSyntax& syntax) {
+    std::string help = UsageLine(syntax) + "\n\n" + std::string(syntax.summary) + "\n";
+    if (!syntax.details.empty()) help += std::string(syntax.details) + "\n";
     std::vector<std::pair<std::string, std::string_view>> rows;
-    for (const OptionSpec& option : spec.options) {
+    for (const OptionSyntax& option : syntax.options) {
         std::string left = std::string(option.name);
         if (!option.valueName.empty()) left += " " + std::string(option.valueName);
         rows.emplace_back(std::move(left), option.help);
@@ -120,9 +120,9 @@ std::string CommandHelp(const CommandSpec& spec) {
     return help;
 }
 
-int UsageError(const CommandSpec& spec, std::string_view message) {
+int UsageError(const CommandSyntax& syntax, std::string_view message) {
     Complain(message);
-    WriteNative(stderr, UsageLine(spec) + "\n");
+    WriteNative(stderr, UsageLine(syntax) + "\n");
     return kExitUsage;
 }
 

@@ -19,7 +19,7 @@ enum ExitStatus : int {
     kExitLineLimit = 3,  // the 32767-line limit stopped the work; what stood was written
 };
 
-struct OptionSpec {
+struct OptionSyntax {
     std::string_view name;       // with its dashes: "--output"
     std::string_view valueName;  // "FILE"; empty for an option that takes no value
     std::string_view help;
@@ -27,11 +27,11 @@ struct OptionSpec {
 
 // What a command accepts. Every option is optional; --help is always there.
 // The positional arguments are all required, in this order.
-struct CommandSpec {
+struct CommandSyntax {
     std::string_view name;
     std::string_view summary;  // one line, for the list of commands
     std::string_view details;  // more lines for the command's own help; may be empty
-    std::vector<OptionSpec> options;
+    std::vector<OptionSyntax> options;
     std::vector<std::string_view> positionals;
     bool lastRepeats = false;  // the last positional may be given more than once
 };
@@ -45,6 +45,8 @@ public:
     std::optional<std::string> Value(std::string_view option) const;
     std::vector<std::string> Values(std::string_view option) const;
     const std::vector<std::string>& Positionals() const { return positionals_; }
+    // Every option with its value ("" for a flag), in the order given.
+    const std::vector<std::pair<std::string, std::string>>& Options() const { return options_; }
 
     void AddOption(std::string name, std::string value) {
         options_.emplace_back(std::move(name), std::move(value));
@@ -67,15 +69,15 @@ struct ParseOutcome {
 // next argument whatever it looks like ("--name -=X=-"), or follows an '='
 // in the same argument. A lone "-" is a positional argument (standard input),
 // and everything behind "--" is positional too.
-ParseOutcome ParseArgs(const CommandSpec& spec, std::span<const std::string> args);
+ParseOutcome ParseArgs(const CommandSyntax& syntax, std::span<const std::string> args);
 
 // "usage: flickerscribe-cli generate [--output FILE] INPUT"
-std::string UsageLine(const CommandSpec& spec);
+std::string UsageLine(const CommandSyntax& syntax);
 // The usage line, the summary, the details and one line for each option.
-std::string CommandHelp(const CommandSpec& spec);
+std::string CommandHelp(const CommandSyntax& syntax);
 
 // Writes the message and the command's usage to standard error; gives
 // kExitUsage. For checks a command makes beyond what ParseArgs knows.
-int UsageError(const CommandSpec& spec, std::string_view message);
+int UsageError(const CommandSyntax& syntax, std::string_view message);
 
 }  // namespace fs::cli

@@ -7,7 +7,7 @@ namespace fs::cli {
 // One command of the program: what it accepts, and what it does with the
 // arguments once they fit. `run` gives the exit status.
 struct Command {
-    CommandSpec spec;
+    CommandSyntax syntax;
     int (*run)(const ParsedArgs& args);
 };
 

@@ -21,11 +21,11 @@ std::string Overview() {
     std::string text = "usage: " + std::string(kProgramName) + " COMMAND [OPTIONS] ARGUMENTS\n       " +
                        std::string(kProgramName) + " COMMAND --help\n\nCommands:\n";
     std::size_t width = 0;
-    for (const Command* command : kCommands) width = std::max(width, command->spec.name.size());
+    for (const Command* command : kCommands) width = std::max(width, command->syntax.name.size());
     for (const Command* command : kCommands) {
-        text += "  " + std::string(command->spec.name) +
-                std::string(width - command->spec.name.size() + 2, ' ') + std::string(command->spec.summary) +
-                "\n";
+        text += "  " + std::string(command->syntax.name) +
+                std::string(width - command->syntax.name.size() + 2, ' ') +
+                std::string(command->syntax.summary) + "\n";
     }
     text +=
         "\nExit status: 0 done, 1 a file could not be read or written, 2 usage error,\n"
@@ -34,13 +34,13 @@ std::string Overview() {
 }
 
 int Run(const Command& command, std::span<const std::string> args) {
-    ParseOutcome outcome = ParseArgs(command.spec, args);
+    ParseOutcome outcome = ParseArgs(command.syntax, args);
     switch (outcome.kind) {
         case ParseOutcome::Kind::Help:
-            WriteNative(stdout, CommandHelp(command.spec));
+            WriteNative(stdout, CommandHelp(command.syntax));
             return kExitOk;
         case ParseOutcome::Kind::UsageError:
-            return UsageError(command.spec, outcome.error);
+            return UsageError(command.syntax, outcome.error);
         case ParseOutcome::Kind::Run:
             break;
     }
@@ -57,7 +57,7 @@ int Dispatch(const std::vector<std::string>& args) {
         return kExitOk;
     }
     for (const Command* command : kCommands) {
-        if (command->spec.name == args[0]) return Run(*command, std::span(args).subspan(1));
+        if (command->syntax.name == args[0]) return Run(*command, std::span(args).subspan(1));
     }
     Complain("unknown command " + args[0]);
     WriteNative(stderr, Overview());
