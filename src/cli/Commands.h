@@ -15,5 +15,6 @@ struct Command {
 extern const Command kGenerateCommand;
 extern const Command kImportCommand;
 extern const Command kRenderCommand;
+extern const Command kEffectsCommand;
 
 }  // namespace fs::cli

@@ -14,7 +14,7 @@ namespace {
 // command is one line here and one declaration in Commands.h.
 const Command* const kCommands[] = {
     &kGenerateCommand, &kImportCommand, &kRenderCommand,
-    // Effects command: goes here.
+    &kEffectsCommand,
 };
 
 std::string Overview() {
