@@ -94,7 +94,6 @@ TEST_F(EffectsCommand, BadArgumentsAndUnwritableFiles) {
         {{"effects", "--answer", "maybe"}, 2},
         {{"effects", "--name", std::string(32768, 'a')}, 2},
         {{"effects", "--tag", std::string(32768, 'a'), "--output", "never.fsq"}, 2},
-        {{"effects", "--effect"}, 2},
         {{"effects", "--name", "K", "--output", "nowhere/out.fsq"}, 1},
     };
     for (const auto& c : cases) {
