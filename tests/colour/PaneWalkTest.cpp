@@ -92,20 +92,5 @@ TEST(PaneWalks, BulkEncodeEqualsTheCharacterWalk) {
     }
 }
 
-TEST(PaneWalks, EncodeWalkReadsPaintedPanes) {
-    // Panes painted by hand, with colours the palette doesn't hold.
-    MemoryPane pane;
-    pane.SetText("abcdef");
-    const Colour paints[] = {kWhite, Rgb(128, 0, 0), kBlack, 0x0000FF, 0x0000FF, Rgb(1, 2, 3)};
-    for (int p = 0; p < 6; ++p) {
-        pane.SetSelStart(p);
-        pane.SetSelLength(1);
-        pane.SetSelColor(paints[p]);
-    }
-    for (const Colour start : {kWhite, kBlack})
-        EXPECT_EQ(EncodeColoredText(pane, start), EncodeByCharacter(pane, start));
-    EXPECT_EQ(EncodeColoredText(pane, kWhite), "a^7b^8c^1de^7f");
-}
-
 }  // namespace
 }  // namespace fs

@@ -7,22 +7,19 @@
 #include <fstream>
 #include <iterator>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace fs::test {
 
 // A fresh folder under the system's temporary folder, removed with all it
-// holds when the test ends.
+// holds (write permission given back first) when the test ends.
 class TempFolder {
 public:
-    TempFolder() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "fs-test-XXXXXX").string();
-        if (::mkdtemp(pattern.data()) != nullptr) path_ = pattern;
+    TempFolder() : path_((std::filesystem::temp_directory_path() / "fs-test-XXXXXX").string()) {
+        if (::mkdtemp(path_.data()) == nullptr) path_.clear();
     }
     ~TempFolder() {
         std::error_code ec;
-        // Give back write permission that a test took away, so the removal works.
         std::filesystem::permissions(path_, std::filesystem::perms::owner_all,
                                      std::filesystem::perm_options::add, ec);
         std::filesystem::remove_all(path_, ec);
@@ -31,9 +28,8 @@ public:
     TempFolder& operator=(const TempFolder&) = delete;
 
     const std::string& Path() const { return path_; }
-    std::string File(std::string_view name) const { return path_ + "/" + std::string(name); }
-
-    // Names of the entries in the folder, sorted.
+    std::string File(const std::string& name) const { return path_ + "/" + name; }
+    // Names of the entries, sorted.
     std::vector<std::string> Entries() const {
         std::vector<std::string> names;
         for (const auto& e : std::filesystem::directory_iterator(path_)) names.push_back(e.path().filename());
@@ -45,9 +41,8 @@ private:
     std::string path_;
 };
 
-inline void WriteBytes(const std::string& path, std::string_view bytes) {
-    std::ofstream out(path, std::ios::binary | std::ios::trunc);
-    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+inline void WriteBytes(const std::string& path, const std::string& bytes) {
+    std::ofstream(path, std::ios::binary) << bytes;
 }
 
 inline std::string ReadBytes(const std::string& path) {
