@@ -1,70 +1,22 @@
 // Runs the real command-line program and checks what it writes and how it ends.
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
+
+#include "CliRun.h"
 
 namespace {
 
 namespace stdfs = std::filesystem;
-
-struct Result {
-    int status = -1;
-    std::string out;
-    std::string err;
-};
-
-std::string Quote(const std::string& arg) {
-    std::string quoted = "'";
-    for (char c : arg) quoted += c == '\'' ? std::string("'\\''") : std::string(1, c);
-    return quoted + "'";
-}
-
-std::string Slurp(const stdfs::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
+using Cli = fs::test::CliRun;
 
 void Put(const stdfs::path& path, const std::string& bytes) {
     std::ofstream out(path, std::ios::binary);
     out << bytes;
 }
-
-class Cli : public ::testing::Test {
-protected:
-    void SetUp() override {
-        dir_ =
-            stdfs::temp_directory_path() / ("flickerscribe-cli-" + std::to_string(::getpid()) + "-" +
-                                            ::testing::UnitTest::GetInstance()->current_test_info()->name());
-        stdfs::remove_all(dir_);
-        stdfs::create_directories(dir_);
-    }
-    void TearDown() override { stdfs::remove_all(dir_); }
-
-    stdfs::path Path(const std::string& name) const { return dir_ / name; }
-
-    // Runs the program in the test's folder with `input` on standard input.
-    Result Run(const std::vector<std::string>& args, const std::string& input = "") const {
-        Put(Path("stdin"), input);
-        std::string command = "cd " + Quote(dir_.string()) + " && " + Quote(FS_CLI_PATH);
-        for (const auto& arg : args) command += " " + Quote(arg);
-        command += " <stdin >stdout 2>stderr";
-        const int raw = std::system(command.c_str());
-        Result result;
-        result.status = WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
-        result.out = Slurp(Path("stdout"));
-        result.err = Slurp(Path("stderr"));
-        return result;
-    }
-
-    stdfs::path dir_;
-};
 
 const std::string kBanner =
     "\r\n//--------------------------\\\\"
@@ -97,7 +49,7 @@ TEST_F(Cli, GenerateFromAFileOrStandardInput) {
     for (const auto& c : cases) {
         Put(Path("in.fsq"), c.input);
         for (const auto& input : {"in.fsq", "-"}) {
-            const Result r = Run({"generate", input}, c.input);
+            const fs::test::CliResult r = Run({"generate", input}, c.input);
             EXPECT_EQ(r.status, 0) << r.err;
             EXPECT_EQ(r.out, c.script) << input;
             EXPECT_EQ(r.err, c.err) << input;
@@ -107,12 +59,12 @@ TEST_F(Cli, GenerateFromAFileOrStandardInput) {
 
 TEST_F(Cli, OutputFileIsWrittenAndItsNameMayBeginWithADash) {
     Put(Path("in.fsq"), "#v050#\r\nx\r\n15\r\n[none]\r\n");
-    const Result r = Run({"generate", "--output", "-dash.cfg", "in.fsq"});
+    const fs::test::CliResult r = Run({"generate", "--output", "-dash.cfg", "in.fsq"});
     EXPECT_EQ(r.status, 0) << r.err;
     EXPECT_EQ(r.out, "");
     EXPECT_EQ(Slurp(Path("-dash.cfg")), kBanner + "\r\nset name \"x\"\r\nwait 15\r\n");
 
-    const Result equals = Run({"import", "--output=back.fsq", "--", "-dash.cfg"});
+    const fs::test::CliResult equals = Run({"import", "--output=back.fsq", "--", "-dash.cfg"});
     EXPECT_EQ(equals.status, 0) << equals.err;
     EXPECT_EQ(Slurp(Path("back.fsq")), "#v050#\r\nx\r\n15\r\n[none]\r\n");
 }
@@ -125,7 +77,7 @@ TEST_F(Cli, ImportWritesTheAnimationFile) {
         "#v050#\r\n^1one\r\n20\r\n[none]\r\n^2two\r\n15\r\n[none]\r\na\r\n15\r\n[none]\r\n";
     for (const auto& args :
          {std::vector<std::string>{"import", "in.cfg"}, std::vector<std::string>{"import", "-"}}) {
-        const Result r = Run(args, script);
+        const fs::test::CliResult r = Run(args, script);
         EXPECT_EQ(r.status, 0) << r.err;
         EXPECT_EQ(r.out, fsq);
     }
@@ -143,14 +95,14 @@ TEST_F(Cli, RenderRunsListsEveryPaneCharacter) {
          "FFFFFF\tc\nFFFFFF\ta\nFFFFFF\tf\nFFFFFF\t\xE9\n"},  // UTF-8 in, one byte out to a pipe
     };
     for (const auto& c : cases) {
-        const Result r = Run({"render", "--runs", c.text});
+        const fs::test::CliResult r = Run({"render", "--runs", c.text});
         EXPECT_EQ(r.status, 0) << c.text << r.err;
         EXPECT_EQ(r.out, c.listing) << c.text;
     }
 }
 
 TEST_F(Cli, RenderPaintsInTerminalColours) {
-    const Result r = Run({"render", "--", "-^1x"});
+    const fs::test::CliResult r = Run({"render", "--", "-^1x"});
     EXPECT_EQ(r.status, 0) << r.err;
     EXPECT_EQ(r.out, "\x1b[48;2;128;128;128m\x1b[38;2;255;255;255m-\x1b[38;2;255;0;0mx\x1b[0m\n");
 }
@@ -168,7 +120,7 @@ TEST_F(Cli, UsageErrorsEndWithStatusTwo) {
         {"render", "-x"},
     };
     for (const auto& args : cases) {
-        const Result r = Run(args);
+        const fs::test::CliResult r = Run(args);
         std::string shown;
         for (const auto& a : args) shown += a + " ";
         EXPECT_EQ(r.status, 2) << shown;
@@ -178,12 +130,12 @@ TEST_F(Cli, UsageErrorsEndWithStatusTwo) {
 }
 
 TEST_F(Cli, HelpGoesToStandardOutput) {
-    const Result overview = Run({"--help"});
+    const fs::test::CliResult overview = Run({"--help"});
     EXPECT_EQ(overview.status, 0);
     for (const char* command : {"generate", "import", "render"}) {
         EXPECT_NE(overview.out.find(std::string("  ") + command), std::string::npos) << command;
     }
-    const Result command = Run({"generate", "--help"});
+    const fs::test::CliResult command = Run({"generate", "--help"});
     EXPECT_EQ(command.status, 0);
     EXPECT_EQ(command.out.rfind("usage: flickerscribe-cli generate [--output FILE] INPUT\n", 0), 0u)
         << command.out;
@@ -200,7 +152,7 @@ TEST_F(Cli, FilesThatCantBeReadOrWrittenEndWithStatusOne) {
         {"import", "--output", "folder", "in.fsq"},
     };
     for (const auto& args : cases) {
-        const Result r = Run(args);
+        const fs::test::CliResult r = Run(args);
         EXPECT_EQ(r.status, 1) << args[1];
         EXPECT_NE(r.err.find("flickerscribe-cli: cannot "), std::string::npos) << r.err;
         EXPECT_EQ(r.out, "");
@@ -211,7 +163,7 @@ TEST_F(Cli, FilesThatCantBeReadOrWrittenEndWithStatusOne) {
 TEST_F(Cli, TheLineLimitStopsTheWorkButTheLinesThatStoodAreWritten) {
     std::string list = "names\r\n";
     for (int i = 0; i <= 32767; ++i) list += "n\r\n";  // one name too many
-    const Result generated = Run({"generate", "-"}, list);
+    const fs::test::CliResult generated = Run({"generate", "-"}, list);
     EXPECT_EQ(generated.status, 3);
     EXPECT_NE(generated.err.find("32767"), std::string::npos);
     std::size_t names = 0;
@@ -223,7 +175,7 @@ TEST_F(Cli, TheLineLimitStopsTheWorkButTheLinesThatStoodAreWritten) {
 
     std::string script;
     for (int i = 0; i <= 32767; ++i) script += "set name n\r\n";
-    const Result imported = Run({"import", "--output", "out.fsq", "-"}, script);
+    const fs::test::CliResult imported = Run({"import", "--output", "out.fsq", "-"}, script);
     EXPECT_EQ(imported.status, 3);
     EXPECT_EQ(Slurp(Path("out.fsq")).size(), 8u + 32767u * 15u);  // "n", "15", "[none]" per line
 }
