@@ -121,13 +121,6 @@ std::optional<SaveError> WriteInPlace(const std::string& path, std::string_view 
     return std::nullopt;
 }
 
-void SyncFolder(const std::string& folder) {
-    const int fd = ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (fd < 0) return;
-    ::fsync(fd);
-    ::close(fd);
-}
-
 }  // namespace
 
 std::optional<SaveError> WriteFileSafely(const std::string& path, std::string_view bytes) {
@@ -157,8 +150,9 @@ std::optional<SaveError> WriteFileSafely(const std::string& path, std::string_vi
     if (::fsync(temp.Fd()) != 0) return ErrorOf(errno);
     if (const int error = temp.Close()) return ErrorOf(error);
     if (::rename(temp.Path().c_str(), target.c_str()) != 0) return ErrorOf(errno);
+    // The folder itself is not synced: should the rename be lost in a crash,
+    // the old file is still there, whole.
     temp.Keep();
-    SyncFolder(FolderOf(target));
     return std::nullopt;
 }
 
