@@ -1,12 +1,17 @@
 #pragma once
 
+#include <QFont>
 #include <QString>
 
 class QDialog;
 
 namespace fs::ui {
 
-// Gives a dialog its name and caption and makes it a fixed window of the given
+// The small sans-serif face that the dialogs are laid out for: their twips
+// positions leave room for its captions, not for a larger desktop default.
+QFont DialogFont();
+
+// Gives a dialog its name, caption and DialogFont, and makes it a fixed window of the given
 // client size in twips: no minimise or maximise button, no size grip, no
 // entry of its own in the task bar. Shown with an owner, Qt centres it on the
 // owner.

@@ -69,6 +69,10 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
     Label1_->setObjectName(u"Label1"_s);
     Label1_->setGeometry(TwipsRect(120, 2520, 3615, 495));
     Label1_->setWordWrap(true);
+    // Both addresses have to fit the label's three short lines.
+    QFont small = Label1_->font();
+    small.setPointSizeF(7);
+    Label1_->setFont(small);
     Label1_->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
     cmdOK_ = new QPushButton(u"OK"_s, this);

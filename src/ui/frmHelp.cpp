@@ -30,6 +30,8 @@ QLineEdit* AddValueBox(QWidget* frame, const QString& name, const QString& value
     box->setReadOnly(true);
     box->setAlignment(Qt::AlignCenter);
     box->setCursorPosition(0);
+    // A long address may not fit the box: the tip shows it whole.
+    box->setToolTip(value);
     return box;
 }
 

@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <QApplication>
+#include <QClipboard>
 #include <QPushButton>
 #include <QTest>
 #include <QTextEdit>
@@ -160,6 +162,18 @@ TEST(ColorEditor, EnterKeepsThePaneOnOneLine) {
     Perform(window, window.PreviewPane(), {Type{"ab\ncd"}});
     EXPECT_EQ(window.PreviewPane().Text(), "abcd");
     EXPECT_TRUE(window.isVisible());
+    window.close();
+}
+
+TEST(ColorEditor, PastedLinesJoinInTheColourChosenForTyping) {
+    ScriptedDialogs dialogs;
+    frmColorEditor window(dialogs);
+    window.show();
+    QApplication::clipboard()->setText(u"ab\ncd\r\nef"_s);
+    Perform(window, window.PreviewPane(), {Paint{0}});
+    window.findChild<QTextEdit*>(u"txtPreview"_s)->paste();
+    window.cmdClipboard_Click();
+    EXPECT_EQ(dialogs.clipboard, u"^1ab cd ef"_s);
     window.close();
 }
 
