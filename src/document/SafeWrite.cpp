@@ -5,7 +5,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 
 namespace fs {
@@ -128,7 +127,7 @@ std::optional<SaveError> WriteFileSafely(const std::string& path, std::string_vi
     if (path.empty()) return ErrorOf(ENOENT);
 
     struct stat old {};
-    bool exists = ::stat(path.c_str(), &old) == 0;
+    const bool exists = ::stat(path.c_str(), &old) == 0;
     if (!exists && errno != ENOENT) return ErrorOf(errno);
     if (exists && S_ISDIR(old.st_mode)) return ErrorOf(EISDIR);
     if (exists && !S_ISREG(old.st_mode)) return WriteInPlace(path, bytes, fault);
@@ -140,11 +139,11 @@ std::optional<SaveError> WriteFileSafely(const std::string& path, std::string_vi
 
     TempFile temp(target);
     if (const int error = temp.OpenError()) return ErrorOf(error);
+    // Keeping the owner may be refused; the permission bits follow all the same.
     if (exists) {
-        // Keeping the owner may be refused; the permission bits still follow.
-        if (::fchown(temp.Fd(), old.st_uid, old.st_gid) != 0) {
-        }
+        [[maybe_unused]] const int ownerKept = ::fchown(temp.Fd(), old.st_uid, old.st_gid);
     }
+    const int ownerKept = ::fchown(temp.Fd(), old.st_uid, old.st_gid);
     if (::fchmod(temp.Fd(), exists ? old.st_mode & 07777 : NewFileMode()) != 0) return ErrorOf(errno);
     if (const int error = WriteAll(temp.Fd(), bytes, fault)) return ErrorOf(error);
     if (::fsync(temp.Fd()) != 0) return ErrorOf(errno);
