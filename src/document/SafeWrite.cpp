@@ -143,7 +143,6 @@ std::optional<SaveError> WriteFileSafely(const std::string& path, std::string_vi
     if (exists) {
         [[maybe_unused]] const int ownerKept = ::fchown(temp.Fd(), old.st_uid, old.st_gid);
     }
-    const int ownerKept = ::fchown(temp.Fd(), old.st_uid, old.st_gid);
     if (::fchmod(temp.Fd(), exists ? old.st_mode & 07777 : NewFileMode()) != 0) return ErrorOf(errno);
     if (const int error = WriteAll(temp.Fd(), bytes, fault)) return ErrorOf(error);
     if (::fsync(temp.Fd()) != 0) return ErrorOf(errno);
