@@ -1,11 +1,409 @@
 #include "ui/frmMain.h"
 
+#include <QAction>
+#include <QApplication>
+#include <QEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
+
+#include "colour/ColouredText.h"
+#include "settings/SettingsStore.h"
+#include "ui/ColourButtons.h"
+#include "ui/LineListView.h"
+#include "ui/MainIcons.h"
+#include "ui/MainLayout.h"
+#include "ui/OneLineRichEdit.h"
+#include "ui/PaneStyle.h"
+#include "ui/RichPane.h"
+#include "ui/ScriptModel.h"
+#include "ui/Twips.h"
+
+using namespace Qt::Literals::StringLiterals;
+
 namespace fs::ui {
 
-frmMain::frmMain(QWidget* parent) : QMainWindow(parent) {
-    setObjectName(QStringLiteral("frmMain"));
-    setWindowTitle(QStringLiteral("Flickerscribe - by [QZT]Quillon"));
-    resize(7965 / 15, 6765 / 15);
+namespace {
+
+constexpr int kClientWidth = 7965;
+constexpr int kClientHeight = 6765;
+constexpr int kColourButtons = 8;
+constexpr int kColourButtonsTop = 50;
+
+QFont ListFont() {
+    QFont font(u"Courier New"_s);
+    font.setStyleHint(QFont::TypeWriter);
+    font.setPointSizeF(9.75);
+    return font;
+}
+
+QAction* AddEntry(QMenu* menu, const QString& name, const QString& caption,
+                  const QKeySequence& shortcut = QKeySequence()) {
+    QAction* action = menu->addAction(caption);
+    action->setObjectName(name);
+    if (!shortcut.isEmpty()) action->setShortcut(shortcut);
+    return action;
+}
+
+void AddSeparator(QMenu* menu, const QString& name) {
+    menu->addSeparator()->setObjectName(name);
+}
+
+// The window-wide shortcuts of the Edit menu, which work on lines wherever
+// the focus is.
+bool IsLineShortcut(const QKeyEvent* event) {
+    const QKeyCombination combination = event->keyCombination();
+    return combination == QKeyCombination(Qt::ControlModifier, Qt::Key_X) ||
+           combination == QKeyCombination(Qt::ControlModifier, Qt::Key_C) ||
+           combination == QKeyCombination(Qt::ControlModifier, Qt::Key_V);
+}
+
+}  // namespace
+
+frmMain::frmMain(Dialogs& dialogs, settings::SettingsStore& store, QWidget* parent)
+    : QMainWindow(parent), dialogs_(dialogs), store_(store) {
+    setObjectName(u"frmMain"_s);
+    setWindowTitle(u"Flickerscribe - by [QZT]Quillon"_s);
+    setWindowIcon(AppIcon());
+    imgplay_ = ToolbarIcon(u"imgplay"_s);
+    imgstop_ = ToolbarIcon(u"imgstop"_s);
+
+    BuildMenus();
+    BuildToolbar();
+    BuildControls();
+
+    timAni_ = new QTimer(this);
+    timAni_->setObjectName(u"timAni"_s);
+    timAni_->setInterval(100);
+    connect(timAni_, &QTimer::timeout, this, [this] { timAni_Timer(); });
+
+    setMinimumWidth(MinimumWindowWidth());
+    resize(Twips(kClientWidth), Twips(kClientHeight) + menuBar()->sizeHint().height());
+    if (const QScreen* screen = QGuiApplication::primaryScreen())
+        move(screen->availableGeometry().center() - rect().center());
+
+    Form_Load();
+}
+
+frmMain::~frmMain() {
+    // The model listens to the script, which goes before the widgets do.
+    lvwMain_->setModel(nullptr);
+    delete model_;
+}
+
+Pane& frmMain::PreviewPane() {
+    return *preview_;
+}
+
+void frmMain::BuildMenus() {
+    QMenu* file = menuBar()->addMenu(u"File"_s);
+    file->setObjectName(u"mnuFile"_s);
+    connect(AddEntry(file, u"mnuFileNew"_s, u"New"_s), &QAction::triggered, this, [this] { NewAnimation(); });
+    connect(AddEntry(file, u"mnuFileOpen"_s, u"Open"_s), &QAction::triggered, this,
+            [this] { OpenAnimation(); });
+    connect(AddEntry(file, u"mnuFileImport"_s, u"Import"_s), &QAction::triggered, this,
+            [this] { ImportScript(); });
+    AddSeparator(file, u"mnuFileLine"_s);
+    AddEntry(file, u"mnuFileSave"_s, u"Save"_s)->setEnabled(false);
+    connect(AddEntry(file, u"mnuFileSaveAs"_s, u"Save As"_s), &QAction::triggered, this,
+            [this] { SaveAnimationAs(); });
+    AddSeparator(file, u"mnuFileLine2"_s);
+    connect(AddEntry(file, u"mnuFileExit"_s, u"Exit"_s), &QAction::triggered, this,
+            [this] { mnuFileExit_Click(); });
+
+    QMenu* edit = menuBar()->addMenu(u"Edit"_s);
+    edit->setObjectName(u"mnuEdit"_s);
+    connect(AddEntry(edit, u"mnuEditCut"_s, u"Cut"_s, QKeySequence(Qt::CTRL | Qt::Key_X)),
+            &QAction::triggered, this, [this] { mnuEditCut_Click(); });
+    connect(AddEntry(edit, u"mnuEditCopy"_s, u"Copy"_s, QKeySequence(Qt::CTRL | Qt::Key_C)),
+            &QAction::triggered, this, [this] { mnuEditCopy_Click(); });
+    connect(AddEntry(edit, u"mnuEditPaste"_s, u"Paste"_s, QKeySequence(Qt::CTRL | Qt::Key_V)),
+            &QAction::triggered, this, [this] { mnuEditPaste_Click(); });
+    AddSeparator(edit, u"mnuEditLine"_s);
+    mnuEditShowColors_ = AddEntry(edit, u"mnuEditShowColors"_s, u"Show colors"_s);
+    mnuEditShowColors_->setCheckable(true);
+    connect(mnuEditShowColors_, &QAction::triggered, this, [this] { ToggleColors(); });
+    connect(AddEntry(edit, u"mnuHelpColor"_s, u"Color name editor"_s), &QAction::triggered, this,
+            [this] { ShowColorEditor(); });
+    connect(AddEntry(edit, u"mnuEditSimple"_s, u"Simple Edit"_s), &QAction::triggered, this,
+            [this] { ShowSimpleEdit(); });
+    AddSeparator(edit, u"mnuEditLine3"_s);
+    connect(AddEntry(edit, u"mnuEditOptions"_s, u"Options"_s), &QAction::triggered, this,
+            [this] { ShowOptions(); });
+
+    QMenu* help = menuBar()->addMenu(u"Help"_s);
+    help->setObjectName(u"mnuHelp"_s);
+    connect(AddEntry(help, u"mnuHelpHelp"_s, u"Help!"_s), &QAction::triggered, this, [this] { ShowHelp(); });
+    AddSeparator(help, u"mnuHelpLine1"_s);
+    connect(AddEntry(help, u"mnuHelpAbout"_s, u"About"_s, QKeySequence(Qt::Key_F1)), &QAction::triggered,
+            this, [this] { ShowAbout(); });
+}
+
+void frmMain::BuildToolbar() {
+    tlbMain_ = addToolBar(u"Toolbar"_s);
+    tlbMain_->setObjectName(u"tlbMain"_s);
+    tlbMain_->setMovable(false);
+    tlbMain_->setFloatable(false);
+    tlbMain_->toggleViewAction()->setEnabled(false);
+    tlbMain_->setContextMenuPolicy(Qt::PreventContextMenu);
+    tlbMain_->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    tlbMain_->setIconSize(QSize(27, 32));
+
+    struct Button {
+        const char16_t* key;
+        const char16_t* caption;
+        const char16_t* tip;
+        const char16_t* image;
+    };
+    static constexpr Button kButtons[] = {
+        {u"btnnew", u"New", u"New Animation Script", u"imgnew"},
+        {u"btnopen", u"Open", u"Open Animation Script", u"imgopen"},
+        {u"btnsave", u"Save", u"Save Animation Script", u"imgsave"},
+        {nullptr, nullptr, nullptr, nullptr},
+        {u"btnadd", u"Add", u"Add line", u"imgadd"},
+        {u"btnremove", u"Remove", u"Remove Line", u"imgremove"},
+        {u"btnedit", u"Edit", u"Edit Line", u"imgedit"},
+        {nullptr, nullptr, nullptr, nullptr},
+        {u"btnwizard", u"Wizard", u"Animation Script Wizard", u"imgwizard"},
+        {u"btnpreview", u"Play", u"Preview animation", u"imgplay"},
+        {u"btngenerate", u"Generate", u"Generate Brennock Script", u"imggenerate"},
+    };
+    for (const Button& b : kButtons) {
+        if (b.key == nullptr) {
+            tlbMain_->addSeparator();
+            continue;
+        }
+        const QString key = QString::fromUtf16(b.key);
+        QAction* action =
+            tlbMain_->addAction(ToolbarIcon(QString::fromUtf16(b.image)), QString::fromUtf16(b.caption));
+        action->setObjectName(key);
+        action->setToolTip(QString::fromUtf16(b.tip));
+        connect(action, &QAction::triggered, this, [this, key] { tlbMain_ButtonClick(key); });
+    }
+
+    // The Add button's drop-down menu.
+    auto* addMenu = new QMenu(this);
+    addMenu->setObjectName(u"btnaddMenu"_s);
+    static constexpr std::pair<const char16_t*, const char16_t*> kEntries[] = {
+        {u"btnaddbefore", u"Before selection"},
+        {u"btnaddafter", u"After selection"},
+        {nullptr, nullptr},
+        {u"btncopylast", u"Copy selected line"},
+        {u"btncopylastx", u"Copy selected line x times"},
+        {nullptr, nullptr},
+        {u"btncopyall", u"Copy all lines"},
+        {u"btncopyallreverse", u"Copy all lines (reverse)"},
+    };
+    for (const auto& [keyText, caption] : kEntries) {
+        if (keyText == nullptr) {
+            addMenu->addSeparator();
+            continue;
+        }
+        const QString key = QString::fromUtf16(keyText);
+        QAction* entry = addMenu->addAction(QString::fromUtf16(caption));
+        entry->setObjectName(key);
+        connect(entry, &QAction::triggered, this, [this, key] { tlbMain_ButtonMenuClick(key); });
+    }
+    // Playback swaps these two images on its button.
+    ToolbarAction(u"btnpreview"_s)->setIcon(imgplay_);
+
+    QAction* add = ToolbarAction(u"btnadd"_s);
+    add->setMenu(addMenu);
+    if (auto* button = qobject_cast<QToolButton*>(tlbMain_->widgetForAction(add)))
+        button->setPopupMode(QToolButton::MenuButtonPopup);
+}
+
+void frmMain::BuildControls() {
+    client_ = new QWidget(this);
+    client_->setObjectName(u"client"_s);
+    setCentralWidget(client_);
+
+    auto* pane = new OneLineRichEdit(client_);
+    pane->setObjectName(u"txtPreview"_s);
+    StyleGreyPane(pane, BoldFont(u"Courier New"_s, 14.25, QFont::TypeWriter));
+    pane->document()->setDocumentMargin(2);
+    txtPreview_ = pane;
+    preview_ = std::make_unique<RichPane>(txtPreview_);
+    connect(txtPreview_, &QTextEdit::textChanged, this, [this] { txtPreview_Change(); });
+    txtPreview_->installEventFilter(this);
+
+    lvwMain_ = new LineListView(client_);
+    lvwMain_->setObjectName(u"lvwMain"_s);
+    lvwMain_->setFont(ListFont());
+    model_ = new ScriptModel(script_, this);
+    lvwMain_->setModel(model_);
+    lvwMain_->verticalHeader()->hide();
+    lvwMain_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    lvwMain_->verticalHeader()->setDefaultSectionSize(QFontMetrics(lvwMain_->font()).height() + 4);
+    lvwMain_->horizontalHeader()->setHighlightSections(false);
+    lvwMain_->horizontalHeader()->setSectionsClickable(false);
+    lvwMain_->setColumnWidth(0, Twips(5000));
+    lvwMain_->setColumnWidth(1, Twips(1440));
+    lvwMain_->setColumnWidth(2, Twips(1440));
+    lvwMain_->setShowGrid(false);
+    lvwMain_->setWordWrap(false);
+    lvwMain_->setGeometry(0, ListTop(), Twips(5415), Twips(4335));
+    lvwMain_->installEventFilter(this);
+    lvwMain_->onKeyDown = [this](int key, Qt::KeyboardModifiers modifiers) {
+        lvwMain_KeyDown(key, modifiers);
+    };
+    connect(lvwMain_, &QAbstractItemView::clicked, this, [this](const QModelIndex& index) {
+        if (index.isValid()) lvwMain_ItemClick(index.row() + 1);
+    });
+    // The user's move of the current row selects that line; the script's own
+    // changes of its selection move the current row.
+    connect(lvwMain_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex& current) {
+                if (model_->Changing() || !current.isValid()) return;
+                if (current.row() + 1 != script_.SelectedIndex()) script_.SelectLine(current.row() + 1);
+            });
+    connect(model_, &ScriptModel::selectedLineChanged, this, [this](int index) {
+        if (index == 0) {
+            lvwMain_->selectionModel()->clear();
+            return;
+        }
+        lvwMain_->selectionModel()->setCurrentIndex(
+            model_->index(index - 1, 0), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    });
+
+    picColors_ = new QWidget(client_);
+    picColors_->setObjectName(u"picColors"_s);
+    picColors_->setGeometry(QRect(0, PaneTop(), StripWidth(), PaneHeight()));
+    cmdColor_ = AddColourButtons(picColors_, kColourButtons, 0, kColourButtonsTop);
+    for (int index = 0; index < kColourButtons; ++index)
+        connect(cmdColor_[static_cast<std::size_t>(index)], &QPushButton::clicked, this,
+                [this, index] { cmdColor_Click(index); });
+    picColors_->hide();
+
+    setTabOrder(txtPreview_, lvwMain_);
+    client_->installEventFilter(this);
+}
+
+void frmMain::Form_Load() {
+    colorsVisible_ = false;
+    LoadSettings();
+    SetPreview();
+}
+
+QAction* frmMain::ToolbarAction(const QString& key) const {
+    return tlbMain_->findChild<QAction*>(key);
+}
+
+bool frmMain::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == client_ && event->type() == QEvent::Resize) {
+        Form_Resize();
+    } else if (watched == txtPreview_ || watched == lvwMain_) {
+        if (event->type() == QEvent::ShortcutOverride && IsLineShortcut(static_cast<QKeyEvent*>(event))) {
+            // Not the widget's own cut, copy and paste of characters: the
+            // Edit menu's commands on lines.
+            return true;
+        }
+        if (watched == txtPreview_ && event->type() == QEvent::KeyPress) {
+            const auto* key = static_cast<QKeyEvent*>(event);
+            txtPreview_KeyDown(key->key(), key->modifiers());
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void frmMain::Form_Resize() {
+    if (isMinimized() || client_ == nullptr) return;
+    const MainLayout layout = LayOutMainWindow(client_->size(), colorsVisible_);
+    txtPreview_->setGeometry(layout.pane);
+    if (layout.stripVisible) {
+        picColors_->setGeometry(layout.strip);
+        picColors_->show();
+    } else {
+        picColors_->hide();
+    }
+    const int listHeight = layout.listHeight > 0 ? layout.listHeight : lvwMain_->height();
+    lvwMain_->setGeometry(0, ListTop(), layout.listWidth, listHeight);
+}
+
+void frmMain::SetPreview() {
+    const bool wasBusy = PreviewBusy;
+    PreviewBusy = true;
+    if (script_.Count() > 0) {
+        preview_->SetLocked(false);
+        RenderCodedText(script_.LineAt(script_.SelectedIndex()).Text, *preview_);
+    } else {
+        preview_->SetLocked(true);
+        preview_->SetText("Preview");
+    }
+    PreviewBusy = wasBusy;
+}
+
+void frmMain::NewAnimation() {
+    script_.ClearLines();
+}
+
+void frmMain::ToggleColors() {
+    colorsVisible_ = !colorsVisible_;
+    mnuEditShowColors_->setChecked(colorsVisible_);
+    Form_Resize();
+}
+
+void frmMain::LoadSettings() {
+    settings_ = settings::LoadSettings(store_);
+    // Only the Text column can be edited in place, by a click on the line
+    // that is already selected, and only when the setting is on.
+    lvwMain_->setEditTriggers(settings_.EditItem ? QAbstractItemView::SelectedClicked
+                                                 : QAbstractItemView::NoEditTriggers);
+}
+
+void frmMain::tlbMain_ButtonClick(const QString& key) {
+    if (key == u"btnnew"_s) {
+        NewAnimation();
+    } else if (key == u"btnopen"_s) {
+        OpenAnimation();
+    } else if (key == u"btnsave"_s) {
+        SaveAnimationAs();
+    } else if (key == u"btnadd"_s) {
+        AddLine(true);
+    } else if (key == u"btnremove"_s) {
+        RemoveSelectedLine();
+    } else if (key == u"btnedit"_s) {
+        EditSelectedLine();
+    } else if (key == u"btnwizard"_s) {
+        ShowWizard();
+    } else if (key == u"btnpreview"_s) {
+        TogglePlayback();
+    } else if (key == u"btngenerate"_s) {
+        GenerateScript();
+    }
+}
+
+void frmMain::tlbMain_ButtonMenuClick(const QString& key) {
+    if (key == u"btnaddbefore"_s) {
+        AddLine(false);
+    } else if (key == u"btnaddafter"_s) {
+        AddLine(true);
+    } else if (key == u"btncopylast"_s) {
+        CopyLines(1);
+    } else if (key == u"btncopylastx"_s) {
+        CopyLines(2);
+    } else if (key == u"btncopyall"_s) {
+        CopyLines(3);
+    } else if (key == u"btncopyallreverse"_s) {
+        CopyLines(4);
+    }
+}
+
+void frmMain::lvwMain_ItemClick(int index) {
+    script_.SelectLine(index);
+    SetPreview();
+}
+
+void frmMain::mnuFileExit_Click() {
+    // No question and nothing written: every window goes at once.
+    close();
+    QCoreApplication::quit();
 }
 
 }  // namespace fs::ui

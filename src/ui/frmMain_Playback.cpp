@@ -1,0 +1,59 @@
+#include <QAction>
+#include <QTimer>
+
+#include "colour/ColouredText.h"
+#include "ui/RichPane.h"
+#include "ui/frmMain.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+// Playback: the toolbar's Play button shows the lines in the preview pane one
+// per tick of timAni, from the first to the last, once.
+
+namespace fs::ui {
+
+bool frmMain::Playing() const {
+    return timAni_->isActive();
+}
+
+void frmMain::TogglePlayback() {
+    // Every press starts again from the first line; a stop forgets the place.
+    PlayIndex = 1;
+    QAction* play = ToolbarAction(u"btnpreview"_s);
+    if (play->text() == u"Play"_s) {
+        if (script_.Count() == 0) {
+            // Whatever the answer, nothing else happens.
+            dialogs_.Message(this, u"There is no animation to play!"_s, u"Preview Animation"_s,
+                             MsgIcon::Exclamation, MsgButtons::OkCancel);
+            return;
+        }
+        play->setText(u"Stop"_s);
+        play->setIcon(imgstop_);
+        ToolbarAction(u"btnadd"_s)->setEnabled(false);
+        ToolbarAction(u"btnremove"_s)->setEnabled(false);
+        PreviewBusy = true;
+        timAni_->start();
+    } else {
+        play->setText(u"Play"_s);
+        play->setIcon(imgplay_);
+        ToolbarAction(u"btnadd"_s)->setEnabled(true);
+        ToolbarAction(u"btnremove"_s)->setEnabled(true);
+        PreviewBusy = false;
+        timAni_->stop();
+    }
+}
+
+void frmMain::timAni_Timer() {
+    // The list is asked anew at each tick: a list that became shorter or
+    // empty meanwhile ends playback here, without a word.
+    if (script_.Count() == 0 || PlayIndex > script_.Count()) {
+        TogglePlayback();
+        return;
+    }
+    RenderCodedText(script_.LineAt(PlayIndex).Text, *preview_);
+    ++PlayIndex;
+    // The tick that shows the last line also stops; the frame stays.
+    if (PlayIndex > script_.Count()) TogglePlayback();
+}
+
+}  // namespace fs::ui

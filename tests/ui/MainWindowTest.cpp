@@ -1,0 +1,462 @@
+#include <QApplication>
+#include <QHeaderView>
+#include <QMenu>
+#include <QMenuBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
+
+#include "MainWindowFixture.h"
+#include "ui/LineListView.h"
+#include "ui/Twips.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace fs::ui::testing_support {
+namespace {
+
+using MainWindow = MainWindowTest;
+
+TEST_F(MainWindow, StartsEmptyWithALockedPaneAndNoColours) {
+    EXPECT_EQ(window->windowTitle(), u"Flickerscribe - by [QZT]Quillon"_s);
+    EXPECT_FALSE(window->windowIcon().isNull());
+    EXPECT_EQ(Script().Count(), 0);
+    EXPECT_TRUE(PaneLocked());
+    EXPECT_EQ(PaneText(), "Preview");
+    EXPECT_FALSE(window->ColorsVisible());
+    EXPECT_FALSE(Named<QWidget>(u"picColors"_s)->isVisibleTo(window.get()));
+    EXPECT_FALSE(Named(u"mnuEditShowColors"_s)->isChecked());
+    EXPECT_FALSE(Named(u"mnuFileSave"_s)->isEnabled());
+    EXPECT_FALSE(window->PreviewBusy);
+    EXPECT_EQ(Named(u"btnpreview"_s)->text(), u"Play"_s);
+    EXPECT_FALSE(Named<QTimer>(u"timAni"_s)->isActive());
+    EXPECT_EQ(Named<QTimer>(u"timAni"_s)->interval(), 100);
+    // A first run: settings read, nothing written.
+    EXPECT_EQ(store.Reads(), (QStringList{u"OpenDir"_s, u"SaveDir"_s, u"Name"_s, u"Clantag"_s, u"Reverse"_s,
+                                          u"EditItem"_s}));
+    EXPECT_FALSE(store.Written());
+}
+
+TEST_F(MainWindow, ThePaneIsGreyBoldAndOneLineHigh) {
+    auto* pane = Named<QTextEdit>(u"txtPreview"_s);
+    EXPECT_EQ(pane->palette().color(QPalette::Base), QColor(128, 128, 128));
+    EXPECT_TRUE(pane->font().bold());
+    EXPECT_DOUBLE_EQ(pane->font().pointSizeF(), 14.25);
+    EXPECT_EQ(pane->lineWrapMode(), QTextEdit::NoWrap);
+    EXPECT_EQ(pane->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+    EXPECT_EQ(pane->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+}
+
+TEST_F(MainWindow, TheColourButtonsStandForDigitsOneToEight) {
+    const QColor expected[] = {Qt::red,  Qt::green,   Qt::yellow, Qt::blue,
+                               Qt::cyan, Qt::magenta, Qt::white,  Qt::black};
+    auto* strip = Named<QWidget>(u"picColors"_s);
+    for (int index = 0; index < 8; ++index) {
+        SCOPED_TRACE(index);
+        auto* button = Named<QWidget>(u"cmdColor_%1"_s.arg(index));
+        ASSERT_NE(button, nullptr);
+        EXPECT_EQ(button->parentWidget(), strip);
+        EXPECT_EQ(button->geometry(), TwipsRect(480 * index, 50, 375, 375));
+        EXPECT_TRUE(button->styleSheet().contains(expected[index].name()))
+            << button->styleSheet().toStdString();
+    }
+    EXPECT_EQ(window->findChild<QWidget*>(u"cmdColor_8"_s), nullptr);
+}
+
+TEST_F(MainWindow, TheListShowsThreeColumnsInAFixedRowHeight) {
+    auto* list = Named<LineListView>(u"lvwMain"_s);
+    ASSERT_NE(list, nullptr);
+    const QStringList captions{u"Text"_s, u"Time"_s, u"Action"_s};
+    const int widths[] = {5000, 1440, 1440};
+    for (int column = 0; column < 3; ++column) {
+        EXPECT_EQ(list->model()->headerData(column, Qt::Horizontal).toString(), captions[column]);
+        EXPECT_EQ(list->columnWidth(column), Twips(widths[column]));
+    }
+    EXPECT_EQ(list->verticalHeader()->sectionResizeMode(0), QHeaderView::Fixed);
+    EXPECT_EQ(list->selectionMode(), QAbstractItemView::SingleSelection);
+    EXPECT_EQ(list->selectionBehavior(), QAbstractItemView::SelectRows);
+    EXPECT_FALSE(list->isSortingEnabled());
+    EXPECT_FALSE(list->font().bold());
+    EXPECT_DOUBLE_EQ(list->font().pointSizeF(), 9.75);
+}
+
+// --- menus
+
+struct MenuCase {
+    const char* menu;
+    const char* caption;
+    std::vector<const char*> entries;  // "-" for a separator
+};
+
+TEST_F(MainWindow, MenusHoldTheirEntriesInOrder) {
+    const MenuCase menus[] = {
+        {"mnuFile",
+         "File",
+         {"mnuFileNew", "mnuFileOpen", "mnuFileImport", "-", "mnuFileSave", "mnuFileSaveAs", "-",
+          "mnuFileExit"}},
+        {"mnuEdit",
+         "Edit",
+         {"mnuEditCut", "mnuEditCopy", "mnuEditPaste", "-", "mnuEditShowColors", "mnuHelpColor",
+          "mnuEditSimple", "-", "mnuEditOptions"}},
+        {"mnuHelp", "Help", {"mnuHelpHelp", "-", "mnuHelpAbout"}},
+    };
+    QStringList menuOrder;
+    for (QAction* action : window->menuBar()->actions()) menuOrder << action->menu()->objectName();
+    EXPECT_EQ(menuOrder, (QStringList{u"mnuFile"_s, u"mnuEdit"_s, u"mnuHelp"_s}));
+    for (const MenuCase& c : menus) {
+        SCOPED_TRACE(c.menu);
+        auto* menu = Named<QMenu>(QString::fromLatin1(c.menu));
+        ASSERT_NE(menu, nullptr);
+        EXPECT_EQ(menu->title(), QString::fromLatin1(c.caption));
+        QStringList names;
+        for (QAction* action : menu->actions())
+            names << (action->isSeparator() ? u"-"_s : action->objectName());
+        QStringList expected;
+        for (const char* entry : c.entries) expected << QString::fromLatin1(entry);
+        EXPECT_EQ(names, expected);
+    }
+}
+
+struct EntryCase {
+    const char* name;
+    const char* caption;
+    QKeySequence shortcut;
+};
+
+class MainWindowEntries : public MainWindowTest, public testing::WithParamInterface<EntryCase> {};
+
+TEST_P(MainWindowEntries, HaveTheirCaptionAndShortcutAndNoAccessKey) {
+    QAction* action = Named(QString::fromLatin1(GetParam().name));
+    ASSERT_NE(action, nullptr);
+    EXPECT_EQ(action->text(), QString::fromLatin1(GetParam().caption));
+    EXPECT_FALSE(action->text().contains(u'&'));
+    EXPECT_EQ(action->shortcut(), GetParam().shortcut);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Menus, MainWindowEntries,
+    testing::Values(EntryCase{"mnuFileNew", "New", {}}, EntryCase{"mnuFileOpen", "Open", {}},
+                    EntryCase{"mnuFileImport", "Import", {}}, EntryCase{"mnuFileSave", "Save", {}},
+                    EntryCase{"mnuFileSaveAs", "Save As", {}}, EntryCase{"mnuFileExit", "Exit", {}},
+                    EntryCase{"mnuEditCut", "Cut", QKeySequence(Qt::CTRL | Qt::Key_X)},
+                    EntryCase{"mnuEditCopy", "Copy", QKeySequence(Qt::CTRL | Qt::Key_C)},
+                    EntryCase{"mnuEditPaste", "Paste", QKeySequence(Qt::CTRL | Qt::Key_V)},
+                    EntryCase{"mnuEditShowColors", "Show colors", {}},
+                    EntryCase{"mnuHelpColor", "Color name editor", {}},
+                    EntryCase{"mnuEditSimple", "Simple Edit", {}}, EntryCase{"mnuEditOptions", "Options", {}},
+                    EntryCase{"mnuHelpHelp", "Help!", {}},
+                    EntryCase{"mnuHelpAbout", "About", QKeySequence(Qt::Key_F1)}),
+    [](const testing::TestParamInfo<EntryCase>& info) { return std::string(info.param.name); });
+
+// --- toolbar
+
+struct ToolCase {
+    const char* key;  // "-" for a separator
+    const char* caption;
+    const char* tip;
+};
+
+TEST_F(MainWindow, ToolbarHasItsButtonsInOrderWithCaptionsUnderImages) {
+    const ToolCase buttons[] = {
+        {"btnnew", "New", "New Animation Script"},
+        {"btnopen", "Open", "Open Animation Script"},
+        {"btnsave", "Save", "Save Animation Script"},
+        {"-", "", ""},
+        {"btnadd", "Add", "Add line"},
+        {"btnremove", "Remove", "Remove Line"},
+        {"btnedit", "Edit", "Edit Line"},
+        {"-", "", ""},
+        {"btnwizard", "Wizard", "Animation Script Wizard"},
+        {"btnpreview", "Play", "Preview animation"},
+        {"btngenerate", "Generate", "Generate Brennock Script"},
+    };
+    auto* toolbar = Named<QToolBar>(u"tlbMain"_s);
+    ASSERT_NE(toolbar, nullptr);
+    EXPECT_EQ(toolbar->toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
+    EXPECT_EQ(toolbar->iconSize(), QSize(27, 32));
+    const QList<QAction*> actions = toolbar->actions();
+    ASSERT_EQ(actions.size(), 11);
+    for (int i = 0; i < 11; ++i) {
+        SCOPED_TRACE(buttons[i].key);
+        if (QString::fromLatin1(buttons[i].key) == u"-"_s) {
+            EXPECT_TRUE(actions[i]->isSeparator());
+            continue;
+        }
+        EXPECT_EQ(actions[i]->objectName(), QString::fromLatin1(buttons[i].key));
+        EXPECT_EQ(actions[i]->text(), QString::fromLatin1(buttons[i].caption));
+        EXPECT_EQ(actions[i]->toolTip(), QString::fromLatin1(buttons[i].tip));
+        EXPECT_FALSE(actions[i]->icon().isNull());
+    }
+}
+
+TEST_F(MainWindow, TheAddButtonDropsDownItsEightEntries) {
+    QAction* add = Named(u"btnadd"_s);
+    ASSERT_NE(add, nullptr);
+    QMenu* menu = add->menu();
+    ASSERT_NE(menu, nullptr);
+    auto* button = qobject_cast<QToolButton*>(Named<QToolBar>(u"tlbMain"_s)->widgetForAction(add));
+    ASSERT_NE(button, nullptr);
+    EXPECT_EQ(button->popupMode(), QToolButton::MenuButtonPopup);
+    EXPECT_FALSE(menu->toolTipsVisible());
+    QStringList entries;
+    for (QAction* action : menu->actions())
+        entries << (action->isSeparator() ? u"-"_s : action->objectName() + u'=' + action->text());
+    EXPECT_EQ(entries,
+              (QStringList{u"btnaddbefore=Before selection"_s, u"btnaddafter=After selection"_s, u"-"_s,
+                           u"btncopylast=Copy selected line"_s, u"btncopylastx=Copy selected line x times"_s,
+                           u"-"_s, u"btncopyall=Copy all lines"_s,
+                           u"btncopyallreverse=Copy all lines (reverse)"_s}));
+}
+
+// --- dispatch by key
+
+TEST_F(MainWindow, ButtonKeysReachTheirCommands) {
+    AddLines({"a", "b"});
+    window->tlbMain_ButtonClick(u"btnnew"_s);
+    EXPECT_EQ(Script().Count(), 0) << "btnnew is New";
+
+    dialogs.QueueMessageAnswer(MsgAnswer::Ok);
+    window->tlbMain_ButtonClick(u"btnpreview"_s);
+    EXPECT_EQ(dialogs.Messages().size(), 1u) << "btnpreview is Play, which has nothing to play";
+
+    AddLines({"a"});
+    for (const QString& key : {u"BTNNEW"_s, u"btnnew "_s, u"btnaddbefore"_s, QString()})
+        window->tlbMain_ButtonClick(key);
+    EXPECT_EQ(Script().Count(), 1) << "only the exact key text counts";
+    for (const QString& key : {u"btnnew"_s, u"btnpreview"_s, QString()}) window->tlbMain_ButtonMenuClick(key);
+    EXPECT_EQ(Script().Count(), 1) << "toolbar keys are no menu keys";
+    EXPECT_FALSE(window->Playing());
+}
+
+TEST_F(MainWindow, ToolbarAndMenuEntriesCallTheirCommands) {
+    AddLines({"a"});
+    Named(u"btnnew"_s)->trigger();
+    EXPECT_EQ(Script().Count(), 0);
+    AddLines({"a"});
+    Named(u"mnuFileNew"_s)->trigger();
+    EXPECT_EQ(Script().Count(), 0);
+
+    AddLines({"a"});
+    Named(u"btnpreview"_s)->trigger();
+    EXPECT_TRUE(window->Playing());
+    Named(u"btnpreview"_s)->trigger();
+    EXPECT_FALSE(window->Playing());
+
+    Named(u"mnuEditShowColors"_s)->trigger();
+    EXPECT_TRUE(window->ColorsVisible());
+    EXPECT_TRUE(Named(u"mnuEditShowColors"_s)->isChecked());
+    Named(u"mnuEditShowColors"_s)->trigger();
+    EXPECT_FALSE(window->ColorsVisible());
+    EXPECT_FALSE(Named(u"mnuEditShowColors"_s)->isChecked());
+}
+
+// --- New and SetPreview
+
+TEST_F(MainWindow, NewEmptiesTheListAndLeavesThePaneAsItWas) {
+    AddLines({"^1Hi", "b"});
+    window->SetPreview();
+    window->NewAnimation();
+    EXPECT_EQ(Script().Count(), 0);
+    EXPECT_EQ(PaneText(), "Hi");
+    EXPECT_FALSE(PaneLocked());
+    window->SetPreview();
+    EXPECT_EQ(PaneText(), "Preview");
+    EXPECT_TRUE(PaneLocked());
+}
+
+TEST_F(MainWindow, SetPreviewShowsTheSelectedLineInItsColours) {
+    AddLines({"first", "^1A^2B", "third"});
+    Script().SelectLine(2);
+    window->SetPreview();
+    EXPECT_FALSE(PaneLocked());
+    EXPECT_EQ(PaneRuns(), (std::vector<ColouredRun>{{"A", kRed}, {"B", kGreen}}));
+}
+
+TEST_F(MainWindow, SetPreviewOfAnEmptyTextEmptiesThePane) {
+    AddLines({""});
+    window->SetPreview();
+    EXPECT_FALSE(PaneLocked());
+    EXPECT_EQ(PaneText(), "");
+}
+
+struct BusyCase {
+    const char* name;
+    bool busyBefore;
+    bool withLines;
+};
+
+class SetPreviewBusy : public MainWindowTest, public testing::WithParamInterface<BusyCase> {};
+
+// The pane's change event fires while SetPreview draws, always with
+// PreviewBusy set, and PreviewBusy is given back its old value.
+TEST_P(SetPreviewBusy, DrawsBusyAndRestoresTheFlag) {
+    if (GetParam().withLines) AddLines({"^3x", "y"});
+    window->PreviewBusy = GetParam().busyBefore;
+    std::vector<bool> seen;
+    QObject::connect(window->PreviewEdit(), &QTextEdit::textChanged, window.get(),
+                     [&] { seen.push_back(window->PreviewBusy); });
+    window->SetPreview();
+    ASSERT_FALSE(seen.empty());
+    for (bool busy : seen) EXPECT_TRUE(busy);
+    EXPECT_EQ(window->PreviewBusy, GetParam().busyBefore);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, SetPreviewBusy,
+    testing::Values(BusyCase{"IdleWithLines", false, true}, BusyCase{"IdleEmpty", false, false},
+                    BusyCase{"BusyWithLines", true, true}, BusyCase{"BusyEmpty", true, false}),
+    [](const testing::TestParamInfo<BusyCase>& info) { return std::string(info.param.name); });
+
+// --- the list and the selection
+
+TEST_F(MainWindow, AClickOnARowSelectsItsLineAndShowsIt) {
+    AddLines({"one", "^1two", "three"});
+    window->show();
+    auto* list = Named<LineListView>(u"lvwMain"_s);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    const QRect row = list->visualRect(list->model()->index(1, 1));
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, row.center());
+    EXPECT_EQ(Script().SelectedIndex(), 2);
+    EXPECT_EQ(PaneRuns(), (std::vector<ColouredRun>{{"two", kRed}}));
+
+    // A click below the last row, or with Ctrl on the selected row, keeps it.
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, QPoint(5, list->viewport()->height() - 3));
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, row.center());
+    EXPECT_EQ(Script().SelectedIndex(), 2);
+    EXPECT_TRUE(list->selectionModel()->isRowSelected(1, {}));
+}
+
+TEST_F(MainWindow, KeysMovingInTheListSelectTheLine) {
+    AddLines({"one", "two", "three"});
+    auto* list = Named<LineListView>(u"lvwMain"_s);
+    window->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Down);
+    EXPECT_EQ(Script().SelectedIndex(), 2);
+    QTest::keyClick(list, Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(Script().SelectedIndex(), 3);
+    QTest::keyClick(list, Qt::Key_Up);
+    EXPECT_EQ(Script().SelectedIndex(), 2);
+}
+
+TEST_F(MainWindow, TheListFollowsTheScriptsSelection) {
+    auto* list = Named<LineListView>(u"lvwMain"_s);
+    AddLines({"a", "b", "c"});
+    EXPECT_EQ(list->currentIndex().row(), 0);
+    Script().SelectLine(3);
+    EXPECT_EQ(list->currentIndex().row(), 2);
+    ASSERT_TRUE(Script().InsertLine(1, "new", "15", "[none]"));
+    EXPECT_EQ(Script().SelectedIndex(), 4);
+    EXPECT_EQ(list->currentIndex().row(), 3);
+    // Removing the selected line: the script picks the next one, and the list
+    // shows that one, not the one its own rule would pick.
+    Script().SelectLine(2);
+    ASSERT_TRUE(Script().RemoveLine(2));
+    EXPECT_EQ(Script().SelectedIndex(), 2);
+    EXPECT_EQ(list->currentIndex().row(), 1);
+    EXPECT_TRUE(list->selectionModel()->isRowSelected(1, {}));
+    Script().ClearLines();
+    EXPECT_FALSE(list->selectionModel()->hasSelection());
+    AddLines({"x"});
+    EXPECT_EQ(list->currentIndex().row(), 0);
+}
+
+// --- in-place editing follows the setting
+
+struct EditItemCase {
+    const char* name;
+    const char* stored;
+    QAbstractItemView::EditTriggers expected;
+};
+
+class EditItemSetting : public MainWindowTest, public testing::WithParamInterface<EditItemCase> {};
+
+TEST_P(EditItemSetting, DecidesWhetherTheTextCanBeEditedInPlace) {
+    store.WriteRegistryString(u"EditItem"_s, QString::fromLatin1(GetParam().stored));
+    MakeWindow();
+    EXPECT_EQ(Named<LineListView>(u"lvwMain"_s)->editTriggers(), GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, EditItemSetting,
+                         testing::Values(EditItemCase{"On", "1", QAbstractItemView::SelectedClicked},
+                                         EditItemCase{"Off", "0", QAbstractItemView::NoEditTriggers},
+                                         EditItemCase{"True", "true", QAbstractItemView::NoEditTriggers}),
+                         [](const testing::TestParamInfo<EditItemCase>& info) {
+                             return std::string(info.param.name);
+                         });
+
+TEST_F(MainWindow, LoadSettingsAgainAppliesAChangedSetting) {
+    auto* list = Named<LineListView>(u"lvwMain"_s);
+    EXPECT_EQ(list->editTriggers(), QAbstractItemView::NoEditTriggers);
+    store.WriteRegistryString(u"EditItem"_s, u"1"_s);
+    store.WriteRegistryString(u"Name"_s, u"Quillon"_s);
+    window->LoadSettings();
+    EXPECT_EQ(list->editTriggers(), QAbstractItemView::SelectedClicked);
+    EXPECT_EQ(window->Settings().Name, u"Quillon"_s);
+}
+
+TEST_F(MainWindow, AnInPlaceEditWritesTheTextAndNothingElse) {
+    store.WriteRegistryString(u"EditItem"_s, u"1"_s);
+    MakeWindow();
+    AddLines({"^1old"});
+    window->SetPreview();
+    auto* list = Named<LineListView>(u"lvwMain"_s);
+    QAbstractItemModel* model = list->model();
+    EXPECT_TRUE(model->flags(model->index(0, 0)) & Qt::ItemIsEditable);
+    EXPECT_FALSE(model->flags(model->index(0, 1)) & Qt::ItemIsEditable);
+    EXPECT_FALSE(model->flags(model->index(0, 2)) & Qt::ItemIsEditable);
+    EXPECT_TRUE(model->setData(model->index(0, 0), u"^2new \u00e9"_s));
+    EXPECT_FALSE(model->setData(model->index(0, 1), u"99"_s));
+    EXPECT_EQ(Script().LineAt(1), (AnimationLine{"^2new \xE9", "15", "[none]"}));
+    EXPECT_EQ(PaneText(), "old") << "the pane isn't refreshed";
+}
+
+// --- the Edit menu's shortcuts work on lines wherever the focus is
+
+TEST_F(MainWindow, CutCopyPasteKeysReachTheMenuFromThePaneAndTheList) {
+    window->show();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    AddLines({"line"});
+    window->SetPreview();
+    QSignalSpy cut(Named(u"mnuEditCut"_s), &QAction::triggered);
+    QSignalSpy copy(Named(u"mnuEditCopy"_s), &QAction::triggered);
+    QSignalSpy paste(Named(u"mnuEditPaste"_s), &QAction::triggered);
+    for (QWidget* target :
+         {static_cast<QWidget*>(window->PreviewEdit()), static_cast<QWidget*>(window->ListView())}) {
+        target->setFocus();
+        QTest::keyClick(target, Qt::Key_X, Qt::ControlModifier);
+        QTest::keyClick(target, Qt::Key_C, Qt::ControlModifier);
+        QTest::keyClick(target, Qt::Key_V, Qt::ControlModifier);
+    }
+    EXPECT_EQ(cut.count(), 2);
+    EXPECT_EQ(copy.count(), 2);
+    EXPECT_EQ(paste.count(), 2);
+    EXPECT_EQ(PaneText(), "line") << "the pane's own cut must not run";
+}
+
+TEST_F(MainWindow, F1OpensAboutNotHelp) {
+    window->show();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    QSignalSpy about(Named(u"mnuHelpAbout"_s), &QAction::triggered);
+    QSignalSpy help(Named(u"mnuHelpHelp"_s), &QAction::triggered);
+    QTest::keyClick(window->ListView(), Qt::Key_F1);
+    EXPECT_EQ(about.count(), 1);
+    EXPECT_EQ(help.count(), 0);
+}
+
+TEST_F(MainWindow, ExitClosesTheWindowWithoutAQuestion) {
+    AddLines({"unsaved"});
+    window->show();
+    Named(u"mnuFileExit"_s)->trigger();
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_TRUE(dialogs.Calls().empty());
+    EXPECT_FALSE(store.Written());
+}
+
+}  // namespace
+}  // namespace fs::ui::testing_support
