@@ -146,8 +146,13 @@ void RichPane::SetLocked(bool locked) {
 
 void RichPane::SetRuns(const std::vector<ColouredRun>& runs) {
     QTextDocument* doc = edit_->document();
+    // A replacement of the whole content starts a new history: kept, the old
+    // one would grow with every frame that playback draws.
+    const bool undo = doc->isUndoRedoEnabled();
+    doc->setUndoRedoEnabled(false);
     QTextCursor cursor(doc);
-    // One edit block: the widget hears of the whole replacement once.
+    // One edit block: the widget hears of the whole replacement once, and lays
+    // the text out once.
     cursor.beginEditBlock();
     cursor.select(QTextCursor::Document);
     cursor.removeSelectedText();
@@ -160,12 +165,12 @@ void RichPane::SetRuns(const std::vector<ColouredRun>& runs) {
         cursor.insertText(ToQString(run.text), *it);
     }
     cursor.endEditBlock();
+    doc->setUndoRedoEnabled(undo);
     pending_.reset();
-    // The caret ends behind the last character, as after a render character by
-    // character, with no colour pending for the next insertion.
-    QTextCursor caret(doc);
-    caret.movePosition(QTextCursor::End);
-    edit_->setTextCursor(caret);
+    // The caret ends behind the last character, where the inserting cursor
+    // stands, as after a render character by character, with no colour
+    // pending for the next insertion.
+    edit_->setTextCursor(cursor);
 }
 
 std::vector<ColouredRun> RichPane::Runs() const {

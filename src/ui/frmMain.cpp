@@ -226,7 +226,12 @@ void frmMain::BuildControls() {
 
     auto* pane = new OneLineRichEdit(client_);
     pane->setObjectName(u"txtPreview"_s);
-    StyleGreyPane(pane, BoldFont(u"Courier New"_s, 14.25, QFont::TypeWriter));
+    QFont paneFont = BoldFont(u"Courier New"_s, 14.25, QFont::TypeWriter);
+    // A name of single characters in ever new colours needs no shaping: this
+    // keeps the longest text fast to draw.
+    paneFont.setStyleStrategy(QFont::PreferNoShaping);
+    paneFont.setKerning(false);
+    StyleGreyPane(pane, paneFont);
     pane->document()->setDocumentMargin(2);
     txtPreview_ = pane;
     preview_ = std::make_unique<RichPane>(txtPreview_);

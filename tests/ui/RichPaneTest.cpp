@@ -286,5 +286,18 @@ TEST(RichPane, LockedKeepsTheUserOutButNotTheRoutines) {
     EXPECT_FALSE(edit.isReadOnly());
 }
 
+// Playback replaces the content ten times a second; no history may pile up.
+TEST(RichPane, AReplacementOfTheWholeContentLeavesNoHistory) {
+    QTextEdit edit;
+    RichPane pane(&edit);
+    QTest::keyClicks(&edit, QStringLiteral("typed"));
+    ASSERT_TRUE(edit.document()->isUndoAvailable());
+    pane.SetRuns({{"frame", kRed}});
+    EXPECT_FALSE(edit.document()->isUndoAvailable());
+    EXPECT_TRUE(edit.document()->isUndoRedoEnabled());
+    QTest::keyClicks(&edit, QStringLiteral("x"));
+    EXPECT_TRUE(edit.document()->isUndoAvailable()) << "typing keeps its history";
+}
+
 }  // namespace
 }  // namespace fs::ui

@@ -1,0 +1,122 @@
+// The main window's speed: the list of a full animation, the preview pane
+// with a name and with the longest text, and the start of the program.
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QMap>
+#include <QTextEdit>
+#include <string>
+
+#include "colour/ColouredText.h"
+#include "colour/Palette.h"
+#include "document/AnimationScript.h"
+#include "settings/SettingsStore.h"
+#include "ui/LineListView.h"
+#include "ui/QtDialogs.h"
+#include "ui/frmMain.h"
+
+namespace {
+
+using fs::AnimationScript;
+
+class NoSettings : public fs::settings::SettingsStore {
+public:
+    QString ReadRegistryString(const QString&, const QString& defaultValue) const override {
+        return defaultValue;
+    }
+    void WriteRegistryString(const QString&, const QString&) override {}
+};
+
+// A main window on screen, as the user has it.
+struct ShownWindow {
+    ShownWindow() : window(dialogs, store) {
+        window.show();
+        QCoreApplication::processEvents();
+    }
+    fs::ui::QtDialogs dialogs;
+    NoSettings store;
+    fs::ui::frmMain window;
+};
+
+// A coded text whose colour changes at every one of its `length` characters.
+std::string EveryCharacterItsColour(int length) {
+    std::string coded;
+    coded.reserve(static_cast<std::size_t>(length) * 3);
+    for (int i = 0; i < length; ++i) {
+        coded += '^';
+        coded += static_cast<char>('1' + i % 8);
+        coded += static_cast<char>('a' + i % 26);
+    }
+    return coded;
+}
+
+void BM_ListResetAndFirstPaint(benchmark::State& state) {
+    ShownWindow shown;
+    AnimationScript& script = shown.window.Script();
+    const int lines = static_cast<int>(state.range(0));
+    for (auto _ : state) {
+        {
+            AnimationScript::Batch batch(script);
+            script.ClearLines();
+            for (int i = 0; i < lines; ++i)
+                script.AppendLine("^1Fl^2ick^3er " + std::to_string(i), "15", "[none]");
+        }
+        shown.window.ListView()->viewport()->repaint();
+    }
+    state.SetItemsProcessed(state.iterations() * lines);
+}
+BENCHMARK(BM_ListResetAndFirstPaint)->Arg(fs::kMaxLines)->Unit(benchmark::kMillisecond);
+
+void BM_RenderName(benchmark::State& state) {
+    ShownWindow shown;
+    const std::string name = EveryCharacterItsColour(64);
+    for (auto _ : state) {
+        fs::RenderCodedText(name, shown.window.PreviewPane());
+        shown.window.PreviewEdit()->viewport()->repaint();
+    }
+}
+BENCHMARK(BM_RenderName)->Unit(benchmark::kMicrosecond);
+
+void BM_RenderLongestTextToFirstPaint(benchmark::State& state) {
+    ShownWindow shown;
+    const std::string text = EveryCharacterItsColour(32767);
+    for (auto _ : state) {
+        fs::RenderCodedText(text, shown.window.PreviewPane());
+        shown.window.PreviewEdit()->viewport()->repaint();
+    }
+}
+BENCHMARK(BM_RenderLongestTextToFirstPaint)->Unit(benchmark::kMillisecond);
+
+void BM_EncodeLongestText(benchmark::State& state) {
+    ShownWindow shown;
+    fs::RenderCodedText(EveryCharacterItsColour(32767), shown.window.PreviewPane());
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(fs::EncodeColoredText(shown.window.PreviewPane(), fs::kWhite));
+    }
+}
+BENCHMARK(BM_EncodeLongestText)->Unit(benchmark::kMillisecond);
+
+void BM_StartUpToFirstPaint(benchmark::State& state) {
+    for (auto _ : state) {
+        fs::ui::QtDialogs dialogs;
+        NoSettings store;
+        fs::ui::frmMain window(dialogs, store);
+        window.show();
+        window.repaint();
+    }
+}
+BENCHMARK(BM_StartUpToFirstPaint)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Flickerscribe"));
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
