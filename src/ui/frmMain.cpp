@@ -247,6 +247,7 @@ void frmMain::BuildControls() {
     lvwMain_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     lvwMain_->verticalHeader()->setDefaultSectionSize(QFontMetrics(lvwMain_->font()).height() + 4);
     lvwMain_->horizontalHeader()->setHighlightSections(false);
+    lvwMain_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     lvwMain_->horizontalHeader()->setSectionsClickable(false);
     lvwMain_->setColumnWidth(0, Twips(5000));
     lvwMain_->setColumnWidth(1, Twips(1440));
