@@ -94,6 +94,17 @@ protected:
         return rows;
     }
 
+    // The one message asked since the last ClearCalls, put over the wizard.
+    void ExpectOneMessage(const QString& text, const QString& title, MsgIcon icon, MsgButtons buttons) const {
+        const auto messages = dialogs.Messages();
+        ASSERT_EQ(messages.size(), 1u);
+        EXPECT_EQ(messages[0].text, text);
+        EXPECT_EQ(messages[0].title, title);
+        EXPECT_EQ(messages[0].icon, icon);
+        EXPECT_EQ(messages[0].buttons, buttons);
+        EXPECT_EQ(messages[0].parent, wizard.get());
+    }
+
     std::vector<std::string> Texts() const {
         std::vector<std::string> texts;
         for (int i = 1; i <= script.Count(); ++i) texts.push_back(script.LineAt(i).Text);
@@ -293,18 +304,13 @@ TEST_F(WizardTest, ANameBoxTakingTheFocusSelectsItsOption) {
     EXPECT_EQ(Find<QLineEdit>(u"txtClanTag"_s).text(), u"[QZT]"_s);
 }
 
-TEST_F(WizardTest, AddWithNothingChosenDoesNothing) {
-    Open();
-    GoToPage(4);
-    Click(u"cmdAddEffect"_s);
-    EXPECT_THAT(Rows(), IsEmpty());
-    EXPECT_THAT(dialogs.Calls(), IsEmpty());
-}
-
 TEST_F(WizardTest, AddAppendsTheChosenEffectAndLeavesTheParameterBoxesAlone) {
     Open();
     GoToPage(4);
     auto& combo = Find<QComboBox>(u"cmbEffects"_s);
+    // With nothing chosen, Add does nothing.
+    Click(u"cmdAddEffect"_s);
+    EXPECT_THAT(Rows(), IsEmpty());
     // Text typed with no row selected just stays in the box.
     Type(u"txtParam1"_s, u"7"_s);
     AddEffect(u"Bounce"_s);
@@ -422,13 +428,8 @@ TEST_F(WizardTest, TheRepeatQuestionDecidesTheBounce) {
         dialogs.QueueMessageAnswer(c.answer);
         Click(u"cmdNext"_s);
 
-        const auto messages = dialogs.Messages();
-        ASSERT_EQ(messages.size(), 1u);
-        EXPECT_EQ(messages[0].text, u"Are you sure you want to repeat the BOUNCE EFFECT 5 times?"_s);
-        EXPECT_EQ(messages[0].title, u"Processing effect list..."_s);
-        EXPECT_EQ(messages[0].icon, MsgIcon::Question);
-        EXPECT_EQ(messages[0].buttons, MsgButtons::YesNo);
-        EXPECT_EQ(messages[0].parent, wizard.get());
+        ExpectOneMessage(u"Are you sure you want to repeat the BOUNCE EFFECT 5 times?"_s,
+                         u"Processing effect list..."_s, MsgIcon::Question, MsgButtons::YesNo);
         if (c.answer == MsgAnswer::No) {
             EXPECT_THAT(Texts(), ElementsAreArray(c.lines));
         } else {
@@ -510,15 +511,11 @@ TEST_F(WizardTest, LeavingWithoutFinish) {
         } else {
             wizard->close();
         }
-        const auto messages = dialogs.Messages();
         if (c.asks) {
-            ASSERT_EQ(messages.size(), 1u);
-            EXPECT_EQ(messages[0].text, u"Are you sure you want to exit the wizard?"_s);
-            EXPECT_EQ(messages[0].title, u"Exit wizard?"_s);
-            EXPECT_EQ(messages[0].icon, MsgIcon::Question);
-            EXPECT_EQ(messages[0].buttons, MsgButtons::YesNo);
+            ExpectOneMessage(u"Are you sure you want to exit the wizard?"_s, u"Exit wizard?"_s,
+                             MsgIcon::Question, MsgButtons::YesNo);
         } else {
-            EXPECT_THAT(messages, IsEmpty());
+            EXPECT_THAT(dialogs.Calls(), IsEmpty());
         }
         EXPECT_EQ(wizard->isVisible(), c.stays);
         EXPECT_EQ(wizard->CurrentPage(), 4);
@@ -533,12 +530,8 @@ TEST_F(WizardTest, PreviewOnlyShowsAMessage) {
     GoToPage(4);
     AddEffect(u"Bounce"_s);
     Click(u"cmdPreview"_s);
-    const auto messages = dialogs.Messages();
-    ASSERT_EQ(messages.size(), 1u);
-    EXPECT_EQ(messages[0].text, u"Preview not available yet!"_s);
-    EXPECT_EQ(messages[0].title, u"Effect - Preview"_s);
-    EXPECT_EQ(messages[0].icon, MsgIcon::Information);
-    EXPECT_EQ(messages[0].buttons, MsgButtons::Ok);
+    ExpectOneMessage(u"Preview not available yet!"_s, u"Effect - Preview"_s, MsgIcon::Information,
+                     MsgButtons::Ok);
     EXPECT_EQ(Rows().size(), 1u);
     EXPECT_TRUE(wizard->isVisible());
 }
