@@ -291,12 +291,13 @@ TEST_F(WizardTest, ANameBoxTakingTheFocusSelectsItsOption) {
         int option;
     };
     const Case cases[] = {
-        {u"txtNameOnly_0"_s, 0}, {u"txtClanTag"_s, 1}, {u"txtNameOnly_0"_s, 0},
-        {u"txtNameOnly_1"_s, 1}, {u"txtParam1"_s, 1},
+        {u"txtNameOnly_0"_s, 0},
+        {u"txtClanTag"_s, 1},
+        {u"txtNameOnly_0"_s, 0},
+        {u"txtNameOnly_1"_s, 1},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.box.toStdString());
-        if (c.box == u"txtParam1"_s) GoToPage(4);
         Find<QLineEdit>(c.box).setFocus();
         EXPECT_TRUE(Find<QRadioButton>(u"optNameOnly_%1"_s.arg(c.option)).isChecked());
     }
@@ -405,41 +406,23 @@ TEST_F(WizardTest, FinishRunsTheEffectListFromTheWindow) {
 }
 
 // A repeat of 5 or more asks over the wizard first; No skips that row alone.
-TEST_F(WizardTest, TheRepeatQuestionDecidesTheBounce) {
-    struct Case {
-        MsgAnswer answer;
-        std::vector<std::string> lines;
-    };
-    const Case cases[] = {
-        {MsgAnswer::No, {"[T]K", "[T]Ka"}},
-        {MsgAnswer::Yes, {}},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.answer == MsgAnswer::Yes ? "Yes" : "No");
-        settings.Name = u"Ka"_s;
-        settings.Clantag = u"[T]"_s;
-        Open();
-        GoToPage(4);
-        AddEffect(u"Bounce"_s);
-        AddEffect(u"Wave 2"_s);
-        ClickRow(0);
-        Type(u"txtParam1"_s, u"5"_s);
-        dialogs.ClearCalls();
-        dialogs.QueueMessageAnswer(c.answer);
-        Click(u"cmdNext"_s);
+// (Yes is what lets the line-limit case below reach the limit.)
+TEST_F(WizardTest, NoToTheRepeatQuestionSkipsTheBounce) {
+    settings.Name = u"Ka"_s;
+    settings.Clantag = u"[T]"_s;
+    Open();
+    GoToPage(4);
+    AddEffect(u"Bounce"_s);
+    AddEffect(u"Wave 2"_s);
+    ClickRow(0);
+    Type(u"txtParam1"_s, u"5"_s);
+    dialogs.QueueMessageAnswer(MsgAnswer::No);
+    Click(u"cmdNext"_s);
 
-        ExpectOneMessage(u"Are you sure you want to repeat the BOUNCE EFFECT 5 times?"_s,
-                         u"Processing effect list..."_s, MsgIcon::Question, MsgButtons::YesNo);
-        if (c.answer == MsgAnswer::No) {
-            EXPECT_THAT(Texts(), ElementsAreArray(c.lines));
-        } else {
-            // Five bounces of a two-letter name: (2 * 2 + 1) * 2^5 - 5 lines,
-            // then the stripped wave's two.
-            EXPECT_EQ(script.Count(), 155 + 2);
-        }
-        EXPECT_FALSE(wizard->isVisible());
-        script.ClearLines();
-    }
+    ExpectOneMessage(u"Are you sure you want to repeat the BOUNCE EFFECT 5 times?"_s,
+                     u"Processing effect list..."_s, MsgIcon::Question, MsgButtons::YesNo);
+    EXPECT_THAT(Texts(), ElementsAre("[T]K", "[T]Ka"));
+    EXPECT_FALSE(wizard->isVisible());
 }
 
 TEST_F(WizardTest, WorkStoppedByALimitIsReported) {
