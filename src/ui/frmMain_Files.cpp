@@ -1,16 +1,71 @@
+#include "document/AnimationFile.h"
+#include "script/ConfigImport.h"
+#include "ui/FileCommands.h"
+#include "ui/LineLimit.h"
 #include "ui/frmMain.h"
+#include "ui/frmScript.h"
 
 // The commands through the file dialog: Open and Save As of the animation,
 // Import of a script, and the generated script.
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace fs::ui {
+namespace {
 
-void frmMain::OpenAnimation() {}
+const QString kAnimationFilter = u"Brennock Animation Script (*.fsq)|*.fsq"_s;
 
-void frmMain::SaveAnimationAs() {}
+}  // namespace
 
-void frmMain::ImportScript() {}
+void frmMain::OpenAnimation() {
+    dlgFileOps.DialogTitle = u"Open Brennock Animation"_s;
+    dlgFileOps.Filter = kAnimationFilter;
+    if (!settings_.OpenDir.isEmpty()) dlgFileOps.InitDir = settings_.OpenDir;
+    if (!dialogs_.ShowOpen(this, dlgFileOps)) return;
 
-void frmMain::GenerateScript() {}
+    const std::string path = NativePath(dlgFileOps.FileName);
+    if (!FileExists(path)) {
+        dialogs_.Message(this, u"File not found!\n"_s + dlgFileOps.FileName, u"Error"_s, MsgIcon::Critical,
+                         MsgButtons::Ok);
+        return;
+    }
+    // A read that fails half way keeps the lines read so far, without a word.
+    if (LoadAnimationFile(path, script_) == LoadStatus::Truncated) ShowLineLimitMessage(dialogs_, this);
+}
+
+void frmMain::SaveAnimationAs() {
+    const auto path = ChooseSavePath(dialogs_, this, dlgFileOps,
+                                     [this] {
+                                         dlgFileOps.DialogTitle = u"Save Brennock Animation"_s;
+                                         dlgFileOps.Filter = kAnimationFilter;
+                                         if (!settings_.SaveDir.isEmpty())
+                                             dlgFileOps.InitDir = settings_.SaveDir;
+                                     },
+                                     {u"File exists! Overwrite?"_s, u"Save Brennock Animation"_s});
+    if (!path) return;
+    if (const auto error = SaveAnimationFile(*path, script_)) ShowSaveError(dialogs_, this, *error);
+}
+
+void frmMain::ImportScript() {
+    dialogs_.Message(this, u"Note: Currently only .cfg files can be imported!"_s, u"Import note"_s,
+                     MsgIcon::Information, MsgButtons::Ok);
+    // The folder is left as it is: the dialog opens where it was last.
+    dlgFileOps.DialogTitle = u"Import file"_s;
+    dlgFileOps.Filter = u"Brennock Scripts (*.cfg)|*.cfg"_s;
+    if (!dialogs_.ShowOpen(this, dlgFileOps)) return;
+
+    const std::string path = NativePath(dlgFileOps.FileName);
+    if (!FileExists(path)) {
+        dialogs_.Message(this, u"File not found!"_s, u"Import error"_s, MsgIcon::Critical, MsgButtons::Ok);
+        return;
+    }
+    if (ImportFile(path, script_) == LoadStatus::Truncated) ShowLineLimitMessage(dialogs_, this);
+}
+
+void frmMain::GenerateScript() {
+    frmScript window(script_, dialogs_, settings_, this);
+    window.Form_Load();
+    window.exec();
+}
 
 }  // namespace fs::ui

@@ -1,0 +1,43 @@
+#include "ui/FileCommands.h"
+
+#include <QFile>
+
+#include "document/AnimationFile.h"
+#include "ui/Dialogs.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace fs::ui {
+
+std::string NativePath(const QString& path) {
+    return QFile::encodeName(path).toStdString();
+}
+
+std::optional<std::string> ChooseSavePath(Dialogs& dialogs, QWidget* parent, FileDialogState& dialog,
+                                          const std::function<void()>& prepare,
+                                          const OverwriteQuestion& question) {
+    for (;;) {
+        if (prepare) prepare();
+        if (!dialogs.ShowSave(parent, dialog)) return std::nullopt;
+        std::string path = NativePath(dialog.FileName);
+        if (!FileExists(path)) return path;
+        switch (dialogs.Message(parent, question.text, question.title, MsgIcon::Question,
+                                MsgButtons::YesNoCancel)) {
+            case MsgAnswer::Yes:
+                return path;
+            case MsgAnswer::No:
+                continue;
+            case MsgAnswer::Ok:
+            case MsgAnswer::Cancel:
+                return std::nullopt;
+        }
+    }
+}
+
+void ShowSaveError(Dialogs& dialogs, QWidget* parent, const SaveError& error) {
+    const QString text = u"Error saving script!\n%1\n%2"_s.arg(QString::number(error.number),
+                                                               QString::fromLocal8Bit(error.text));
+    dialogs.Message(parent, text, u"Error"_s, MsgIcon::Critical, MsgButtons::Ok);
+}
+
+}  // namespace fs::ui

@@ -1,0 +1,129 @@
+#include "ui/frmScript.h"
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "document/AnimationScript.h"
+#include "document/SafeWrite.h"
+#include "script/ScriptText.h"
+#include "settings/Settings.h"
+#include "ui/DialogWindow.h"
+#include "ui/FileCommands.h"
+#include "ui/TextConv.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace fs::ui {
+namespace {
+
+// The size the window opens with, in twips.
+constexpr int kOpeningWidth = 9600;
+constexpr int kOpeningHeight = 7200;
+
+// Courier New at 9.75 points, or the nearest fixed-pitch face there is.
+QFont ScriptFont() {
+    QFont font;
+    font.setFamilies({u"Courier New"_s, u"Courier"_s, u"Liberation Mono"_s, u"DejaVu Sans Mono"_s});
+    font.setStyleHint(QFont::TypeWriter);
+    font.setFixedPitch(true);
+    font.setPointSizeF(9.75);
+    return font;
+}
+
+}  // namespace
+
+frmScript::frmScript(const AnimationScript& script, Dialogs& dialogs, const settings::Settings& settings,
+                     QWidget* parent)
+    : QDialog(parent), script_(script), dialogs_(dialogs), settings_(settings) {
+    MakeSizableDialog(*this, u"frmScript"_s, u"Generate Brennock Script"_s, kOpeningWidth, kOpeningHeight);
+
+    auto* menu = new QMenuBar(this);
+    menu->setNativeMenuBar(false);
+    mnuSave_ = menu->addAction(u"Save"_s);
+    mnuSave_->setObjectName(u"mnuSave"_s);
+    connect(mnuSave_, &QAction::triggered, this, &frmScript::SaveScript);
+
+    txtScript_ = new QPlainTextEdit(this);
+    txtScript_->setObjectName(u"txtScript"_s);
+    txtScript_->setLineWrapMode(QPlainTextEdit::NoWrap);
+    txtScript_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    txtScript_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    txtScript_->setFont(ScriptFont());
+
+    // The box fills the whole client area under the menu, whatever its size.
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->setMenuBar(menu);
+    layout->addWidget(txtScript_);
+
+    dlgFileOps.DialogTitle = u"Save Script"_s;
+    dlgFileOps.Filter = u"Brennock Script (*.cfg)|*.cfg|All Files(*.*)|*.*"_s;
+}
+
+frmScript::~frmScript() = default;
+
+void frmScript::Form_Load() {
+    txtScript_->clear();
+    // The window isn't shown yet: the messages stand over its owner.
+    QWidget* owner = parentWidget();
+    const std::string text = BuildScriptText(script_, [this, owner](const std::string& message) {
+        dialogs_.Message(owner, ToQString(message), QString(), MsgIcon::None, MsgButtons::Ok);
+    });
+    QString shown = ToQString(text);
+    shown.replace(u"\r\n"_s, u"\n"_s);
+    // One call for the whole text: tens of thousands of lines go in at once.
+    txtScript_->setPlainText(shown);
+}
+
+std::string frmScript::ScriptFileBytes() const {
+    // The raw text keeps no-break spaces as they are; every line break of the
+    // box, a soft one too, becomes CR LF.
+    QString text = txtScript_->document()->toRawText();
+    text.replace(QChar::ParagraphSeparator, u"\r\n"_s);
+    text.replace(QChar::LineSeparator, u"\r\n"_s);
+    std::string bytes = FromQString(text);
+    bytes += kScriptLineEnd;
+    return bytes;
+}
+
+void frmScript::SaveScript() {
+    const auto path = ChooseSavePath(dialogs_, this, dlgFileOps,
+                                     [this] {
+                                         if (!settings_.SaveDir.isEmpty())
+                                             dlgFileOps.InitDir = settings_.SaveDir;
+                                     },
+                                     {u"File Exists! Overwrite?"_s, u"Save script"_s});
+    if (!path) return;
+    // The file is replaced only once the new text is complete on disk; on a
+    // failure the old file stays whole and the text stays in the box.
+    if (const auto error = WriteFileSafely(*path, ScriptFileBytes())) ShowSaveError(dialogs_, this, *error);
+}
+
+void frmScript::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (placed_) return;
+    placed_ = true;
+    // Centred on the screen, not on the main window.
+    if (const QScreen* screen = this->screen()) {
+        QRect frame = frameGeometry();
+        frame.moveCenter(screen->availableGeometry().center());
+        move(frame.topLeft());
+    }
+}
+
+void frmScript::keyPressEvent(QKeyEvent* event) {
+    // Escape would close the window and lose the edits in the box: the close
+    // box is the way out.
+    if (event->key() == Qt::Key_Escape) {
+        event->accept();
+        return;
+    }
+    QDialog::keyPressEvent(event);
+}
+
+}  // namespace fs::ui
