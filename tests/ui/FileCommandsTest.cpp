@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
+#include <array>
 #include <cerrno>
 #include <cstring>
 
@@ -14,17 +15,22 @@
 #include "ui/frmScript.h"
 
 namespace fs::ui {
+
+// Readable names for the test tables.
+inline void PrintTo(MsgAnswer answer, std::ostream* os) {
+    *os << (answer == MsgAnswer::Yes ? "Yes" : answer == MsgAnswer::No ? "No" : "Cancel");
+}
+
 namespace {
 
 using namespace testing_support;
 using namespace Qt::Literals::StringLiterals;
+using Lines = std::vector<AnimationLine>;
 
 enum class Command { Open, SaveAs, Import, SaveScript };
-
-const QString kFsq = u"Brennock Animation Script (*.fsq)|*.fsq"_s;
-const QString kCfg = u"Brennock Scripts (*.cfg)|*.cfg"_s;
-const QString kCfgOrAll = u"Brennock Script (*.cfg)|*.cfg|All Files(*.*)|*.*"_s;
-const QString kImportNote = u"message Import note [info]: Note: Currently only .cfg files can be imported!"_s;
+void PrintTo(Command command, std::ostream* os) {
+    *os << std::array{"Open", "SaveAs", "Import", "SaveScript"}[static_cast<std::size_t>(command)];
+}
 
 class FileCommands : public MainWindowTest {
 protected:
@@ -37,10 +43,10 @@ protected:
         }
         return *scriptWindow;
     }
-    FileDialogState& DialogOf(Command command) {
-        return command == Command::SaveScript ? ScriptWindow().dlgFileOps : window->dlgFileOps;
-    }
-    void Run(Command command) {
+    // Runs the command with these answers queued for its file dialog.
+    void Run(Command command, const std::vector<std::optional<QString>>& files) {
+        const bool save = command == Command::SaveAs || command == Command::SaveScript;
+        for (const auto& file : files) save ? dialogs.QueueSave(file) : dialogs.QueueOpen(file);
         switch (command) {
             case Command::Open:
                 return window->OpenAnimation();
@@ -52,19 +58,8 @@ protected:
                 return ScriptWindow().SaveScript();
         }
     }
-    static bool Saves(Command command) {
-        return command == Command::SaveAs || command == Command::SaveScript;
-    }
-    void QueueFile(Command command, std::optional<QString> path) {
-        Saves(command) ? dialogs.QueueSave(std::move(path)) : dialogs.QueueOpen(std::move(path));
-    }
-    void UseFolders(const QString& openDir, const QString& saveDir) {
-        store.WriteRegistryString(u"OpenDir"_s, openDir);
-        store.WriteRegistryString(u"SaveDir"_s, saveDir);
-        window->LoadSettings();
-    }
-    std::vector<AnimationLine> Lines() {
-        std::vector<AnimationLine> out;
+    Lines ScriptLines() {
+        Lines out;
         for (int i = 1; i <= Script().Count(); ++i) out.push_back(Script().LineAt(i));
         return out;
     }
@@ -74,72 +69,78 @@ protected:
     std::unique_ptr<frmScript> scriptWindow;
 };
 
-// --- Cancel, and how each dialog is set up
-
 struct DialogCase {
     Command command;
-    QString title;
+    QString asked;  // the dialog as shown, behind the import note for Import
     QString filter;
     QString openDir, saveDir;
-    QString initDir;  // after a first run with other folders; "/last" is the dialog's own
+    QString initDir;  // "/last" is where the dialog was before
 };
+void PrintTo(const DialogCase& c, std::ostream* os) {
+    PrintTo(c.command, os);
+    *os << " in " << c.initDir.toStdString();
+}
 
 class FileDialogs : public FileCommands, public testing::WithParamInterface<DialogCase> {};
 
-TEST_P(FileDialogs, CancelChangesNothingAndTheFolderComesFromTheSettingsOfTheMoment) {
+TEST_P(FileDialogs, CancelChangesNothingAndTheFolderIsTheSettingOfTheMoment) {
     const DialogCase& c = GetParam();
     AddLines({"a", "b"});
-    UseFolders(u"/before"_s, u"/before"_s);
-    QueueFile(c.command, std::nullopt);
-    Run(c.command);
-    UseFolders(c.openDir, c.saveDir);
-    DialogOf(c.command).InitDir = u"/last"_s;
-    QueueFile(c.command, std::nullopt);
+    const auto useFolders = [this](const QString& open, const QString& save) {
+        store.WriteRegistryString(u"OpenDir"_s, open);
+        store.WriteRegistryString(u"SaveDir"_s, save);
+        window->LoadSettings();
+    };
+    useFolders(u"/before"_s, u"/before"_s);
+    Run(c.command, {std::nullopt});
+    useFolders(c.openDir, c.saveDir);
+    (c.command == Command::SaveScript ? ScriptWindow().dlgFileOps : window->dlgFileOps).InitDir = u"/last"_s;
     dialogs.ClearCalls();
-    Run(c.command);
+    Run(c.command, {std::nullopt});
 
-    const QString shown = (Saves(c.command) ? u"save "_s : u"open "_s) + c.title;
+    const QString note = u"message Import note [info]: Note: Currently only .cfg files can be imported!"_s;
     EXPECT_EQ(Asked(dialogs),
-              (c.command == Command::Import ? QStringList{kImportNote, shown} : QStringList{shown}));
-    const FileDialogState& state = dialogs.Calls().back().state;
-    EXPECT_EQ(state.Filter, c.filter);
-    EXPECT_EQ(state.InitDir, c.initDir);
-    EXPECT_EQ(Lines(), (std::vector<AnimationLine>{{"a"}, {"b"}}));
+              (c.command == Command::Import ? QStringList{note, c.asked} : QStringList{c.asked}));
+    EXPECT_EQ(dialogs.Calls().back().state.Filter, c.filter);
+    EXPECT_EQ(dialogs.Calls().back().state.InitDir, c.initDir);
+    EXPECT_EQ(ScriptLines(), (Lines{{"a"}, {"b"}}));
     EXPECT_TRUE(QDir(dir.path()).isEmpty());
 }
 
+const QString kFsq = u"Brennock Animation Script (*.fsq)|*.fsq"_s;
+const QString kCfgOrAll = u"Brennock Script (*.cfg)|*.cfg|All Files(*.*)|*.*"_s;
 INSTANTIATE_TEST_SUITE_P(
     Table, FileDialogs,
-    testing::Values(DialogCase{Command::Open, u"Open Brennock Animation"_s, kFsq, u"/o"_s, u"/s"_s, u"/o"_s},
-                    DialogCase{Command::Open, u"Open Brennock Animation"_s, kFsq, {}, u"/s"_s, u"/last"_s},
-                    DialogCase{Command::SaveAs, u"Save Brennock Animation"_s, kFsq, u"/o"_s, u"/s"_s,
-                               u"/s"_s},
-                    DialogCase{Command::SaveAs, u"Save Brennock Animation"_s, kFsq, u"/o"_s, {}, u"/last"_s},
-                    DialogCase{Command::Import, u"Import file"_s, kCfg, u"/o"_s, u"/s"_s, u"/last"_s},
-                    DialogCase{Command::SaveScript, u"Save Script"_s, kCfgOrAll, u"/o"_s, u"/s"_s, u"/s"_s},
-                    DialogCase{Command::SaveScript, u"Save Script"_s, kCfgOrAll, u"/o"_s, {}, u"/last"_s}));
-
-// --- a file that can't be read
+    testing::Values(
+        DialogCase{Command::Open, u"open Open Brennock Animation"_s, kFsq, u"/o"_s, u"/s"_s, u"/o"_s},
+        DialogCase{Command::Open, u"open Open Brennock Animation"_s, kFsq, {}, u"/s"_s, u"/last"_s},
+        DialogCase{Command::SaveAs, u"save Save Brennock Animation"_s, kFsq, u"/o"_s, u"/s"_s, u"/s"_s},
+        DialogCase{Command::SaveAs, u"save Save Brennock Animation"_s, kFsq, u"/o"_s, {}, u"/last"_s},
+        DialogCase{Command::Import, u"open Import file"_s, u"Brennock Scripts (*.cfg)|*.cfg"_s, u"/o"_s,
+                   u"/s"_s, u"/last"_s},
+        DialogCase{Command::SaveScript, u"save Save Script"_s, kCfgOrAll, u"/o"_s, u"/s"_s, u"/s"_s},
+        DialogCase{Command::SaveScript, u"save Save Script"_s, kCfgOrAll, u"/o"_s, {}, u"/last"_s}));
 
 enum class Missing { NoSuchFile, Folder, Unreadable };
+void PrintTo(Missing missing, std::ostream* os) {
+    *os << std::array{"NoSuchFile", "Folder", "Unreadable"}[static_cast<std::size_t>(missing)];
+}
 class MissingFiles : public FileCommands, public testing::WithParamInterface<std::tuple<Command, Missing>> {};
 
 TEST_P(MissingFiles, AreNotFoundAndLeaveTheList) {
     const auto [command, missing] = GetParam();
     if (missing == Missing::Unreadable && ::geteuid() == 0) GTEST_SKIP() << "root reads every file";
-    QString path = PathOf(u"gone.fsq"_s);
-    if (missing == Missing::Folder) path = dir.path();
+    const QString path = missing == Missing::Folder ? dir.path() : PathOf(u"gone.fsq"_s);
     if (missing == Missing::Unreadable) {
         WriteBytes(path, "#v050#\r\nx\r\n15\r\n[none]\r\n");
         QFile::setPermissions(path, QFileDevice::WriteOwner);
     }
     AddLines({"a"});
-    QueueFile(command, path);
-    Run(command);
+    Run(command, {path});
     EXPECT_EQ(Asked(dialogs).last(), command == Command::Open
                                          ? u"message Error [stop]: File not found!\n"_s + path
                                          : u"message Import error [stop]: File not found!"_s);
-    EXPECT_EQ(Lines(), std::vector<AnimationLine>{{"a"}});
+    EXPECT_EQ(ScriptLines(), Lines{{"a"}});
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, MissingFiles,
@@ -147,72 +148,51 @@ INSTANTIATE_TEST_SUITE_P(Table, MissingFiles,
                                           testing::Values(Missing::NoSuchFile, Missing::Folder,
                                                           Missing::Unreadable)));
 
-// --- the question before an existing file is replaced
+class Overwrite : public FileCommands, public testing::WithParamInterface<std::tuple<Command, MsgAnswer>> {};
 
-struct OverwriteCase {
-    Command command;
-    MsgAnswer answer;  // No is followed by Cancel in the dialog shown again
-};
-
-class Overwrite : public FileCommands, public testing::WithParamInterface<OverwriteCase> {};
-
-TEST_P(Overwrite, OnlyYesReplacesTheFileAndNoAsksForANameAgain) {
+TEST_P(Overwrite, OnlyYesReplacesTheFileAndNoShowsTheDialogAgainWithTheLastName) {
     const auto [command, answer] = GetParam();
+    const bool saveAs = command == Command::SaveAs;
     const QString path = PathOf(u"old"_s);
     WriteBytes(path, "old");
-    AddLines({"a"});
-    ScriptWindow();
-    dialogs.QueueSave(path);
     dialogs.QueueMessageAnswer(answer);
-    if (answer == MsgAnswer::No) dialogs.QueueSave(std::nullopt);
-    Run(command);
+    Run(command, {path, std::nullopt});
 
-    const bool saveAs = command == Command::SaveAs;
     const QString shown = saveAs ? u"save Save Brennock Animation"_s : u"save Save Script"_s;
     QStringList expected{shown, saveAs
                                     ? u"message Save Brennock Animation [question]: File exists! Overwrite?"_s
                                     : u"message Save script [question]: File Exists! Overwrite?"_s};
     if (answer == MsgAnswer::No) {
         expected << shown;
-        EXPECT_EQ(dialogs.Calls().back().state.FileName, path) << "the dialog shows the name chosen last";
+        EXPECT_EQ(dialogs.Calls().back().state.FileName, path);
     }
     EXPECT_EQ(Asked(dialogs), expected);
     EXPECT_EQ(ReadBytes(path) == "old", answer != MsgAnswer::Yes);
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, Overwrite,
-                         testing::Values(OverwriteCase{Command::SaveAs, MsgAnswer::Yes},
-                                         OverwriteCase{Command::SaveAs, MsgAnswer::No},
-                                         OverwriteCase{Command::SaveAs, MsgAnswer::Cancel},
-                                         OverwriteCase{Command::SaveScript, MsgAnswer::Yes},
-                                         OverwriteCase{Command::SaveScript, MsgAnswer::No},
-                                         OverwriteCase{Command::SaveScript, MsgAnswer::Cancel}));
-
-// --- a save that fails
+                         testing::Combine(testing::Values(Command::SaveAs, Command::SaveScript),
+                                          testing::Values(MsgAnswer::Yes, MsgAnswer::No, MsgAnswer::Cancel)));
 
 class FailedSave : public FileCommands, public testing::WithParamInterface<std::tuple<Command, bool>> {};
 
-TEST_P(FailedSave, KeepsTheOldFileAndTellsTheError) {
+TEST_P(FailedSave, KeepsTheOldFileAndTheTextAndTellsTheError) {
     const auto [command, readOnlyFolder] = GetParam();
     if (readOnlyFolder && ::geteuid() == 0) GTEST_SKIP() << "root writes into any folder";
     AddLines({"a"});
     const QString shownText = ScriptWindow().ScriptBox()->toPlainText();
-    QString path = PathOf(u"old"_s);
-    int error = ENOSPC;
-    if (readOnlyFolder) {
-        ASSERT_TRUE(QDir(dir.path()).mkdir(u"locked"_s));
-        path = PathOf(u"locked/new"_s);
-        ASSERT_EQ(::chmod(QFile::encodeName(PathOf(u"locked"_s)).constData(), 0555), 0);
-        error = EACCES;
-    } else {
+    const QByteArray locked = QFile::encodeName(PathOf(u"locked"_s));
+    ASSERT_TRUE(QDir(dir.path()).mkdir(u"locked"_s) && ::chmod(locked.constData(), 0555) == 0);
+    const QString path = PathOf(readOnlyFolder ? u"locked/new"_s : u"old"_s);
+    if (!readOnlyFolder) {
         WriteBytes(path, "old");
         dialogs.QueueMessageAnswer(MsgAnswer::Yes);
         write_seam::FailNextWriteAfter(3, ENOSPC);
     }
-    dialogs.QueueSave(path);
-    Run(command);
-    ::chmod(QFile::encodeName(PathOf(u"locked"_s)).constData(), 0755);
+    Run(command, {path});
+    ::chmod(locked.constData(), 0755);
 
+    const int error = readOnlyFolder ? EACCES : ENOSPC;
     EXPECT_EQ(Asked(dialogs).last(), u"message Error [stop]: Error saving script!\n%1\n%2"_s.arg(error).arg(
                                          QString::fromLocal8Bit(std::strerror(error))));
     EXPECT_EQ(ReadBytes(path), readOnlyFolder ? "<no file>" : "old");
@@ -223,41 +203,25 @@ INSTANTIATE_TEST_SUITE_P(Table, FailedSave,
                          testing::Combine(testing::Values(Command::SaveAs, Command::SaveScript),
                                           testing::Bool()));
 
-// --- round trips through real files
-
-TEST_F(FileCommands, SaveAsThenOpenGivesTheLinesBackAndLeavesThePane) {
-    ASSERT_TRUE(Script().AppendLine("^1Hi", "15", "x"));
-    ASSERT_TRUE(Script().AppendLine("\xE9 ", "abc", "[none]"));
-    const QString path = PathOf(u"anim.fsq"_s);
-    dialogs.QueueSave(path);
-    window->SaveAnimationAs();
-    EXPECT_EQ(ReadBytes(path), "#v050#\r\n^1Hi\r\n15\r\nx\r\n\xE9 \r\nabc\r\n[none]\r\n");
-
+TEST_F(FileCommands, SaveAsOpenAndImportOfASavedScriptGiveTheLinesBackAndLeaveThePane) {
+    const Lines lines{{"^1Hi", "15"}, {"\xE9 x", "abc", "kept out"}};
+    for (const auto& line : lines) ASSERT_TRUE(Script().AppendLine(line.Text, line.Time, line.Action));
+    Run(Command::SaveAs, {PathOf(u"anim.fsq"_s)});
     window->NewAnimation();
-    dialogs.QueueOpen(path);
-    window->OpenAnimation();
-    EXPECT_EQ(Lines(), (std::vector<AnimationLine>{{"^1Hi", "15"}, {"\xE9 ", "abc"}}));
-    EXPECT_EQ(Script().SelectedIndex(), 1);
+    Run(Command::Open, {PathOf(u"anim.fsq"_s)});
+    EXPECT_EQ(ScriptLines(), (Lines{{"^1Hi", "15"}, {"\xE9 x", "abc"}}));
     EXPECT_EQ(window->ListView()->model()->rowCount(), 2);
-    EXPECT_EQ(PaneText(), "Preview") << "Open doesn't redraw the pane";
-    EXPECT_EQ(Asked(dialogs).size(), 2);
-}
+    EXPECT_EQ(Script().SelectedIndex(), 1);
 
-TEST_F(FileCommands, ASavedScriptImportsAsTheLinesItWasMadeOf) {
-    ASSERT_TRUE(Script().AppendLine("^1one", "20", "[none]"));
-    ASSERT_TRUE(Script().AppendLine("two", "7", "[none]"));
-    dialogs.QueueSave(PathOf(u"made.cfg"_s));
-    ScriptWindow().SaveScript();
-
+    Script().SetLineTime(2, "7");
+    Run(Command::SaveScript, {PathOf(u"made.cfg"_s)});
     window->NewAnimation();
     AddLines({"replaced"});
-    dialogs.QueueOpen(PathOf(u"made.cfg"_s));
-    window->ImportScript();
-    EXPECT_EQ(Lines(), (std::vector<AnimationLine>{{"^1one", "20"}, {"two", "7"}}));
-    EXPECT_EQ(PaneText(), "Preview") << "Import doesn't redraw the pane";
+    Run(Command::Import, {PathOf(u"made.cfg"_s)});
+    EXPECT_EQ(ScriptLines(), (Lines{{"^1Hi", "15"}, {"\xE9 x", "7"}}));
+    EXPECT_EQ(PaneText(), "Preview") << "neither Open nor Import redraws the pane";
+    EXPECT_EQ(Asked(dialogs).size(), 5);
 }
-
-// --- files longer than an animation can be
 
 class TooLong : public FileCommands, public testing::WithParamInterface<Command> {};
 
@@ -266,8 +230,7 @@ TEST_P(TooLong, KeepsTheFirstLinesAndSaysSo) {
     std::string bytes = open ? "plain list\r\n" : "";
     for (int i = 0; i <= kMaxLines; ++i) bytes += open ? "n\r\n" : "set name n\r\n";
     WriteBytes(PathOf(u"long"_s), bytes);
-    dialogs.QueueOpen(PathOf(u"long"_s));
-    Run(GetParam());
+    Run(GetParam(), {PathOf(u"long"_s)});
     EXPECT_EQ(Script().Count(), kMaxLines);
     EXPECT_EQ(dialogs.Messages().back().title, u"Line limit reached"_s);
 }
