@@ -84,6 +84,9 @@ struct TextCase {
     std::vector<std::pair<const char*, const char*>> lines;
     std::string script;
 };
+void PrintTo(const TextCase& c, std::ostream* os) {
+    *os << c.name;
+}
 class ScriptText : public ScriptWindow, public testing::WithParamInterface<TextCase> {};
 
 TEST_P(ScriptText, IsShownWithAnEmptyFirstLineAndWrittenWithCrLf) {
