@@ -444,7 +444,15 @@ TEST_F(MainWindow, F1OpensAboutNotHelp) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     QSignalSpy about(Named(u"mnuHelpAbout"_s), &QAction::triggered);
     QSignalSpy help(Named(u"mnuHelpHelp"_s), &QAction::triggered);
+    QString opened;
+    QTimer::singleShot(0, [&opened] {  // About is modal: note which window came up, then close it
+        if (QWidget* modal = QApplication::activeModalWidget()) {
+            opened = modal->objectName();
+            modal->close();
+        }
+    });
     QTest::keyClick(window->ListView(), Qt::Key_F1);
+    EXPECT_EQ(opened, u"frmAbout"_s);
     EXPECT_EQ(about.count(), 1);
     EXPECT_EQ(help.count(), 0);
 }
