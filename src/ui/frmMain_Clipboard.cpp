@@ -1,14 +1,56 @@
+#include <optional>
+#include <string>
+
+#include "ui/LineLimit.h"
+#include "ui/TextConv.h"
 #include "ui/frmMain.h"
 
 // The Edit menu's Cut, Copy and Paste: one line's coded text to and from the
-// clipboard.
+// clipboard, as plain text with its caret codes in view. Time and Action
+// never travel: a pasted line gets "15" and "[none]".
 
 namespace fs::ui {
 
-void frmMain::mnuEditCut_Click() {}
+namespace {
 
-void frmMain::mnuEditCopy_Click() {}
+// A line's text holds no line break, and one paste makes one line: of a
+// clipboard text with breaks (CR LF, CR or LF) only the first line is kept.
+QString FirstLine(const QString& text) {
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i] == u'\r' || text[i] == u'\n') return text.left(i);
+    }
+    return text;
+}
 
-void frmMain::mnuEditPaste_Click() {}
+}  // namespace
+
+void frmMain::mnuEditCut_Click() {
+    if (script_.Count() == 0) return;
+    dialogs_.SetClipboardText(ToQString(script_.LineAt(script_.SelectedIndex()).Text));
+    script_.RemoveLine(script_.SelectedIndex());
+    SetPreview();
+}
+
+void frmMain::mnuEditCopy_Click() {
+    if (script_.Count() == 0) return;
+    dialogs_.SetClipboardText(ToQString(script_.LineAt(script_.SelectedIndex()).Text));
+}
+
+void frmMain::mnuEditPaste_Click() {
+    // A clipboard that can't be read now leaves the list as it was.
+    const std::optional<QString> clipboard = dialogs_.ClipboardText();
+    if (!clipboard) return;
+    std::string text = FromQString(FirstLine(*clipboard));
+    // The new line goes behind the selected one, which stays selected; into
+    // an empty list it goes as the first line, and is selected.
+    const bool added = script_.Count() > 0
+                           ? script_.InsertLine(script_.SelectedIndex() + 1, std::move(text), "15", "[none]")
+                           : script_.AppendLine(std::move(text), "15", "[none]");
+    if (!added) {
+        ShowLineLimitMessage(dialogs_, this);
+        return;
+    }
+    SetPreview();
+}
 
 }  // namespace fs::ui

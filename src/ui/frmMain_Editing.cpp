@@ -1,26 +1,78 @@
+#include <QSignalBlocker>
+#include <QTextEdit>
+#include <string>
+
+#include "colour/ColouredText.h"
+#include "colour/Palette.h"
+#include "ui/LineListView.h"
+#include "ui/RichPane.h"
+#include "ui/frmEdit.h"
 #include "ui/frmMain.h"
+
+using namespace Qt::Literals::StringLiterals;
 
 // Editing the selected line: in the coloured pane with the colour strip, by
 // keys in the list, and its time in the Edit dialog.
 
 namespace fs::ui {
 
-void frmMain::txtPreview_Change() {}
+void frmMain::txtPreview_Change() {
+    Pane& pane = *preview_;
+    const int caret = pane.SelStart();
+    // Every change of the pane goes back to the selected line as coded text,
+    // with a code only where the colour changes (white counting as the colour
+    // before the first character). The program's own drawing, and playback,
+    // reach no line; with an empty list there is no line to reach.
+    if (!PreviewBusy && script_.Count() >= 1)
+        script_.SetLineText(script_.SelectedIndex(), EncodeColoredText(pane, kWhite));
+    // The caret stays where it was, and a selection ends at its start. The
+    // walk above doesn't move the caret, so this only matters after a colour
+    // was set on a selected stretch; leaving an unmoved caret alone keeps a
+    // colour chosen for the next typed character.
+    if (pane.SelStart() != caret || pane.SelLength() != 0) {
+        pane.SetSelStart(caret);
+        pane.SetSelLength(0);
+    }
+}
 
 void frmMain::cmdColor_Click(int index) {
-    (void)index;
+    Pane& pane = *preview_;
+    // An empty pane takes no colour: a new text can't start with one.
+    if (pane.Text().empty()) return;
+    const bool stretch = pane.SelLength() > 0;
+    {
+        // Whether or not the widget reports a change of colour alone, the line
+        // hears of it exactly once, below.
+        const QSignalBlocker quiet(txtPreview_);
+        pane.SetSelColor(ColorFromDigit(std::string(1, static_cast<char>('1' + index))));
+    }
+    // With nothing selected no character changed: the colour waits for what
+    // is typed next, and typing writes the line.
+    if (stretch) txtPreview_Change();
 }
 
 void frmMain::txtPreview_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
-    (void)key;
     (void)modifiers;
+    // The Ctrl key alone takes the focus to the list, so that every Ctrl
+    // combination begun in the pane works on lines, not on characters.
+    if (key == Qt::Key_Control) lvwMain_->setFocus();
 }
 
 void frmMain::lvwMain_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
-    (void)key;
-    (void)modifiers;
+    (void)modifiers;  // Shift+Delete and Ctrl+Delete remove as well
+    // The list has already moved its selection for this key, so the pane
+    // shows the line an arrow key led to.
+    if (key == Qt::Key_Delete) RemoveSelectedLine();
+    SetPreview();
 }
 
-void frmMain::EditSelectedLine() {}
+void frmMain::EditSelectedLine() {
+    if (script_.Count() > 0) {
+        frmEdit window(script_, this);
+        window.exec();
+    } else {
+        dialogs_.Message(this, u"No items to edit"_s, u"Edit"_s, MsgIcon::Exclamation, MsgButtons::Ok);
+    }
+}
 
 }  // namespace fs::ui

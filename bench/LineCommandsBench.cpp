@@ -1,0 +1,136 @@
+// The commands over lines on a big animation in a shown main window: adding
+// at the top of a full list, copying every line of a half-full one, and one
+// character typed at the end of the longest text the pane serves.
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QTest>
+#include <QTextEdit>
+#include <string>
+
+#include "document/AnimationScript.h"
+#include "settings/SettingsStore.h"
+#include "ui/LineListView.h"
+#include "ui/QtDialogs.h"
+#include "ui/frmMain.h"
+
+namespace {
+
+using fs::AnimationScript;
+
+class NoSettings : public fs::settings::SettingsStore {
+public:
+    QString ReadRegistryString(const QString&, const QString& defaultValue) const override {
+        return defaultValue;
+    }
+    void WriteRegistryString(const QString&, const QString&) override {}
+};
+
+// A main window on screen holding `lines` lines, the first one selected.
+struct ShownWindow {
+    explicit ShownWindow(int lines) : window(dialogs, store) {
+        {
+            AnimationScript::Batch batch(window.Script());
+            for (int i = 0; i < lines; ++i)
+                window.Script().AppendLine("^1Fl^2ick " + std::to_string(i), "15", "[none]");
+        }
+        window.show();
+        QCoreApplication::processEvents();
+    }
+    void Paint() { window.ListView()->viewport()->repaint(); }
+
+    fs::ui::QtDialogs dialogs;
+    NoSettings store;
+    fs::ui::frmMain window;
+};
+
+// Cuts the list back to `count` lines in one go.
+void TrimTo(AnimationScript& script, int count) {
+    AnimationScript::Batch batch(script);
+    while (script.Count() > count) script.RemoveLine(script.Count());
+}
+
+void BM_AddLineAtTheTopOfAFullList(benchmark::State& state) {
+    ShownWindow shown(fs::kMaxLines - 1);
+    AnimationScript& script = shown.window.Script();
+    for (auto _ : state) {
+        shown.window.AddLine(false);  // the last line the list can take
+        shown.Paint();
+        state.PauseTiming();
+        script.RemoveLine(1);
+        QCoreApplication::processEvents();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(BM_AddLineAtTheTopOfAFullList)->Unit(benchmark::kMillisecond);
+
+void BM_CopyAllLines(benchmark::State& state) {
+    const int lines = fs::kMaxLines / 2;
+    ShownWindow shown(lines);
+    for (auto _ : state) {
+        shown.window.CopyLines(3);
+        shown.Paint();
+        state.PauseTiming();
+        TrimTo(shown.window.Script(), lines);
+        QCoreApplication::processEvents();
+        state.ResumeTiming();
+    }
+    state.SetItemsProcessed(state.iterations() * lines);
+}
+BENCHMARK(BM_CopyAllLines)->Unit(benchmark::kMillisecond);
+
+// A text of 32766 shown characters whose colour changes every `run`
+// characters; one more typed at its end makes the longest text.
+std::string LongText(int run) {
+    std::string coded;
+    for (int i = 0; i < fs::kMaxLines - 1; ++i) {
+        if (i % run == 0) {
+            coded += '^';
+            coded += static_cast<char>('1' + (i / run) % 8);
+        }
+        coded += static_cast<char>('a' + i % 26);
+    }
+    return coded;
+}
+
+// The change handler alone on the longest text: encode the pane, write the
+// line, tell the list.
+void BM_ChangeHandlerOnTheLongestText(benchmark::State& state) {
+    ShownWindow shown(1);
+    shown.window.Script().SetLineText(1, LongText(static_cast<int>(state.range(0))) + "x");
+    shown.window.SetPreview();
+    for (auto _ : state) shown.window.txtPreview_Change();
+}
+BENCHMARK(BM_ChangeHandlerOnTheLongestText)->Arg(1)->Arg(16)->Unit(benchmark::kMillisecond);
+
+// The whole keystroke: the widget's own insert and layout of the line, then
+// the change handler.
+void BM_TypeAtTheEndOfTheLongestText(benchmark::State& state) {
+    ShownWindow shown(1);
+    shown.window.Script().SetLineText(1, LongText(static_cast<int>(state.range(0))));
+    shown.window.SetPreview();
+    QTextEdit* pane = shown.window.PreviewEdit();
+    pane->moveCursor(QTextCursor::End);
+    for (auto _ : state) {
+        QTest::keyClick(pane, Qt::Key_X);  // the key, the widget's insert, and the change handler
+        state.PauseTiming();
+        QTest::keyClick(pane, Qt::Key_Backspace);
+        state.ResumeTiming();
+    }
+}
+// Colour changes every character, and every 16 characters.
+BENCHMARK(BM_TypeAtTheEndOfTheLongestText)->Arg(1)->Arg(16)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Flickerscribe"));
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
