@@ -15,65 +15,44 @@ using namespace Qt::Literals::StringLiterals;
 namespace fs::ui::testing_support {
 namespace {
 
-using Editing = LinesTest;
-
-// --- typing in the pane writes the line in its normal form
-
 struct TypedCase {
     const char* before;
-    const char* typed;
+    int caret;          // -1: at the end, where SetPreview leaves it
+    const char* typed;  // "\b" is Backspace, "\r" Enter
     const char* after;
 };
 
-class TypedCharacter : public LinesTest, public testing::WithParamInterface<TypedCase> {};
+class TypedInThePane : public LinesTest, public testing::WithParamInterface<TypedCase> {};
 
-TEST_P(TypedCharacter, ReachesTheLineInNormalForm) {
-    ASSERT_TRUE(Script().AppendLine(GetParam().before, "30", "[none]"));
+// What is typed reaches the selected line at once, in its normal form, and
+// the caret stays behind it.
+TEST_P(TypedInThePane, ReachesTheLineInNormalForm) {
+    Start({std::string(GetParam().before) + "/30", "other/20"}, 1);
     window->SetPreview();
+    if (GetParam().caret >= 0) window->PreviewPane().SetSelStart(GetParam().caret);
+    const int caret = window->PreviewPane().SelStart();
+    const auto shownBefore = static_cast<int>(PaneText().size());
     QTest::keyClicks(window->PreviewEdit(), QString::fromLatin1(GetParam().typed));
-    EXPECT_EQ(Script().LineAt(1), (AnimationLine{GetParam().after, "30", "[none]"}));
+    EXPECT_EQ(Lines(), TextTimes({std::string(GetParam().after) + "/30", "other/20"}));
+    const int moved = static_cast<int>(PaneText().size()) - shownBefore;
+    EXPECT_EQ(window->PreviewPane().SelStart(), caret + moved);
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Cases, TypedCharacter,
-    testing::Values(TypedCase{"^1ab^2cd", "x", "^1ab^2cdx"}, TypedCase{"^8x^2y^7z", "!", "^8x^2y^7z!"},
-                    TypedCase{"^7Hello", "!", "Hello!"}, TypedCase{"ab^7cd", "e", "abcde"},
-                    TypedCase{"^1ab^1cd", "e", "^1abcde"}, TypedCase{"^0Hi^9you", "!", "Hi^1you!"},
-                    TypedCase{"ab^1", "c", "abc"}, TypedCase{"a^xb", "c", "abc"},
-                    // An empty pane types in its own default colour, black.
-                    TypedCase{"", "x", "^8x"}, TypedCase{"^3", "x", "^8x"}));
+    Cases, TypedInThePane,
+    testing::Values(TypedCase{"^1ab^2cd", -1, "x", "^1ab^2cdx"},
+                    TypedCase{"^8x^2y^7z", -1, "!", "^8x^2y^7z!"}, TypedCase{"^7Hello", -1, "!", "Hello!"},
+                    TypedCase{"ab^7cd", -1, "e", "abcde"}, TypedCase{"^1ab^1cd", -1, "e", "^1abcde"},
+                    TypedCase{"^0Hi^9you", -1, "!", "Hi^1you!"}, TypedCase{"ab^1", -1, "c", "abc"},
+                    TypedCase{"a^xb", -1, "c", "abc"},
+                    // An empty pane types in its default colour, black.
+                    TypedCase{"", -1, "x", "^8x"}, TypedCase{"^3", -1, "x", "^8x"},
+                    // A caret typed is a plain character of the pane and of the line.
+                    TypedCase{"abc", 1, "^1", "a^1bc"}, TypedCase{"^1abcd", 2, "X", "^1abXcd"},
+                    TypedCase{"^1abc", -1, "\b\b\b", ""}, TypedCase{"ab", 1, "\r", "ab"}));
 
-TEST_F(Editing, ACaretTypedInThePaneIsAPlainCharacterUntilTheNextDrawing) {
-    AddLines({"abc"});
-    window->SetPreview();
-    window->PreviewPane().SetSelStart(1);
-    QTest::keyClicks(window->PreviewEdit(), u"^1"_s);
-    EXPECT_EQ(Script().LineAt(1).Text, "a^1bc");
-    EXPECT_EQ(PaneRuns(), (std::vector<ColouredRun>{{"a^1bc", kWhite}}));
-    EXPECT_EQ(window->PreviewPane().SelStart(), 3) << "the caret stays behind what was typed";
-    window->SetPreview();
-    EXPECT_EQ(PaneRuns(), (std::vector<ColouredRun>{{"a", kWhite}, {"bc", kRed}}));
-}
-
-TEST_F(Editing, DeletingEveryCharacterLeavesTheLineWithAnEmptyText) {
-    AddLines({"^1abc", "other"});
-    window->SetPreview();
-    for (int i = 0; i < 3; ++i) QTest::keyClick(window->PreviewEdit(), Qt::Key_Backspace);
-    EXPECT_EQ(Script().Count(), 2);
-    EXPECT_EQ(Script().LineAt(1), (AnimationLine{"", "15", "[none]"}));
-}
-
-TEST_F(Editing, EnterInThePaneBreaksNothing) {
-    AddLines({"ab"});
-    window->SetPreview();
-    QTest::keyClick(window->PreviewEdit(), Qt::Key_Return);
-    QTest::keyClick(window->PreviewEdit(), Qt::Key_Enter);
-    EXPECT_EQ(PaneText(), "ab");
-    EXPECT_EQ(Script().LineAt(1).Text, "ab");
-}
-
-TEST_F(Editing, TextDroppedIntoThePaneArrivesPlainOnOneLine) {
-    AddLines({"ab"});
+TEST_F(LinesTest, TextDroppedIntoThePaneArrivesPlainOnOneLine) {
+    Start({"ab/15"}, 1);
     window->SetPreview();
     QMimeData mime;
     mime.setText(u"one\r\ntwo\nthree"_s);
@@ -85,215 +64,136 @@ TEST_F(Editing, TextDroppedIntoThePaneArrivesPlainOnOneLine) {
     QDropEvent drop(at, Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(viewport, &drop);
     EXPECT_EQ(Script().LineAt(1).Text, "abone two three");
-    EXPECT_EQ(PaneRuns(), (std::vector<ColouredRun>{{"abone two three", kWhite}}));
 }
-
-// --- the colour strip
 
 struct ColourCase {
     const char* name;
+    const char* before;
+    int selStart, selLength;
     int button;
+    const char* typedAfter;
     const char* after;
 };
 
-class ColourButtonOnAStretch : public LinesTest, public testing::WithParamInterface<ColourCase> {};
+class ColourButton : public LinesTest, public testing::WithParamInterface<ColourCase> {};
 
-TEST_P(ColourButtonOnAStretch, ColoursItWritesTheLineAndEndsTheSelection) {
-    AddLines({"abcd"});
+TEST_P(ColourButton, ColoursTheSelectionOrWhatIsTypedNext) {
+    const ColourCase& c = GetParam();
+    Start({std::string(c.before) + "/15"}, 1);
     window->SetPreview();
-    window->PreviewPane().SetSelStart(1);
-    window->PreviewPane().SetSelLength(2);
-    Named<QPushButton>(u"cmdColor_%1"_s.arg(GetParam().button))->click();
-    EXPECT_EQ(Script().LineAt(1).Text, GetParam().after);
-    EXPECT_EQ(window->PreviewPane().SelStart(), 1);
+    window->PreviewPane().SetSelStart(c.selStart);
+    window->PreviewPane().SetSelLength(c.selLength);
+    Named<QPushButton>(u"cmdColor_%1"_s.arg(c.button))->click();
+    EXPECT_EQ(window->PreviewPane().SelStart(), c.selStart) << "the caret at the start of the stretch";
     EXPECT_EQ(window->PreviewPane().SelLength(), 0);
+    QTest::keyClicks(window->PreviewEdit(), QString::fromLatin1(c.typedAfter));
+    EXPECT_EQ(Script().LineAt(1).Text, c.after);
 }
 
-INSTANTIATE_TEST_SUITE_P(Buttons, ColourButtonOnAStretch,
-                         testing::Values(ColourCase{"Red", 0, "a^1bc^7d"}, ColourCase{"Black", 7, "a^8bc^7d"},
-                                         ColourCase{"White", 6, "abcd"}),
+INSTANTIATE_TEST_SUITE_P(Cases, ColourButton,
+                         testing::Values(ColourCase{"RedStretch", "abcd", 1, 2, 0, "", "a^1bc^7d"},
+                                         ColourCase{"BlackStretch", "abcd", 1, 2, 7, "", "a^8bc^7d"},
+                                         ColourCase{"WhiteStretch", "^1abcd", 0, 1, 6, "", "a^1bcd"},
+                                         ColourCase{"NothingSelected", "ab", 2, 0, 1, "c", "ab^2c"},
+                                         ColourCase{"EmptyPane", "", 0, 0, 0, "x", "^8x"}),
                          [](const testing::TestParamInfo<ColourCase>& info) {
                              return std::string(info.param.name);
                          });
 
-TEST_F(Editing, AColourChosenWithNothingSelectedWaitsForTheNextCharacter) {
-    AddLines({"ab"});
-    window->SetPreview();
-    Named<QPushButton>(u"cmdColor_1"_s)->click();
-    EXPECT_EQ(Script().LineAt(1).Text, "ab");
-    QTest::keyClicks(window->PreviewEdit(), u"c"_s);
-    EXPECT_EQ(Script().LineAt(1).Text, "ab^2c");
-}
-
-TEST_F(Editing, AnEmptyPaneTakesNoColour) {
-    AddLines({""});
-    window->SetPreview();
-    Named<QPushButton>(u"cmdColor_0"_s)->click();
-    EXPECT_EQ(Script().LineAt(1).Text, "");
-    QTest::keyClicks(window->PreviewEdit(), u"x"_s);
-    EXPECT_EQ(Script().LineAt(1).Text, "^8x") << "typed in the default black, not red";
-}
-
-// --- what a change in the pane reaches, by the state of the pane
-
 struct StateCase {
     const char* name;
-    std::function<void(LinesTest&, frmMain&)> enter;
+    std::function<void(frmMain&)> enter;
     bool reachesTheLine;
 };
 
-class PaneState : public LinesTest, public testing::WithParamInterface<StateCase> {
-protected:
-    void Enter() { GetParam().enter(*this, *window); }
-};
+class PaneState : public LinesTest, public testing::WithParamInterface<StateCase> {};
 
+// A change in the pane goes to the line selected now, unless the pane is
+// drawing, playing, or there is no line.
 TEST_P(PaneState, DecidesWhetherAChangeReachesTheLine) {
-    AddABC();
+    Start(kABC, 2);
     window->SetPreview();
-    Enter();
+    GetParam().enter(*window);
     window->PreviewEdit()->moveCursor(QTextCursor::End);
     window->PreviewEdit()->insertPlainText(u"!"_s);
-    const bool changed =
-        Script().Count() > 0 && Script().LineAt(Script().SelectedIndex()).Text.ends_with('!');
-    EXPECT_EQ(changed, GetParam().reachesTheLine);
-    for (int i = 1; i <= Script().Count(); ++i) {
-        if (!(GetParam().reachesTheLine && i == Script().SelectedIndex())) {
-            EXPECT_EQ(Script().LineAt(i).Text.find('!'), std::string::npos) << i;
-        }
-    }
+    TextTimes expected = Script().Count() > 0 ? kABC : TextTimes{};
+    if (GetParam().reachesTheLine) expected[Script().SelectedIndex() - 1].replace(0, 1, "B!");
+    EXPECT_EQ(Lines(), expected);
     if (window->Playing()) window->TogglePlayback();
 }
 
 INSTANTIATE_TEST_SUITE_P(
     States, PaneState,
-    testing::Values(StateCase{"Editing", [](LinesTest&, frmMain&) {}, true},
-                    StateCase{"EditingAfterAnotherLineWasSelected",
-                              [](LinesTest&, frmMain& w) { w.Script().SelectLine(3); }, true},
-                    StateCase{"Empty",
-                              [](LinesTest&, frmMain& w) {
-                                  w.NewAnimation();
-                                  w.SetPreview();
-                              },
-                              false},
-                    StateCase{"Drawing", [](LinesTest&, frmMain& w) { w.PreviewBusy = true; }, false},
-                    StateCase{"Playing", [](LinesTest&, frmMain& w) { w.TogglePlayback(); }, false},
-                    StateCase{"PlayingAfterAClickInTheList",
-                              [](LinesTest&, frmMain& w) {
+    testing::Values(StateCase{"Editing", [](frmMain&) {}, true},
+                    // The pane still shows B: its text goes to C.
+                    StateCase{"AnotherLineSelected", [](frmMain& w) { w.Script().SelectLine(3); }, true},
+                    StateCase{"AllRemoved", [](frmMain& w) { w.NewAnimation(); }, false},
+                    StateCase{"Drawing", [](frmMain& w) { w.PreviewBusy = true; }, false},
+                    StateCase{"Playing", [](frmMain& w) { w.TogglePlayback(); }, false},
+                    StateCase{"PlayingAfterAClick",
+                              [](frmMain& w) {
                                   w.TogglePlayback();
                                   w.lvwMain_ItemClick(1);
                               },
                               false}),
     [](const testing::TestParamInfo<StateCase>& info) { return std::string(info.param.name); });
 
-TEST_F(Editing, ALockedPaneTakesNoTyping) {
-    QTest::keyClicks(window->PreviewEdit(), u"x"_s);
-    EXPECT_EQ(PaneText(), "Preview");
-    EXPECT_EQ(Script().Count(), 0);
-}
-
-// --- keys
-
-struct FocusCase {
-    const char* name;
-    Qt::Key key;
-    bool toTheList;
-};
-
-class KeyInThePane : public LinesTest, public testing::WithParamInterface<FocusCase> {};
-
-TEST_P(KeyInThePane, OnlyCtrlTakesTheFocusToTheList) {
-    AddLines({"ab"});
+TEST_F(LinesTest, OnlyTheCtrlKeyTakesTheFocusFromThePaneToTheList) {
+    Start({"ab/15"}, 1);
     window->SetPreview();
     window->show();
     window->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-    window->PreviewEdit()->setFocus();
-    QTest::keyPress(window->PreviewEdit(), GetParam().key);
-    QWidget* expected =
-        GetParam().toTheList ? static_cast<QWidget*>(window->ListView()) : window->PreviewEdit();
-    EXPECT_EQ(QApplication::focusWidget(), expected);
-    QTest::keyRelease(QApplication::focusWidget(), GetParam().key);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Keys, KeyInThePane,
-    testing::Values(FocusCase{"Ctrl", Qt::Key_Control, true}, FocusCase{"Shift", Qt::Key_Shift, false},
-                    FocusCase{"Alt", Qt::Key_Alt, false}, FocusCase{"Letter", Qt::Key_Q, false}),
-    [](const testing::TestParamInfo<FocusCase>& info) { return std::string(info.param.name); });
-
-class DeleteKey : public LinesTest, public testing::WithParamInterface<Qt::KeyboardModifiers> {};
-
-TEST_P(DeleteKey, RemovesTheSelectedLineAndShowsTheNextOne) {
-    AddABC();
-    window->SetPreview();
-    QTest::keyClick(window->ListView(), Qt::Key_Delete, GetParam());
-    EXPECT_EQ(Lines(), (std::vector<std::string>{"A/10", "C/30"}));
-    EXPECT_EQ(PaneText(), "C");
-    EXPECT_TRUE(dialogs.Calls().empty()) << "no question";
-}
-
-INSTANTIATE_TEST_SUITE_P(WithAnyModifier, DeleteKey,
-                         testing::Values(Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier));
-
-struct DeleteEndCase {
-    const char* name;
-    int lines;
-    int messages;
-};
-
-class DeleteKeyAtTheEnd : public LinesTest, public testing::WithParamInterface<DeleteEndCase> {};
-
-TEST_P(DeleteKeyAtTheEnd, LeavesALockedPane) {
-    if (GetParam().lines > 0) AddLines({"^1only"});
-    window->SetPreview();
-    QTest::keyClick(window->ListView(), Qt::Key_Delete);
-    EXPECT_EQ(Script().Count(), 0);
-    EXPECT_EQ(PaneText(), "Preview");
-    EXPECT_TRUE(PaneLocked());
-    ASSERT_EQ(dialogs.Messages().size(), static_cast<std::size_t>(GetParam().messages));
-    if (GetParam().messages > 0) {
-        EXPECT_EQ(dialogs.Messages()[0].text, u"Can't remove line."_s);
-        EXPECT_EQ(dialogs.Messages()[0].title, QString());
-        EXPECT_EQ(dialogs.Messages()[0].icon, MsgIcon::Information);
+    for (Qt::Key key : {Qt::Key_Shift, Qt::Key_Alt, Qt::Key_Q, Qt::Key_Control}) {
+        window->PreviewEdit()->setFocus();
+        QTest::keyPress(window->PreviewEdit(), key);
+        QTest::keyRelease(QApplication::focusWidget(), key);
+        EXPECT_EQ(QApplication::focusWidget() == window->ListView(), key == Qt::Key_Control) << key;
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Cases, DeleteKeyAtTheEnd,
-                         testing::Values(DeleteEndCase{"TheOnlyLine", 1, 0},
-                                         DeleteEndCase{"EmptyList", 0, 1}),
-                         [](const testing::TestParamInfo<DeleteEndCase>& info) {
-                             return std::string(info.param.name);
-                         });
-
 struct ListKeyCase {
     const char* name;
+    TextTimes start;
     int selected;
     Qt::Key key;
+    Qt::KeyboardModifiers modifiers;
+    TextTimes expected;
     const char* shown;
+    bool message = false;
 };
 
 class KeyInTheList : public LinesTest, public testing::WithParamInterface<ListKeyCase> {};
 
-// The list moves first, then the pane is drawn: it shows the line the key led
-// to, and any key at all redraws it.
-TEST_P(KeyInTheList, ShowsTheLineTheKeyLedTo) {
-    AddABC();
-    Script().SelectLine(GetParam().selected);
+// The list moves first, then the pane shows the selected line, after any key.
+TEST_P(KeyInTheList, ActsThenShowsTheSelectedLine) {
+    Start(GetParam().start, GetParam().selected);
     MarkPane();
-    QTest::keyClick(window->ListView(), GetParam().key);
+    QTest::keyClick(window->ListView(), GetParam().key, GetParam().modifiers);
+    EXPECT_EQ(Lines(), GetParam().expected);
     EXPECT_EQ(PaneText(), GetParam().shown);
-    EXPECT_EQ(Script().Count(), 3);
+    EXPECT_EQ(PaneLocked(), GetParam().expected.empty());
+    ASSERT_EQ(dialogs.Messages().size(), GetParam().message ? 1u : 0u);
+    if (GetParam().message) {
+        EXPECT_EQ(dialogs.Messages()[0].text, u"Can't remove line."_s);
+    }
 }
+
+const TextTimes kAC = {"A/10", "C/30"};
 
 INSTANTIATE_TEST_SUITE_P(
     Keys, KeyInTheList,
-    testing::Values(ListKeyCase{"Down", 1, Qt::Key_Down, "B"}, ListKeyCase{"Up", 3, Qt::Key_Up, "B"},
-                    ListKeyCase{"PageDown", 1, Qt::Key_PageDown, "C"},
-                    ListKeyCase{"DownAtTheEnd", 3, Qt::Key_Down, "C"},
-                    ListKeyCase{"Shift", 2, Qt::Key_Shift, "B"}, ListKeyCase{"F5", 2, Qt::Key_F5, "B"}),
+    testing::Values(ListKeyCase{"Down", kABC, 1, Qt::Key_Down, {}, kABC, "B"},
+                    ListKeyCase{"Up", kABC, 3, Qt::Key_Up, {}, kABC, "B"},
+                    ListKeyCase{"PageDown", kABC, 1, Qt::Key_PageDown, {}, kABC, "C"},
+                    ListKeyCase{"DownAtTheEnd", kABC, 3, Qt::Key_Down, {}, kABC, "C"},
+                    ListKeyCase{"Shift", kABC, 2, Qt::Key_Shift, {}, kABC, "B"},
+                    ListKeyCase{"Delete", kABC, 2, Qt::Key_Delete, {}, kAC, "C"},
+                    ListKeyCase{"ShiftDelete", kABC, 2, Qt::Key_Delete, Qt::ShiftModifier, kAC, "C"},
+                    ListKeyCase{"CtrlDelete", kABC, 2, Qt::Key_Delete, Qt::ControlModifier, kAC, "C"},
+                    ListKeyCase{"DeleteTheOnly", {"^1A/10"}, 1, Qt::Key_Delete, {}, {}, "Preview"},
+                    ListKeyCase{"DeleteOfNone", {}, 0, Qt::Key_Delete, {}, {}, "Preview", true}),
     [](const testing::TestParamInfo<ListKeyCase>& info) { return std::string(info.param.name); });
-
-// --- editing in place, with the setting on or off
 
 struct InPlaceCase {
     const char* name;
@@ -302,39 +202,31 @@ struct InPlaceCase {
     bool opens;
 };
 
-class InPlaceEdit : public LinesTest, public testing::WithParamInterface<InPlaceCase> {
-protected:
-    QLineEdit* Editor() { return window->ListView()->viewport()->findChild<QLineEdit*>(); }
-};
+class InPlaceEdit : public LinesTest, public testing::WithParamInterface<InPlaceCase> {};
 
+// With the setting on, a click on the selected line's text opens an editor
+// whose text goes straight to the line; the pane isn't redrawn.
 TEST_P(InPlaceEdit, OpensOnlyOnTheSelectedLinesText) {
     store.WriteRegistryString(u"EditItem"_s, QString::fromLatin1(GetParam().setting));
     MakeWindow();
-    AddABC();
+    Start(kABC, 2);
     window->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
     LineListView* list = window->ListView();
     const QRect cell = list->visualRect(list->model()->index(1, GetParam().column));
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, cell.center());
-    EXPECT_EQ(PaneText(), "B") << "the click shows the line";
-
-    // The editor comes after the time in which the click could still become
-    // a double click.
+    // The editor waits until the click can no longer become a double click.
+    const auto editor = [list] { return list->viewport()->findChild<QLineEdit*>(); };
     const int wait = QApplication::doubleClickInterval() + (GetParam().opens ? 2000 : 300);
-    const bool opened = QTest::qWaitFor([&] { return Editor() != nullptr && Editor()->isVisible(); }, wait);
-    ASSERT_EQ(opened, GetParam().opens);
-    if (!opened) return;
-
-    QLineEdit* editor = Editor();
-    EXPECT_EQ(editor->text(), u"B"_s);
-    editor->selectAll();
-    QTest::keyClicks(editor, u"^1new"_s);
-    QTest::keyClick(editor, Qt::Key_Return);
-    // The editor hands its text over once the key has been handled.
+    ASSERT_EQ(QTest::qWaitFor([&] { return editor() && editor()->isVisible(); }, wait), GetParam().opens);
+    if (!GetParam().opens) return;
+    EXPECT_EQ(editor()->text(), u"B"_s);
+    editor()->selectAll();
+    QTest::keyClicks(editor(), u"^1new"_s);
+    QTest::keyClick(editor(), Qt::Key_Return);
     EXPECT_TRUE(QTest::qWaitFor([&] { return Script().LineAt(2).Text != "B"; }));
-    EXPECT_EQ(Script().LineAt(2), (AnimationLine{"^1new", "20", "[none]"}));
-    EXPECT_EQ(PaneText(), "B") << "the pane isn't redrawn";
-    EXPECT_EQ(Script().SelectedIndex(), 2);
+    EXPECT_EQ(Lines(), TextTimes({"A/10", "^1new/20", "C/30"}));
+    EXPECT_EQ(PaneText(), "B");
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -343,26 +235,23 @@ INSTANTIATE_TEST_SUITE_P(
                     InPlaceCase{"OnAction", "1", 2, false}, InPlaceCase{"OffText", "0", 0, false}),
     [](const testing::TestParamInfo<InPlaceCase>& info) { return std::string(info.param.name); });
 
-// --- the Edit button
-
-TEST_F(Editing, EditOpensTheEditDialogModallyOverTheMainWindow) {
-    AddABC();
+TEST_F(LinesTest, EditButtonOpensTheEditDialogModallyOverTheMainWindow) {
+    Start(kABC, 2);
     bool seen = false;
     QTimer::singleShot(0, window.get(), [&] {
-        auto* edit = qobject_cast<frmEdit*>(QApplication::activeModalWidget());
-        if (edit == nullptr) {
-            // Leave no window open, whatever came up.
-            if (QWidget* other = QApplication::activeModalWidget()) other->close();
+        QWidget* modal = QApplication::activeModalWidget();
+        auto* edit = qobject_cast<frmEdit*>(modal);
+        seen = edit != nullptr && edit->parentWidget() == window.get();
+        if (!seen) {
+            if (modal) modal->close();
             return;
         }
-        seen = true;
-        EXPECT_EQ(edit->parentWidget(), window.get());
         edit->findChild<QLineEdit*>(u"txtTime"_s)->setText(u"25"_s);
         edit->findChild<QPushButton*>(u"cmdOK"_s)->click();
     });
     window->tlbMain_ButtonClick(u"btnedit"_s);
     EXPECT_TRUE(seen);
-    EXPECT_EQ(Lines(), (std::vector<std::string>{"A/10", "B/25", "C/30"}));
+    EXPECT_EQ(Lines(), TextTimes({"A/10", "B/25", "C/30"}));
 }
 
 }  // namespace

@@ -8,46 +8,43 @@
 
 namespace fs::ui::testing_support {
 
+// Lines written "text/time", all with the action "[none]".
+using TextTimes = std::vector<std::string>;
+
 // The main window with helpers for the commands over lines.
 class LinesTest : public MainWindowTest {
 protected:
-    // The lines A, B, C with the times 10, 20, 30, and B selected.
-    void AddABC() {
-        ASSERT_TRUE(Script().AppendLine("A", "10", "[none]"));
-        ASSERT_TRUE(Script().AppendLine("B", "20", "[none]"));
-        ASSERT_TRUE(Script().AppendLine("C", "30", "[none]"));
-        Script().SelectLine(2);
+    void Start(const TextTimes& lines, int selected) {
+        for (const std::string& line : lines) {
+            const auto slash = line.find('/');
+            ASSERT_TRUE(Script().AppendLine(line.substr(0, slash), line.substr(slash + 1), "[none]"));
+        }
+        Script().SelectLine(selected);
     }
 
-    // Text and time of each line, as "text/time".
-    std::vector<std::string> Lines() {
-        std::vector<std::string> out;
-        for (int i = 1; i <= Script().Count(); ++i)
+    TextTimes Lines() {
+        TextTimes out;
+        for (int i = 1; i <= Script().Count(); ++i) {
+            EXPECT_EQ(Script().LineAt(i).Action, "[none]");
             out.push_back(Script().LineAt(i).Text + "/" + Script().LineAt(i).Time);
+        }
         return out;
     }
 
-    // Draws a text into the pane the way the program draws, without touching
-    // the list: a later check of the pane tells whether SetPreview ran since.
-    void MarkPane(const char* coded = "marker") {
+    // Draws a text into the pane without touching the list: a later look at
+    // the pane tells whether SetPreview ran since.
+    void MarkPane() {
         window->PreviewBusy = true;
-        RenderCodedText(coded, window->PreviewPane());
+        RenderCodedText("marker", window->PreviewPane());
         window->PreviewBusy = false;
     }
 
-    // Fills the list up to `count` lines of "x" in one go.
     void FillTo(int count) {
         AnimationScript::Batch batch(Script());
         while (Script().Count() < count) ASSERT_TRUE(Script().AppendLine("x", "15", "[none]"));
     }
-
-    std::vector<QString> MessageTexts() {
-        std::vector<QString> out;
-        for (const DialogCall& call : dialogs.Messages()) out.push_back(call.text);
-        return out;
-    }
 };
 
-inline const QString kLimitTitle = QStringLiteral("Line limit reached");
+inline const TextTimes kABC = {"A/10", "B/20", "C/30"};
 
 }  // namespace fs::ui::testing_support
