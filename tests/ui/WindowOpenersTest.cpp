@@ -1,0 +1,63 @@
+// Each menu entry of the main window opens its own modal window.
+#include <QAbstractButton>
+#include <QApplication>
+#include <QTimer>
+
+#include "MainWindowFixture.h"
+
+namespace fs::ui::testing_support {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class WindowOpeners : public MainWindowTest {
+protected:
+    // Triggers the action and gives back the objectName of the modal window
+    // that came up (which is then closed), or an empty text.
+    QString OpenedBy(const QString& actionName) {
+        QString opened;
+        QTimer::singleShot(0, [&opened] {
+            if (QWidget* modal = QApplication::activeModalWidget()) {
+                opened = modal->objectName();
+                modal->close();
+            }
+        });
+        QAction* action = Named(actionName);
+        EXPECT_TRUE(action && action->isEnabled()) << actionName.toStdString();
+        if (action) action->trigger();
+        return opened;
+    }
+};
+
+TEST_F(WindowOpeners, EachMenuEntryOpensItsWindow) {
+    const struct {
+        const char16_t* action;
+        const char16_t* window;
+    } cases[] = {
+        {u"mnuHelpColor", u"frmColorEditor"}, {u"mnuEditSimple", u"frmSimpleEdit"},
+        {u"mnuEditOptions", u"frmOptions"},   {u"mnuHelpHelp", u"frmHelp"},
+        {u"mnuHelpAbout", u"frmAbout"},
+    };
+    window->show();
+    for (const auto& c : cases) {
+        EXPECT_EQ(OpenedBy(QString::fromUtf16(c.action)), QString::fromUtf16(c.window));
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    }
+    EXPECT_TRUE(dialogs.Calls().empty());
+}
+
+TEST_F(WindowOpeners, OptionsOkAppliesTheSettingsAtOnce) {
+    window->show();
+    QTimer::singleShot(0, [] {
+        QWidget* modal = QApplication::activeModalWidget();
+        ASSERT_NE(modal, nullptr);
+        if (auto* ok = modal->findChild<QAbstractButton*>(u"cmdOK"_s)) ok->click();
+    });
+    store.WriteRegistryString(u"Name"_s, u"Quillon"_s);
+    Named(u"mnuEditOptions"_s)->trigger();
+    EXPECT_EQ(window->Settings().Name, u"Quillon"_s);
+    EXPECT_EQ(store.ReadRegistryString(u"GenerateDir"_s, u"missing"_s), QString());
+}
+
+}  // namespace
+}  // namespace fs::ui::testing_support
