@@ -1,9 +1,9 @@
-#include "document/AnimationScript.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
+
+#include "document/AnimationScript.h"
 
 namespace fs {
 namespace {
@@ -67,14 +67,13 @@ TEST_P(SelectionRules, SelectedLineFollowsItsLine) {
 
 INSTANTIATE_TEST_SUITE_P(
     Rules, SelectionRules,
-    testing::Values(
-        SelectionCase{"InsertInFront", 1, true, 1, {"N", "A", "B", "C", "D"}, "A"},
-        SelectionCase{"InsertBehind", 2, true, 3, {"A", "B", "N", "C", "D"}, "B"},
-        SelectionCase{"InsertAtEnd", 4, true, 5, {"A", "B", "C", "D", "N"}, "D"},
-        SelectionCase{"RemoveInFront", 3, false, 1, {"B", "C", "D"}, "C"},
-        SelectionCase{"RemoveBehind", 2, false, 4, {"A", "B", "C"}, "B"},
-        SelectionCase{"RemoveSelectedTakesNext", 2, false, 2, {"A", "C", "D"}, "C"},
-        SelectionCase{"RemoveSelectedLastTakesNewLast", 4, false, 4, {"A", "B", "C"}, "C"}),
+    testing::Values(SelectionCase{"InsertInFront", 1, true, 1, {"N", "A", "B", "C", "D"}, "A"},
+                    SelectionCase{"InsertBehind", 2, true, 3, {"A", "B", "N", "C", "D"}, "B"},
+                    SelectionCase{"InsertAtEnd", 4, true, 5, {"A", "B", "C", "D", "N"}, "D"},
+                    SelectionCase{"RemoveInFront", 3, false, 1, {"B", "C", "D"}, "C"},
+                    SelectionCase{"RemoveBehind", 2, false, 4, {"A", "B", "C"}, "B"},
+                    SelectionCase{"RemoveSelectedTakesNext", 2, false, 2, {"A", "C", "D"}, "C"},
+                    SelectionCase{"RemoveSelectedLastTakesNewLast", 4, false, 4, {"A", "B", "C"}, "C"}),
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST(AnimationScript, RemovingTheOnlyLineLeavesNoSelection) {
@@ -138,12 +137,11 @@ TEST(AnimationScript, ListenerHearsEachChange) {
     s.SetLineText(2, "C");
     s.RemoveLine(2);
     s.ClearLines();
-    EXPECT_EQ(r.events, (std::vector<std::string>{
-                            "about-insert 1", "inserted 1", "select 1",         //
-                            "about-insert 1", "inserted 1", "select 2",         //
-                            "changed 2",                                        //
-                            "about-remove 2", "removed 2", "select 1",          //
-                            "about-reset", "reset"}));
+    EXPECT_EQ(r.events, (std::vector<std::string>{"about-insert 1", "inserted 1", "select 1",  //
+                                                  "about-insert 1", "inserted 1", "select 2",  //
+                                                  "changed 2",                                 //
+                                                  "about-remove 2", "removed 2", "select 1",   //
+                                                  "about-reset", "reset"}));
 }
 
 TEST(AnimationScript, BatchIsOneReset) {
