@@ -72,6 +72,7 @@ RichPane::RichPane(QTextEdit* edit) : edit_(edit) {
 std::string RichPane::Text() const {
     QString text = edit_->document()->toRawText();
     text.replace(QChar::ParagraphSeparator, u'\n');
+    text.replace(QChar::LineSeparator, u'\n');
     return FromQString(text);
 }
 
@@ -194,7 +195,10 @@ std::vector<ColouredRun> RichPane::Runs() const {
             const int index = fragment.charFormatIndex();
             auto found = colours.constFind(index);
             if (found == colours.constEnd()) found = colours.insert(index, ColourOf(fragment.charFormat()));
-            add(FromQString(fragment.text()), *found);
+            // A soft line break (pasted rich text brings them) is a break too.
+            QString text = fragment.text();
+            text.replace(QChar::LineSeparator, u'\n');
+            add(FromQString(text), *found);
         }
     }
     return runs;

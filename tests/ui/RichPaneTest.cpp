@@ -114,6 +114,14 @@ TEST(RichPane, TextTypedWithoutAColourReadsBlack) {
     EXPECT_EQ(pane.SelColor(), kBlack);
 }
 
+TEST(RichPane, ASoftLineBreakFromPastedRichTextIsABreak) {
+    QTextEdit edit;
+    RichPane pane(&edit);
+    edit.insertHtml(QStringLiteral("ab<br>cd"));
+    EXPECT_EQ(pane.Text(), "ab\ncd");
+    EXPECT_EQ(pane.Runs(), (Runs{{"ab\ncd", kBlack}}));
+}
+
 TEST(RichPane, SetTextIsBlackWhateverWasThereBefore) {
     QTextEdit edit;
     RichPane pane(&edit);
