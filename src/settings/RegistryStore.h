@@ -6,7 +6,8 @@ namespace fs::settings {
 
 // The settings as string values in the per-user registry: the single key
 // "Software/Flickerscribe" directly under HKEY_CURRENT_USER (the slash is part
-// of the key's name, not a path separator). Windows only.
+// of the key's name, not a path separator). Windows only; the registry calls
+// themselves are in Win32Registry.
 class RegistryStore : public SettingsStore {
 public:
     QString ReadRegistryString(const QString& valueName, const QString& defaultValue = {}) const override;
