@@ -5,3 +5,5 @@ cd "$(dirname "$0")/.."
 scripts/setup.sh default
 export QT_QPA_PLATFORM=offscreen
 ctest --preset default
+# Every fuzz target for 20 seconds; scripts/fuzz.sh 600 is the longer run.
+scripts/fuzz.sh 20
