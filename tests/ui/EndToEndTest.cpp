@@ -1,0 +1,246 @@
+// The user's whole road through the real windows: from the wizard to the saved
+// game script, and from a project file through an edit back to the file.
+#include <sys/wait.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+#include <array>
+#include <cstdlib>
+
+#include "FileTestSupport.h"
+#include "MainWindowFixture.h"
+#include "colour/ColouredText.h"
+#include "ui/LineListView.h"
+#include "ui/frmScript.h"
+#include "ui/frmWizard.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace fs::ui::testing_support {
+namespace {
+
+std::vector<std::string> SplitCrLf(const std::string& bytes) {
+    std::vector<std::string> lines;
+    std::size_t from = 0;
+    for (std::size_t at = bytes.find("\r\n"); at != std::string::npos; at = bytes.find("\r\n", from)) {
+        lines.push_back(bytes.substr(from, at - from));
+        from = at + 2;
+    }
+    lines.push_back(bytes.substr(from));  // what follows the last CR LF
+    return lines;
+}
+
+std::string Quoted(const QString& path) {
+    return "'" + path.toStdString() + "'";
+}
+
+class EndToEnd : public MainWindowTest {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(folder.isValid());
+        MainWindowTest::SetUp();
+        window->resize(640, 480);
+        window->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+
+    QString PathOf(const QString& name) const { return folder.filePath(name); }
+
+    // A real mouse click on line `index` (1-based) of lvwMain.
+    void ClickLine(int index) {
+        LineListView* list = window->ListView();
+        const QModelIndex cell = list->model()->index(index - 1, 0);
+        list->scrollTo(cell);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(cell).center());
+    }
+
+    // Presses Generate and, while the modal script window stands, saves it to
+    // `path` through its own Save entry and closes it.
+    QString GenerateAndSave(const QString& path) {
+        QString shown;
+        int polls = 0;
+        QTimer poll;
+        poll.setInterval(10);
+        QObject::connect(&poll, &QTimer::timeout, [&] {
+            auto* script = qobject_cast<frmScript*>(QApplication::activeModalWidget());
+            if (script == nullptr) {
+                if (++polls > 500) poll.stop();  // never wait for ever; the checks below fail
+                return;
+            }
+            poll.stop();
+            shown = script->ScriptBox()->toPlainText();
+            dialogs.QueueSave(path);
+            script->findChild<QAction*>(u"mnuSave"_s)->trigger();
+            script->close();
+        });
+        poll.start();
+        Named(u"btngenerate"_s)->trigger();
+        return shown;
+    }
+
+    // The script the command-line program writes for a project file.
+    std::string CliScript(const QString& fsq) {
+        const QString out = PathOf(u"cli.cfg"_s);
+        const std::string command = Quoted(QStringLiteral(FS_CLI_PATH)) + " generate " + Quoted(fsq) +
+                                    " --output " + Quoted(out) + " 2>/dev/null";
+        const int status = std::system(command.c_str());
+        EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << command;
+        return ReadBytes(out);
+    }
+
+    QTemporaryDir folder;
+};
+
+// Wizard, a click in the list, playback to the end, Generate and Save: the
+// saved script holds every line by the generator's rules and is the same
+// file that the command-line program makes of the animation's project file.
+TEST_F(EndToEnd, FromTheWizardToTheSavedScript) {
+    Named(u"btnwizard"_s)->trigger();
+    QPointer<frmWizard> wizard = window->findChild<frmWizard*>();
+    ASSERT_FALSE(wizard.isNull());
+    auto* next = wizard->findChild<QPushButton*>(u"cmdNext"_s);
+    QTest::mouseClick(next, Qt::LeftButton);
+    QTest::mouseClick(next, Qt::LeftButton);
+    ASSERT_EQ(wizard->CurrentPage(), 3);
+    // Into the tag box: that chooses "Clantag and Name".
+    auto* tag = wizard->findChild<QLineEdit*>(u"txtClanTag"_s);
+    wizard->activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return wizard->isActiveWindow(); }));
+    tag->setFocus(Qt::MouseFocusReason);
+    QTest::keyClicks(tag, u"[Q]"_s);
+    QTest::keyClicks(wizard->findChild<QLineEdit*>(u"txtNameOnly_1"_s), u"^1Kat"_s);
+    ASSERT_TRUE(wizard->findChild<QRadioButton*>(u"optNameOnly_1"_s)->isChecked());
+    QTest::mouseClick(next, Qt::LeftButton);
+    ASSERT_EQ(next->text(), u"Finish"_s);
+
+    auto* effects = wizard->findChild<QComboBox*>(u"cmbEffects"_s);
+    auto* add = wizard->findChild<QPushButton*>(u"cmdAddEffect"_s);
+    auto* rows = wizard->findChild<QTreeWidget*>(u"lvwEffects"_s);
+    effects->setCurrentIndex(effects->findText(u"Wave 2"_s));
+    QTest::mouseClick(add, Qt::LeftButton);
+    effects->setCurrentIndex(effects->findText(u"Bounce"_s));
+    QTest::mouseClick(add, Qt::LeftButton);
+    ASSERT_EQ(rows->topLevelItemCount(), 2);
+    wizard->lvwEffects_ItemClick(1);
+    auto* repeat = wizard->findChild<QLineEdit*>(u"txtParam1"_s);
+    repeat->selectAll();
+    QTest::keyClicks(repeat, u"1"_s);
+    QTest::mouseClick(next, Qt::LeftButton);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return wizard.isNull(); }, 2000));
+    EXPECT_TRUE(dialogs.Messages().empty()) << "a repeat of 1 asks nothing";
+
+    const int count = Script().Count();
+    ASSERT_GT(count, 4);
+    for (int i = 1; i <= count; ++i) {
+        EXPECT_EQ(Script().LineAt(i).Time, "15");
+        EXPECT_EQ(Script().LineAt(i).Action, "[none]");
+    }
+
+    // A click on a line shows it, in its colours.
+    ClickLine(3);
+    EXPECT_EQ(Script().SelectedIndex(), 3);
+    EXPECT_EQ(PaneRuns(), RenderRuns(Script().LineAt(3).Text));
+
+    // Play: the real timer shows the first frame, then the rest to the end.
+    QAction* play = Named(u"btnpreview"_s);
+    play->trigger();
+    ASSERT_EQ(play->text(), u"Stop"_s);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return PaneRuns() == RenderRuns(Script().LineAt(1).Text); }, 2000));
+    for (int tick = 0; tick <= count && window->Playing(); ++tick) window->timAni_Timer();
+    EXPECT_EQ(play->text(), u"Play"_s);
+    EXPECT_EQ(PaneRuns(), RenderRuns(Script().LineAt(count).Text)) << "the last frame stays";
+    EXPECT_EQ(Script().SelectedIndex(), 3);
+
+    const QString cfg = PathOf(u"road.cfg"_s);
+    const QString shown = GenerateAndSave(cfg);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    ASSERT_FALSE(shown.isEmpty()) << "the script window never came";
+    const std::string saved = ReadBytes(cfg);
+
+    const std::vector<std::string> lines = SplitCrLf(saved);
+    ASSERT_EQ(lines.size(), std::size_t(1 + 7 + 2 * count + 1));
+    EXPECT_EQ(lines.front(), "") << "an empty first line";
+    EXPECT_EQ(lines.back(), "") << "the file ends with CR LF";
+    EXPECT_EQ(saved.find('\n'), saved.find("\r\n") + 1) << "no bare line feed";
+    const char* const kBanner[] = {"//--------------------------\\\\", "//----- SCRIPT MADE WITH ---\\\\",
+                                   "//------ Flickerscribe -----\\\\", "//----- by: [QZT]Quillon ---\\\\",
+                                   "//--------------------------\\\\", nullptr,
+                                   "//--------------------------\\\\"};
+    for (int b = 0; b < 7; ++b) {
+        const std::string& line = lines[std::size_t(1 + b)];
+        EXPECT_EQ(line.size(), 30u) << line;
+        EXPECT_EQ(line.substr(0, 3), "//-");
+        EXPECT_EQ(line.substr(28), "\\\\");
+        if (kBanner[b] != nullptr) {
+            EXPECT_EQ(line, kBanner[b]);
+        }
+    }
+    for (int i = 1; i <= count; ++i) {
+        const std::string& text = Script().LineAt(i).Text;
+        const std::string quoted = text.empty() ? "^7 " : text.front() == ' ' ? "^7" + text : text;
+        EXPECT_EQ(lines[std::size_t(8 + 2 * i - 2)], "set name \"" + quoted + "\"") << "line " << i;
+        EXPECT_EQ(lines[std::size_t(8 + 2 * i - 1)], "wait 15") << "line " << i;
+    }
+
+    // The same animation as a project file gives the same script on the
+    // command line.
+    const QString fsq = PathOf(u"road.fsq"_s);
+    dialogs.QueueSave(fsq);
+    Named(u"mnuFileSaveAs"_s)->trigger();
+    ASSERT_TRUE(QFile::exists(fsq));
+    EXPECT_EQ(CliScript(fsq), saved);
+    EXPECT_TRUE(dialogs.AllAnswersUsed());
+}
+
+// Open, an edit of the selected line in the pane (typed text and a colour
+// button), Save As, and Open again: the edit is there and nothing else moved.
+TEST_F(EndToEnd, AnEditInThePaneSurvivesSaveAndOpen) {
+    const QString original = PathOf(u"name.fsq"_s);
+    WriteBytes(original,
+               "#v050#\r\n^1Fl^7ick\r\n15\r\n[none]\r\n^2ab\r\n7.5\r\n[none]\r\n\r\n250\r\n[none]\r\n");
+    dialogs.QueueOpen(original);
+    Named(u"mnuFileOpen"_s)->trigger();
+    ASSERT_EQ(Script().Count(), 3);
+
+    ClickLine(2);
+    ASSERT_EQ(PaneText(), "ab");
+    window->PreviewPane().SetSelStart(2);
+    QTest::keyClicks(window->PreviewEdit(), u"cd"_s);
+    EXPECT_EQ(Script().LineAt(2).Text, "^2abcd");
+    window->PreviewPane().SetSelStart(1);
+    window->PreviewPane().SetSelLength(2);
+    Named<QPushButton>(u"cmdColor_0"_s)->click();  // red over "bc"
+    EXPECT_EQ(Script().LineAt(2).Text, "^2a^1bc^2d");
+
+    const QString copy = PathOf(u"copy.fsq"_s);
+    dialogs.QueueSave(copy);
+    Named(u"mnuFileSaveAs"_s)->trigger();
+
+    MakeWindow();
+    dialogs.QueueOpen(copy);
+    Named(u"mnuFileOpen"_s)->trigger();
+    ASSERT_EQ(Script().Count(), 3);
+    const std::vector<std::array<std::string, 3>> expected = {
+        {"^1Fl^7ick", "15", "[none]"}, {"^2a^1bc^2d", "7.5", "[none]"}, {"", "250", "[none]"}};
+    for (int i = 1; i <= 3; ++i) {
+        const AnimationLine& line = Script().LineAt(i);
+        EXPECT_EQ((std::array<std::string, 3>{line.Text, line.Time, line.Action}),
+                  expected[std::size_t(i - 1)])
+            << "line " << i;
+    }
+    EXPECT_EQ(ReadBytes(copy),
+              "#v050#\r\n^1Fl^7ick\r\n15\r\n[none]\r\n^2a^1bc^2d\r\n7.5\r\n[none]\r\n\r\n250\r\n[none]\r\n");
+    EXPECT_TRUE(dialogs.AllAnswersUsed());
+}
+
+}  // namespace
+}  // namespace fs::ui::testing_support
