@@ -1,0 +1,67 @@
+#!/usr/bin/env bash
+# Starts the real program on a private X server, waits for its main window,
+# takes a screenshot of the screen and checks that the window was painted,
+# then ends the program. Every wait is bounded, so the test never hangs.
+#
+# Usage: run_under_xvfb.sh PROGRAM [SCREENSHOT.png]
+# Needs xvfb-run (xvfb, xauth), xwininfo (x11-utils) and import/identify
+# (imagemagick).
+set -euo pipefail
+
+program="$1"
+shot="${2:-}"
+title="Flickerscribe - by [QZT]Quillon"
+
+if [ -z "${FS_UNDER_XVFB:-}" ]; then
+  for tool in xvfb-run xwininfo import identify; do
+    command -v "$tool" >/dev/null || { echo "missing $tool (scripts/setup.sh installs it)"; exit 1; }
+  done
+  # -a picks a free display number, so parallel runs don't meet.
+  FS_UNDER_XVFB=1 exec timeout 90 xvfb-run -a -s "-screen 0 1024x768x24" "$0" "$@"
+fi
+
+work="$(mktemp -d)"
+pid=""
+finish() {
+  if [ -n "$pid" ] && kill -0 "$pid" 2>/dev/null; then
+    kill "$pid" 2>/dev/null || true
+    for _ in $(seq 50); do kill -0 "$pid" 2>/dev/null || break; sleep 0.1; done
+    kill -9 "$pid" 2>/dev/null || true
+  fi
+  rm -rf "$work"
+}
+trap finish EXIT
+
+# The program's settings go to a folder of this run, never the user's.
+export HOME="$work" XDG_CONFIG_HOME="$work/config" XDG_RUNTIME_DIR="$work/run"
+mkdir -m 700 -p "$XDG_RUNTIME_DIR"
+export QT_QPA_PLATFORM=xcb
+"$program" -platform xcb >"$work/program.log" 2>&1 &
+pid=$!
+
+# Wait up to 30 s for the main window to be mapped.
+found=""
+for _ in $(seq 300); do
+  if ! kill -0 "$pid" 2>/dev/null; then
+    echo "the program ended before its window showed:"; cat "$work/program.log"; exit 1
+  fi
+  if xwininfo -root -tree 2>/dev/null | grep -F "\"$title\"" >/dev/null; then found=1; break; fi
+  sleep 0.1
+done
+[ -n "$found" ] || { echo "no window titled '$title' within 30 s"; exit 1; }
+
+# Painted means more than a handful of colours on the screen (an empty X
+# screen is one colour); painting can follow the mapping by a moment.
+colours=0
+for _ in $(seq 50); do
+  import -window root "$work/screen.png" 2>/dev/null || true
+  colours="$(identify -format %k "$work/screen.png" 2>/dev/null || echo 0)"
+  [ "$colours" -gt 16 ] && break
+  sleep 0.2
+done
+[ -n "$shot" ] && cp "$work/screen.png" "$shot"
+echo "window '$title' shown; screenshot has $colours colours"
+[ "$colours" -gt 16 ] || { echo "the window was not painted"; exit 1; }
+
+kill -0 "$pid" 2>/dev/null || { echo "the program ended while showing"; exit 1; }
+echo "ok"
