@@ -1,0 +1,113 @@
+// The resident memory of the real main window holding a full animation:
+// a project file of 32767 lines is opened through File > Open, the window is
+// shown and painted with the last line selected, and the process's resident
+// size (VmRSS) and its peak (VmHWM) are read from /proc/self/status.
+// The target is under 80 MB. Runs on the offscreen platform unless
+// QT_QPA_PLATFORM says otherwise (e.g. xcb under xvfb-run -a).
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <QTest>
+#include <fstream>
+#include <string>
+
+#include "document/AnimationFile.h"
+#include "document/AnimationScript.h"
+#include "settings/SettingsStore.h"
+#include "ui/Dialogs.h"
+#include "ui/LineListView.h"
+#include "ui/frmMain.h"
+
+namespace {
+
+class NoSettings : public fs::settings::SettingsStore {
+public:
+    QString ReadRegistryString(const QString&, const QString& defaultValue) const override {
+        return defaultValue;
+    }
+    void WriteRegistryString(const QString&, const QString&) override {}
+};
+
+// Dialogs whose open dialog chooses one file; nothing else is asked.
+class OpenOneFile : public fs::ui::Dialogs {
+public:
+    explicit OpenOneFile(QString path) : path_(std::move(path)) {}
+    fs::ui::MsgAnswer Message(QWidget*, const QString&, const QString&, fs::ui::MsgIcon,
+                              fs::ui::MsgButtons) override {
+        return fs::ui::MsgAnswer::Ok;
+    }
+    std::optional<QString> InputBox(QWidget*, const QString&, const QString&, const QString&) override {
+        return std::nullopt;
+    }
+    bool ShowOpen(QWidget*, fs::ui::FileDialogState& state) override {
+        state.FileName = path_;
+        return true;
+    }
+    bool ShowSave(QWidget*, fs::ui::FileDialogState&) override { return false; }
+    QString BrowseForFolder(QWidget*, const QString&) override { return {}; }
+    void SetClipboardText(const QString&) override {}
+    std::optional<QString> ClipboardText() override { return QString(); }
+
+private:
+    QString path_;
+};
+
+// A value of /proc/self/status in kB ("VmRSS", "VmHWM").
+double StatusKb(const std::string& field) {
+    std::ifstream status("/proc/self/status");
+    std::string line;
+    while (std::getline(status, line))
+        if (line.rfind(field + ":", 0) == 0) return std::stod(line.substr(field.size() + 1));
+    return 0;
+}
+
+void BM_ResidentWithFullAnimationShown(benchmark::State& state) {
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("full.fsq"));
+    {
+        fs::AnimationScript full;
+        for (int i = 0; i < fs::kMaxLines; ++i)
+            full.AppendLine("^1[QZT]^7Quil^" + std::to_string(1 + i % 8) + "lon " + std::to_string(i), "15",
+                            "[none]");
+        if (fs::SaveAnimationFile(path.toStdString(), full)) {
+            state.SkipWithError("cannot write the project file");
+            return;
+        }
+    }
+    const double baseKb = StatusKb("VmRSS");
+
+    for (auto _ : state) {
+        NoSettings store;
+        OpenOneFile dialogs(path);
+        fs::ui::frmMain window(dialogs, store);
+        window.resize(800, 600);
+        window.show();
+        if (!QTest::qWaitForWindowExposed(&window)) state.SkipWithError("the window never showed");
+        window.OpenAnimation();
+        if (window.Script().Count() != fs::kMaxLines) state.SkipWithError("not all lines");
+        // Down to the last line, drawn in the pane, and a full paint.
+        window.Script().SelectLine(window.Script().Count());
+        window.lvwMain_ItemClick(window.Script().Count());
+        window.repaint();
+        QApplication::processEvents();
+        benchmark::DoNotOptimize(window.grab());
+
+        state.counters["VmRSS_MB"] = StatusKb("VmRSS") / 1024;
+        state.counters["VmHWM_MB"] = StatusKb("VmHWM") / 1024;
+        state.counters["BeforeWindow_MB"] = baseKb / 1024;
+    }
+}
+BENCHMARK(BM_ResidentWithFullAnimationShown)->Iterations(1)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
