@@ -4,31 +4,19 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
 #include <string>
 
+#include "GuiBenchSupport.h"
 #include "document/AnimationFile.h"
-#include "document/AnimationScript.h"
 #include "settings/Settings.h"
-#include "settings/SettingsStore.h"
-#include "ui/Dialogs.h"
-#include "ui/LineListView.h"
-#include "ui/frmMain.h"
 #include "ui/frmScript.h"
 
 namespace {
 
 using fs::AnimationScript;
-
-class NoSettings : public fs::settings::SettingsStore {
-public:
-    QString ReadRegistryString(const QString&, const QString& defaultValue) const override {
-        return defaultValue;
-    }
-    void WriteRegistryString(const QString&, const QString&) override {}
-};
 
 // Dialogs that choose one file and say OK to everything else.
 class ChosenFile : public fs::ui::Dialogs {
@@ -56,16 +44,9 @@ private:
     QString path_;
 };
 
-// A full animation of names with a few colours each.
-void FillFull(AnimationScript& script) {
-    AnimationScript::Batch batch(script);
-    for (int i = 0; i < fs::kMaxLines; ++i)
-        script.AppendLine("^1Fl^2ick^3er ^7" + std::to_string(i), std::to_string(1 + i % 99), "[none]");
-}
-
 void BM_ScriptWindowOfAFullAnimationToFirstPaint(benchmark::State& state) {
     AnimationScript script;
-    FillFull(script);
+    fs::bench::FillNames(script, fs::kMaxLines);
     ChosenFile dialogs({});
     const fs::settings::Settings settings;
     for (auto _ : state) {
@@ -87,35 +68,21 @@ void BM_OpenAFullFileIntoTheShownList(benchmark::State& state) {
     const QString path = dir.filePath(QStringLiteral("full.fsq"));
     {
         AnimationScript script;
-        FillFull(script);
+        fs::bench::FillNames(script, fs::kMaxLines);
         if (fs::SaveAnimationFile(path.toStdString(), script)) {
             state.SkipWithError("can't write the file");
             return;
         }
     }
     ChosenFile dialogs(path);
-    NoSettings store;
-    fs::ui::frmMain window(dialogs, store);
-    window.show();
-    QCoreApplication::processEvents();
+    fs::bench::ShownWindow shown(0, &dialogs);
     for (auto _ : state) {
-        window.OpenAnimation();
-        window.ListView()->viewport()->repaint();
+        shown.window.OpenAnimation();
+        shown.PaintList();
     }
-    if (window.Script().Count() != fs::kMaxLines) state.SkipWithError("the file didn't load whole");
+    if (shown.window.Script().Count() != fs::kMaxLines) state.SkipWithError("the file didn't load whole");
     state.SetItemsProcessed(state.iterations() * fs::kMaxLines);
 }
 BENCHMARK(BM_OpenAFullFileIntoTheShownList)->Unit(benchmark::kMillisecond);
 
 }  // namespace
-
-int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("Flickerscribe"));
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}

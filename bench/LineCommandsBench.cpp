@@ -4,46 +4,17 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QTest>
 #include <QTextEdit>
 #include <string>
 
-#include "document/AnimationScript.h"
-#include "settings/SettingsStore.h"
-#include "ui/LineListView.h"
-#include "ui/QtDialogs.h"
-#include "ui/frmMain.h"
+#include "GuiBenchSupport.h"
 
 namespace {
 
 using fs::AnimationScript;
-
-class NoSettings : public fs::settings::SettingsStore {
-public:
-    QString ReadRegistryString(const QString&, const QString& defaultValue) const override {
-        return defaultValue;
-    }
-    void WriteRegistryString(const QString&, const QString&) override {}
-};
-
-// A main window on screen holding `lines` lines, the first one selected.
-struct ShownWindow {
-    explicit ShownWindow(int lines) : window(dialogs, store) {
-        {
-            AnimationScript::Batch batch(window.Script());
-            for (int i = 0; i < lines; ++i)
-                window.Script().AppendLine("^1Fl^2ick " + std::to_string(i), "15", "[none]");
-        }
-        window.show();
-        QCoreApplication::processEvents();
-    }
-    void Paint() { window.ListView()->viewport()->repaint(); }
-
-    fs::ui::QtDialogs dialogs;
-    NoSettings store;
-    fs::ui::frmMain window;
-};
+using fs::bench::ShownWindow;
 
 // Cuts the list back to `count` lines in one go.
 void TrimTo(AnimationScript& script, int count) {
@@ -56,7 +27,7 @@ void BM_AddLineAtTheTopOfAFullList(benchmark::State& state) {
     AnimationScript& script = shown.window.Script();
     for (auto _ : state) {
         shown.window.AddLine(false);  // the last line the list can take
-        shown.Paint();
+        shown.PaintList();
         state.PauseTiming();
         script.RemoveLine(1);
         QCoreApplication::processEvents();
@@ -70,7 +41,7 @@ void BM_CopyAllLines(benchmark::State& state) {
     ShownWindow shown(lines);
     for (auto _ : state) {
         shown.window.CopyLines(3);
-        shown.Paint();
+        shown.PaintList();
         state.PauseTiming();
         TrimTo(shown.window.Script(), lines);
         QCoreApplication::processEvents();
@@ -123,14 +94,3 @@ void BM_TypeAtTheEndOfTheLongestText(benchmark::State& state) {
 BENCHMARK(BM_TypeAtTheEndOfTheLongestText)->Arg(1)->Arg(16)->Unit(benchmark::kMillisecond);
 
 }  // namespace
-
-int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("Flickerscribe"));
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}

@@ -3,41 +3,17 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
-#include <QMap>
 #include <QTextEdit>
 #include <string>
 
+#include "GuiBenchSupport.h"
 #include "colour/ColouredText.h"
 #include "colour/Palette.h"
-#include "document/AnimationScript.h"
-#include "settings/SettingsStore.h"
-#include "ui/LineListView.h"
-#include "ui/QtDialogs.h"
-#include "ui/frmMain.h"
 
 namespace {
 
 using fs::AnimationScript;
-
-class NoSettings : public fs::settings::SettingsStore {
-public:
-    QString ReadRegistryString(const QString&, const QString& defaultValue) const override {
-        return defaultValue;
-    }
-    void WriteRegistryString(const QString&, const QString&) override {}
-};
-
-// A main window on screen, as the user has it.
-struct ShownWindow {
-    ShownWindow() : window(dialogs, store) {
-        window.show();
-        QCoreApplication::processEvents();
-    }
-    fs::ui::QtDialogs dialogs;
-    NoSettings store;
-    fs::ui::frmMain window;
-};
+using fs::bench::ShownWindow;
 
 // A coded text whose colour changes at every one of its `length` characters.
 std::string EveryCharacterItsColour(int length) {
@@ -59,10 +35,9 @@ void BM_ListResetAndFirstPaint(benchmark::State& state) {
         {
             AnimationScript::Batch batch(script);
             script.ClearLines();
-            for (int i = 0; i < lines; ++i)
-                script.AppendLine("^1Fl^2ick^3er " + std::to_string(i), "15", "[none]");
+            fs::bench::FillNames(script, lines);
         }
-        shown.window.ListView()->viewport()->repaint();
+        shown.PaintList();
     }
     state.SetItemsProcessed(state.iterations() * lines);
 }
@@ -100,7 +75,7 @@ BENCHMARK(BM_EncodeLongestText)->Unit(benchmark::kMillisecond);
 void BM_StartUpToFirstPaint(benchmark::State& state) {
     for (auto _ : state) {
         fs::ui::QtDialogs dialogs;
-        NoSettings store;
+        fs::bench::NoSettings store;
         fs::ui::frmMain window(dialogs, store);
         window.show();
         window.repaint();
@@ -109,14 +84,3 @@ void BM_StartUpToFirstPaint(benchmark::State& state) {
 BENCHMARK(BM_StartUpToFirstPaint)->Unit(benchmark::kMillisecond);
 
 }  // namespace
-
-int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("Flickerscribe"));
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}

@@ -1,0 +1,40 @@
+#include "GuiBenchSupport.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <string>
+
+#include "ui/LineListView.h"
+
+namespace fs::bench {
+
+void FillNames(AnimationScript& script, int lines) {
+    AnimationScript::Batch batch(script);
+    for (int i = 0; i < lines; ++i)
+        script.AppendLine("^1Fl^2ick^3er ^7" + std::to_string(i), std::to_string(1 + i % 99), "[none]");
+}
+
+ShownWindow::ShownWindow(int lines, ui::Dialogs* dialogs)
+    : window(dialogs != nullptr ? *dialogs : qtDialogs, store) {
+    FillNames(window.Script(), lines);
+    window.show();
+    QCoreApplication::processEvents();
+}
+
+void ShownWindow::PaintList() {
+    window.ListView()->viewport()->repaint();
+}
+
+}  // namespace fs::bench
+
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Flickerscribe"));
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}

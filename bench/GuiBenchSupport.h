@@ -1,0 +1,38 @@
+#pragma once
+
+// What the benchmarks of the windows share: a settings store that keeps
+// nothing, a shown main window, a full list of coloured names, and the main
+// that starts the application before the benchmarks run.
+
+#include <QString>
+
+#include "document/AnimationScript.h"
+#include "settings/SettingsStore.h"
+#include "ui/QtDialogs.h"
+#include "ui/frmMain.h"
+
+namespace fs::bench {
+
+class NoSettings : public settings::SettingsStore {
+public:
+    QString ReadRegistryString(const QString&, const QString& defaultValue) const override {
+        return defaultValue;
+    }
+    void WriteRegistryString(const QString&, const QString&) override {}
+};
+
+// Appends `lines` names with a few colours each, in one reset.
+void FillNames(AnimationScript& script, int lines);
+
+// A main window on screen holding `lines` names, the first one selected,
+// asking its questions through `dialogs` (real dialogs when none are given).
+struct ShownWindow {
+    explicit ShownWindow(int lines = 0, ui::Dialogs* dialogs = nullptr);
+    void PaintList();
+
+    ui::QtDialogs qtDialogs;
+    NoSettings store;
+    ui::frmMain window;
+};
+
+}  // namespace fs::bench
