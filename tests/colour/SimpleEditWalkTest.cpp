@@ -14,6 +14,7 @@ struct WalkCase {
     const char* name;
     std::vector<ColouredRun> runs;
     std::vector<std::string> lines;
+    friend void PrintTo(const WalkCase& c, std::ostream* os) { *os << c.name; }
 };
 
 // The colour that a pane gives its line breaks is of no account, so the breaks

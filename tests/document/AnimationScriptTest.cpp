@@ -46,6 +46,7 @@ struct SelectionCase {
     int index;
     std::vector<std::string> expectTexts;
     std::string expectSelectedText;
+    friend void PrintTo(const SelectionCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class SelectionRules : public testing::TestWithParam<SelectionCase> {};
@@ -74,7 +75,7 @@ INSTANTIATE_TEST_SUITE_P(
                     SelectionCase{"RemoveBehind", 2, false, 4, {"A", "B", "C"}, "B"},
                     SelectionCase{"RemoveSelectedTakesNext", 2, false, 2, {"A", "C", "D"}, "C"},
                     SelectionCase{"RemoveSelectedLastTakesNewLast", 4, false, 4, {"A", "B", "C"}, "C"}),
-    [](const auto& info) { return std::string(info.param.name); });
+    testing::PrintToStringParamName());
 
 TEST(AnimationScript, RemovingTheOnlyLineLeavesNoSelection) {
     AnimationScript s;

@@ -24,6 +24,7 @@ protected:
 struct ValueCase {
     const char* name;
     QString value;
+    friend void PrintTo(const ValueCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class FileStoreValues : public FileStore, public testing::WithParamInterface<ValueCase> {};
@@ -39,19 +40,20 @@ TEST_P(FileStoreValues, ComeBackExactlyAsWritten) {
     EXPECT_EQ(again.ReadRegistryString(u"Name"_s, u"default"_s), GetParam().value);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Tricky, FileStoreValues,
-    testing::Values(ValueCase{"Plain", u"Quillon"_s}, ValueCase{"Empty", QString()},
-                    ValueCase{"Blanks", u"  two  blanks  "_s}, ValueCase{"Equals", u"a=b"_s},
-                    ValueCase{"Semicolon", u"a;b"_s}, ValueCase{"Hash", u"#not a comment"_s},
-                    ValueCase{"Comma", u"a,b"_s}, ValueCase{"CommaBlank", u"a, b,"_s},
-                    ValueCase{"Quotes", u"\"quoted\" 'x'"_s},
-                    ValueCase{"Backslashes", u"C:\\Games\\Brennock\\"_s},
-                    ValueCase{"Brackets", u"[QZT]Quillon"_s}, ValueCase{"Carets", u"^1Fl^7ick"_s},
-                    ValueCase{"At", u"@Variant(x)"_s},
-                    ValueCase{"NonAscii", u"Zo\u00eb \u20ac \u00e9t\u00e9"_s},
-                    ValueCase{"Percent", u"100%20"_s}, ValueCase{"Tab", u"a\tb"_s}),
-    [](const testing::TestParamInfo<ValueCase>& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Tricky, FileStoreValues,
+                         testing::Values(ValueCase{"Plain", u"Quillon"_s}, ValueCase{"Empty", QString()},
+                                         ValueCase{"Blanks", u"  two  blanks  "_s},
+                                         ValueCase{"Equals", u"a=b"_s}, ValueCase{"Semicolon", u"a;b"_s},
+                                         ValueCase{"Hash", u"#not a comment"_s}, ValueCase{"Comma", u"a,b"_s},
+                                         ValueCase{"CommaBlank", u"a, b,"_s},
+                                         ValueCase{"Quotes", u"\"quoted\" 'x'"_s},
+                                         ValueCase{"Backslashes", u"C:\\Games\\Brennock\\"_s},
+                                         ValueCase{"Brackets", u"[QZT]Quillon"_s},
+                                         ValueCase{"Carets", u"^1Fl^7ick"_s},
+                                         ValueCase{"At", u"@Variant(x)"_s},
+                                         ValueCase{"NonAscii", u"Zo\u00eb \u20ac \u00e9t\u00e9"_s},
+                                         ValueCase{"Percent", u"100%20"_s}, ValueCase{"Tab", u"a\tb"_s}),
+                         testing::PrintToStringParamName());
 
 TEST_F(FileStore, ReadingNeitherCreatesTheFileNorItsFolder) {
     const QString path = PathIn(u"sub/Flickerscribe.conf"_s);
@@ -91,6 +93,7 @@ struct HandEditedCase {
     const char* name;
     QByteArray line;
     QString expected;
+    friend void PrintTo(const HandEditedCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class HandEditedFile : public FileStore, public testing::WithParamInterface<HandEditedCase> {};
@@ -111,9 +114,7 @@ INSTANTIATE_TEST_SUITE_P(Cases, HandEditedFile,
                                          HandEditedCase{"BareComma", "Name=a,b", u"a,b"_s},
                                          HandEditedCase{"Missing", "Other=1", u"default"_s},
                                          HandEditedCase{"NotText", "Name=@Rect(1 2 3 4)", u"default"_s}),
-                         [](const testing::TestParamInfo<HandEditedCase>& info) {
-                             return std::string(info.param.name);
-                         });
+                         testing::PrintToStringParamName());
 
 // --- LoadSettings
 
@@ -121,6 +122,7 @@ struct FlagCase {
     const char* name;
     std::optional<QString> stored;  // nullopt: no such value
     bool expected;
+    friend void PrintTo(const FlagCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class FlagRule : public testing::TestWithParam<FlagCase> {};
@@ -143,7 +145,7 @@ INSTANTIATE_TEST_SUITE_P(
                     FlagCase{"True", u"true"_s, false}, FlagCase{"LeadingBlank", u" 1"_s, false},
                     FlagCase{"TrailingBlank", u"1 "_s, false}, FlagCase{"Eleven", u"11"_s, false},
                     FlagCase{"Empty", QString(), false}, FlagCase{"Missing", std::nullopt, false}),
-    [](const testing::TestParamInfo<FlagCase>& info) { return std::string(info.param.name); });
+    testing::PrintToStringParamName());
 
 TEST(LoadSettings, ReadsEveryValueOnceInItsOrderAndKeepsTextsUnchanged) {
     const MemorySettingsStore store({{u"OpenDir"_s, u" /open "_s},

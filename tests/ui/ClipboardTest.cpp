@@ -33,6 +33,7 @@ struct PasteCase {
     const char* shown;  // the pane afterwards
     TextTimes start = kABC;
     int selected = 2;
+    friend void PrintTo(const PasteCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class Paste : public LinesTest, public testing::WithParamInterface<PasteCase> {};
@@ -68,7 +69,7 @@ INSTANTIATE_TEST_SUITE_P(
                     PasteCase{"LastSelected", u"D"_s, {"A/10", "B/20", "C/30", "D/15"}, "C", kABC, 3},
                     PasteCase{"IntoAnEmptyList", u"^1Hi"_s, {"^1Hi/15"}, "Hi", {}, 0},
                     PasteCase{"Unreadable", std::nullopt, kABC, "marker"}),
-    [](const testing::TestParamInfo<PasteCase>& info) { return std::string(info.param.name); });
+    testing::PrintToStringParamName());
 
 struct CutCopyCase {
     const char* name;
@@ -76,6 +77,7 @@ struct CutCopyCase {
     TextTimes start;
     TextTimes expected;
     QString clipboard;
+    friend void PrintTo(const CutCopyCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class CutCopy : public LinesTest, public testing::WithParamInterface<CutCopyCase> {};
@@ -92,13 +94,13 @@ TEST_P(CutCopy, TakeTheSelectedLinesTextOnly) {
     EXPECT_EQ(PaneLocked(), GetParam().expected.empty());
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Cases, CutCopy,
-    testing::Values(CutCopyCase{"CutTheOnlyLine", true, {"only/30"}, {}, u"only"_s},
-                    CutCopyCase{"Copy", false, {"A/10", "B/20"}, {"A/10", "B/20"}, u"A"_s},
-                    CutCopyCase{"CutOfNone", true, {}, {}, u"kept"_s},
-                    CutCopyCase{"CopyOfNone", false, {}, {}, u"kept"_s}),
-    [](const testing::TestParamInfo<CutCopyCase>& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Cases, CutCopy,
+                         testing::Values(CutCopyCase{"CutTheOnlyLine", true, {"only/30"}, {}, u"only"_s},
+                                         CutCopyCase{
+                                             "Copy", false, {"A/10", "B/20"}, {"A/10", "B/20"}, u"A"_s},
+                                         CutCopyCase{"CutOfNone", true, {}, {}, u"kept"_s},
+                                         CutCopyCase{"CopyOfNone", false, {}, {}, u"kept"_s}),
+                         testing::PrintToStringParamName());
 
 }  // namespace
 }  // namespace fs::ui::testing_support

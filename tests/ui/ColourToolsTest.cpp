@@ -92,6 +92,7 @@ struct ClipboardCase {
     const char* name;
     std::vector<Step> steps;
     const char* clipboard;
+    friend void PrintTo(const ClipboardCase& c, std::ostream* os) { *os << c.name; }
 };
 
 const ClipboardCase kClipboardCases[] = {
@@ -171,6 +172,7 @@ struct SaveCase {
     const char* name;
     std::vector<Step> steps;
     std::vector<AnimationLine> lines;
+    friend void PrintTo(const SaveCase& c, std::ostream* os) { *os << c.name; }
 };
 
 const SaveCase kSaveCases[] = {
@@ -250,6 +252,7 @@ struct ResizeCase {
     const char* name;
     int width, height;
     bool minimised;
+    friend void PrintTo(const ResizeCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class SimpleEditResize : public testing::TestWithParam<ResizeCase> {};
@@ -280,7 +283,7 @@ INSTANTIATE_TEST_SUITE_P(Sizes, SimpleEditResize,
                          testing::Values(ResizeCase{"Wide", 900, 300, false},
                                          ResizeCase{"LowerThanTheStrip", 400, 20, false},
                                          ResizeCase{"Minimised", 300, 200, true}),
-                         [](const auto& info) { return std::string(info.param.name); });
+                         testing::PrintToStringParamName());
 
 }  // namespace
 }  // namespace fs::ui

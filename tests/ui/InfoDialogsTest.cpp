@@ -58,6 +58,7 @@ struct AboutKey {
     const char* name;
     Qt::Key key;
     QDialog::DialogCode result;
+    friend void PrintTo(const AboutKey& c, std::ostream* os) { *os << c.name; }
 };
 
 class AboutCloses : public testing::TestWithParam<AboutKey> {};
@@ -73,7 +74,7 @@ TEST_P(AboutCloses, ByKey) {
 INSTANTIATE_TEST_SUITE_P(Keys, AboutCloses,
                          testing::Values(AboutKey{"Enter", Qt::Key_Return, QDialog::Accepted},
                                          AboutKey{"Escape", Qt::Key_Escape, QDialog::Rejected}),
-                         [](const auto& info) { return std::string(info.param.name); });
+                         testing::PrintToStringParamName());
 
 // ---------------------------------------------------------------- Help
 
@@ -110,6 +111,7 @@ struct CopyCase {
     const char* button;
     const char* box;
     const char* value;
+    friend void PrintTo(const CopyCase& c, std::ostream* os) { *os << c.button; }
 };
 
 class HelpCopy : public testing::TestWithParam<CopyCase> {};

@@ -21,6 +21,7 @@ struct CommandCase {
     const char* message = nullptr;  // the one message shown, if any
     const char* title = "";
     MsgIcon icon = MsgIcon::Exclamation;
+    friend void PrintTo(const CommandCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class LineCommand : public LinesTest, public testing::WithParamInterface<CommandCase> {};
@@ -112,12 +113,13 @@ INSTANTIATE_TEST_SUITE_P(
         CommandCase{"CopyAllReversedOfNone", Copy(4), {}, 0, {}, 0, kNoLines, "Add line"},
         CommandCase{"RemoveOfNone", kRemove, {}, 0, {}, 0, "Can't remove line.", "", MsgIcon::Information},
         CommandCase{"EditOfNone", kEdit, {}, 0, {}, 0, "No items to edit", "Edit"}),
-    [](const testing::TestParamInfo<CommandCase>& info) { return std::string(info.param.name); });
+    testing::PrintToStringParamName());
 
 struct LimitCase {
     const char* name;
     int linesBefore;
     Run run;
+    friend void PrintTo(const LimitCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class AtTheLineLimit : public LinesTest, public testing::WithParamInterface<LimitCase> {};
@@ -139,7 +141,7 @@ INSTANTIATE_TEST_SUITE_P(
                     LimitCase{"CopyAll", 20000, Copy(3)}, LimitCase{"CopyAllReversed", 20000, Copy(4)},
                     LimitCase{"Paste", kMaxLines,
                               [](frmMain& w, ScriptedDialogs&) { w.mnuEditPaste_Click(); }}),
-    [](const testing::TestParamInfo<LimitCase>& info) { return std::string(info.param.name); });
+    testing::PrintToStringParamName());
 
 }  // namespace
 }  // namespace fs::ui::testing_support

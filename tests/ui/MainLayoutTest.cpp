@@ -20,6 +20,7 @@ struct RuleCase {
     QRect pane;
     QRect strip;  // checked only with colours on
     int listHeight;
+    friend void PrintTo(const RuleCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class LayoutRule : public testing::TestWithParam<RuleCase> {};
@@ -52,7 +53,7 @@ INSTANTIATE_TEST_SUITE_P(
                     // Too low: the list keeps whatever height it had.
                     RuleCase{"TooLow", {531, 34}, false, {0, 2, 531, 33}, {}, -1},
                     RuleCase{"NoRoomAtAll", {0, 0}, true, {0, 2, 0, 33}, {-249, 2, 249, 33}, -1}),
-    [](const testing::TestParamInfo<RuleCase>& info) { return std::string(info.param.name); });
+    testing::PrintToStringParamName());
 
 // --- the rule applied to the real window
 

@@ -142,6 +142,7 @@ struct BrowseCase {
     const char* box;
     const char* title;
     const char* value;  // stored from the box
+    friend void PrintTo(const BrowseCase& c, std::ostream* os) { *os << c.button; }
 };
 
 class OptionsBrowse : public testing::TestWithParam<BrowseCase> {};
@@ -198,6 +199,7 @@ struct KeyCase {
     const char* name;
     const char* target;
     Qt::Key key;
+    friend void PrintTo(const KeyCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class OptionsKeys : public testing::TestWithParam<KeyCase> {};
@@ -220,7 +222,7 @@ INSTANTIATE_TEST_SUITE_P(Keys, OptionsKeys,
                                          KeyCase{"EnterInName", "txtName", Qt::Key_Return},
                                          KeyCase{"EnterOnOk", "cmdOK", Qt::Key_Return},
                                          KeyCase{"EscapeOnWindow", "frmOptions", Qt::Key_Escape}),
-                         [](const auto& info) { return std::string(info.param.name); });
+                         testing::PrintToStringParamName());
 
 }  // namespace
 }  // namespace fs::ui

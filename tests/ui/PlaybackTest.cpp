@@ -48,6 +48,7 @@ protected:
 struct EmptyListCase {
     const char* name;
     MsgAnswer answer;
+    friend void PrintTo(const EmptyListCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class PlaybackOfNothing : public Playback, public testing::WithParamInterface<EmptyListCase> {};
@@ -69,9 +70,7 @@ TEST_P(PlaybackOfNothing, ShowsTheMessageAndStaysStoppedWhateverTheAnswer) {
 INSTANTIATE_TEST_SUITE_P(Answers, PlaybackOfNothing,
                          testing::Values(EmptyListCase{"Ok", MsgAnswer::Ok},
                                          EmptyListCase{"Cancel", MsgAnswer::Cancel}),
-                         [](const testing::TestParamInfo<EmptyListCase>& info) {
-                             return std::string(info.param.name);
-                         });
+                         testing::PrintToStringParamName());
 
 TEST_F(Playback, ShowsOneLinePerTickAndStopsWithTheLast) {
     AddLines({"one", "two", "three"});
@@ -126,6 +125,7 @@ TEST_F(Playback, FramesShowInTheirColoursAndTimeDoesNotMatter) {
 struct ShrinkCase {
     const char* name;
     int removeFromEnd;  // lines removed after the second frame; -1 empties the list
+    friend void PrintTo(const ShrinkCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class PlaybackOfAShrinkingList : public Playback, public testing::WithParamInterface<ShrinkCase> {};
@@ -149,9 +149,7 @@ TEST_P(PlaybackOfAShrinkingList, StopsAtTheNextTickWithoutAWord) {
 
 INSTANTIATE_TEST_SUITE_P(Cases, PlaybackOfAShrinkingList,
                          testing::Values(ShrinkCase{"Emptied", -1}, ShrinkCase{"ShorterThanThePlace", 2}),
-                         [](const testing::TestParamInfo<ShrinkCase>& info) {
-                             return std::string(info.param.name);
-                         });
+                         testing::PrintToStringParamName());
 
 TEST_F(Playback, AListThatGrowsPlaysOnToItsNewEnd) {
     AddLines({"1", "2"});

@@ -63,6 +63,7 @@ struct ChangeCase {
     int resets;
     int changedRow;
     std::vector<const char*> rows;  // Text column afterwards
+    friend void PrintTo(const ChangeCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class ScriptModelChanges : public ScriptModelTest, public testing::WithParamInterface<ChangeCase> {};
@@ -123,7 +124,7 @@ INSTANTIATE_TEST_SUITE_P(
                    0,
                    -1,
                    {"a", "b", "c"}}),
-    [](const testing::TestParamInfo<ChangeCase>& info) { return std::string(info.param.name); });
+    testing::PrintToStringParamName());
 
 TEST_F(ScriptModelTest, TellsOfTheScriptsSelection) {
     QSignalSpy selected(&model, &ScriptModel::selectedLineChanged);

@@ -60,6 +60,7 @@ struct TimeCase {
     const char* name;
     QString set;
     QString shown;
+    friend void PrintTo(const TimeCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class TimeBox : public testing::TestWithParam<TimeCase> {};
@@ -79,7 +80,7 @@ INSTANTIATE_TEST_SUITE_P(
                     TimeCase{"Exponent", u"1e1"_s, u"1e1"_s}, TimeCase{"Empty", u""_s, u"20"_s},
                     TimeCase{"Word", u"abc"_s, u"20"_s}, TimeCase{"TooBig", u"32768"_s, u"20"_s},
                     TimeCase{"NumberThenWord", u"15a"_s, u"20"_s}),
-    [](const testing::TestParamInfo<TimeCase>& info) { return std::string(info.param.name); });
+    testing::PrintToStringParamName());
 
 TEST(EditDialog, TypedLettersAndAnEmptiedBoxGiveTwenty) {
     Fixture f;
@@ -98,6 +99,7 @@ struct CloseCase {
     const char* typed;  // nullptr: the box as it opened
     void (*close)(Fixture&);
     const char* stored;  // B's time afterwards
+    friend void PrintTo(const CloseCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class ClosingTheDialog : public testing::TestWithParam<CloseCase> {};
@@ -128,7 +130,7 @@ INSTANTIATE_TEST_SUITE_P(
                   "20"},
         CloseCase{"Escape", "25", [](Fixture& f) { QTest::keyClick(f.Time(), Qt::Key_Escape); }, "20"},
         CloseCase{"CloseBox", "25", [](Fixture& f) { f.window.close(); }, "20"}),
-    [](const testing::TestParamInfo<CloseCase>& info) { return std::string(info.param.name); });
+    testing::PrintToStringParamName());
 
 }  // namespace
 }  // namespace fs::ui

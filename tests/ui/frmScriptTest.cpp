@@ -103,7 +103,7 @@ INSTANTIATE_TEST_SUITE_P(
                     TextCase{"EightBit",
                              {{"\x80\xE9\xA0x", "1.5"}},
                              kBanner + "\r\nset name \"\x80\xE9\xA0x\"\r\nwait 1.5"}),
-    [](const auto& info) { return std::string(info.param.name); });
+    testing::PrintToStringParamName());
 
 class TypedText : public ScriptWindow,
                   public testing::WithParamInterface<std::pair<std::u16string, std::string>> {};
