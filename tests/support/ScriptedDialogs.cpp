@@ -34,6 +34,24 @@ bool Offers(MsgButtons buttons, MsgAnswer answer) {
     return false;
 }
 
+// Whether an answer was queued; a question with none fails the test.
+template <class Answer>
+bool Queued(const std::deque<Answer>& queue, const char* what, const QString& about) {
+    if (queue.empty())
+        ADD_FAILURE() << "unexpected " << what << ", no answer queued: " << about.toStdString();
+    return !queue.empty();
+}
+
+// The queued file name or text, nullopt for Cancel. (The optional itself is
+// not moved out: the compiler sees a moved-from QString as uninitialised.)
+std::optional<QString> TakeText(std::deque<std::optional<QString>>& queue) {
+    const bool given = queue.front().has_value();
+    const QString text = given ? *queue.front() : QString();
+    queue.pop_front();
+    if (!given) return std::nullopt;
+    return text;
+}
+
 }  // namespace
 
 ScriptedDialogs::~ScriptedDialogs() {
@@ -91,50 +109,31 @@ std::optional<QString> ScriptedDialogs::InputBox(QWidget* parent, const QString&
     call.title = title;
     call.defaultText = defaultText;
     Record(std::move(call));
-    if (inputAnswers_.empty()) {
-        ADD_FAILURE() << "unexpected input box, no answer queued: " << prompt.toStdString();
-        return std::nullopt;
-    }
-    const bool given = inputAnswers_.front().has_value();
-    const QString text = given ? *inputAnswers_.front() : QString();
-    inputAnswers_.pop_front();
-    if (!given) return std::nullopt;
-    return text;
+    if (!Queued(inputAnswers_, "input box", prompt)) return std::nullopt;
+    return TakeText(inputAnswers_);
 }
 
-bool ScriptedDialogs::AnswerFile(std::deque<std::optional<QString>>& answers, FileDialogState& state,
-                                 const char* what) {
-    if (answers.empty()) {
-        ADD_FAILURE() << "unexpected " << what
-                      << " dialog, no answer queued: " << state.DialogTitle.toStdString();
-        return false;
-    }
-    const bool given = answers.front().has_value();
-    const QString fileName = given ? *answers.front() : QString();
-    answers.pop_front();
-    if (!given) return false;
-    state.FileName = fileName;
-    return true;
+bool ScriptedDialogs::AnswerFile(DialogCall::Kind kind, QWidget* parent, FileDialogState& state) {
+    DialogCall call;
+    call.kind = kind;
+    call.parent = parent;
+    call.title = state.DialogTitle;
+    call.state = state;
+    Record(std::move(call));
+    const bool open = kind == DialogCall::Kind::ShowOpen;
+    auto& answers = open ? openAnswers_ : saveAnswers_;
+    if (!Queued(answers, open ? "open dialog" : "save dialog", state.DialogTitle)) return false;
+    const std::optional<QString> fileName = TakeText(answers);
+    if (fileName) state.FileName = *fileName;
+    return fileName.has_value();
 }
 
 bool ScriptedDialogs::ShowOpen(QWidget* parent, FileDialogState& state) {
-    DialogCall call;
-    call.kind = DialogCall::Kind::ShowOpen;
-    call.parent = parent;
-    call.title = state.DialogTitle;
-    call.state = state;
-    Record(std::move(call));
-    return AnswerFile(openAnswers_, state, "open");
+    return AnswerFile(DialogCall::Kind::ShowOpen, parent, state);
 }
 
 bool ScriptedDialogs::ShowSave(QWidget* parent, FileDialogState& state) {
-    DialogCall call;
-    call.kind = DialogCall::Kind::ShowSave;
-    call.parent = parent;
-    call.title = state.DialogTitle;
-    call.state = state;
-    Record(std::move(call));
-    return AnswerFile(saveAnswers_, state, "save");
+    return AnswerFile(DialogCall::Kind::ShowSave, parent, state);
 }
 
 QString ScriptedDialogs::BrowseForFolder(QWidget* parent, const QString& title) {
@@ -143,10 +142,7 @@ QString ScriptedDialogs::BrowseForFolder(QWidget* parent, const QString& title) 
     call.parent = parent;
     call.title = title;
     Record(std::move(call));
-    if (folderAnswers_.empty()) {
-        ADD_FAILURE() << "unexpected folder browser, no answer queued: " << title.toStdString();
-        return QString();
-    }
+    if (!Queued(folderAnswers_, "folder browser", title)) return QString();
     QString answer = std::move(folderAnswers_.front());
     folderAnswers_.pop_front();
     return answer;

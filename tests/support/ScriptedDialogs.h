@@ -73,7 +73,8 @@ public:
 
 private:
     void Record(DialogCall call);
-    bool AnswerFile(std::deque<std::optional<QString>>& answers, FileDialogState& state, const char* what);
+    // Records a file dialog and answers it from the open or the save queue.
+    bool AnswerFile(DialogCall::Kind kind, QWidget* parent, FileDialogState& state);
 
     std::vector<DialogCall> calls_;
     std::deque<MsgAnswer> messageAnswers_;

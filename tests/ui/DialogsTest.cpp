@@ -22,6 +22,7 @@ struct FilterCase {
     const char* name;
     QString filter;
     QStringList expected;
+    friend void PrintTo(const FilterCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class NameFilters : public testing::TestWithParam<FilterCase> {};
@@ -42,7 +43,7 @@ INSTANTIATE_TEST_SUITE_P(
                     FilterCase{"SeveralPatterns", u"Text|*.txt;*.cfg"_s, {u"Text (*.txt *.cfg)"_s}},
                     FilterCase{"Empty", QString(), {}},
                     FilterCase{"DescriptionWithoutPattern", u"Lonely"_s, {}}),
-    [](const testing::TestParamInfo<FilterCase>& info) { return std::string(info.param.name); });
+    testing::PrintToStringParamName());
 
 // --- the real message box, answered by pressing its buttons
 
@@ -51,6 +52,7 @@ struct MessageCase {
     MsgButtons buttons;
     QMessageBox::StandardButton press;  // NoButton: the box is closed with Escape
     MsgAnswer expected;
+    friend void PrintTo(const MessageCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class QtMessage : public testing::TestWithParam<MessageCase> {};
@@ -88,7 +90,7 @@ INSTANTIATE_TEST_SUITE_P(
         MessageCase{"YesNoEscape", MsgButtons::YesNo, QMessageBox::NoButton, MsgAnswer::No},
         MessageCase{"YesNoCancelNo", MsgButtons::YesNoCancel, QMessageBox::No, MsgAnswer::No},
         MessageCase{"YesNoCancelEscape", MsgButtons::YesNoCancel, QMessageBox::NoButton, MsgAnswer::Cancel}),
-    [](const testing::TestParamInfo<MessageCase>& info) { return std::string(info.param.name); });
+    testing::PrintToStringParamName());
 
 TEST(QtInputBox, GivesTheTextOrNothingOnCancel) {
     QtDialogs dialogs;
@@ -105,61 +107,7 @@ TEST(QtInputBox, GivesTheTextOrNothingOnCancel) {
     EXPECT_EQ(dialogs.InputBox(nullptr, u"How many?"_s, u"Copy"_s, u"5"_s), std::nullopt);
 }
 
-// --- the scripted dialogs that the window tests rely on
-
-TEST(ScriptedDialogs, AnswersInQueueOrderAndRecordsEveryCall) {
-    ScriptedDialogs dialogs;
-    dialogs.QueueMessageAnswer(MsgAnswer::Cancel);
-    dialogs.QueueMessageAnswer(MsgAnswer::Yes);
-    dialogs.QueueInput(u"7"_s);
-    dialogs.QueueInput(std::nullopt);
-
-    EXPECT_EQ(dialogs.Message(nullptr, u"a"_s, u"T"_s, MsgIcon::Question, MsgButtons::OkCancel),
-              MsgAnswer::Cancel);
-    EXPECT_EQ(dialogs.Message(nullptr, u"b"_s, QString(), MsgIcon::None, MsgButtons::YesNo), MsgAnswer::Yes);
-    EXPECT_EQ(dialogs.Message(nullptr, u"info"_s, QString(), MsgIcon::Information, MsgButtons::Ok),
-              MsgAnswer::Ok)
-        << "a plain OK box needs no queued answer";
-    EXPECT_EQ(dialogs.InputBox(nullptr, u"p"_s, u"t"_s, u"d"_s), std::optional<QString>(u"7"_s));
-    EXPECT_EQ(dialogs.InputBox(nullptr, u"p"_s, u"t"_s, u"d"_s), std::nullopt);
-
-    ASSERT_EQ(dialogs.Messages().size(), 3u);
-    EXPECT_EQ(dialogs.Messages()[0].title, u"T"_s);
-    EXPECT_EQ(dialogs.Messages()[0].icon, MsgIcon::Question);
-    EXPECT_EQ(dialogs.Messages()[1].buttons, MsgButtons::YesNo);
-    const auto inputs = dialogs.CallsOf(DialogCall::Kind::InputBox);
-    ASSERT_EQ(inputs.size(), 2u);
-    EXPECT_EQ(inputs[0].prompt, u"p"_s);
-    EXPECT_EQ(inputs[0].defaultText, u"d"_s);
-    EXPECT_TRUE(dialogs.AllAnswersUsed());
-}
-
-TEST(ScriptedDialogs, FileDialogsWriteTheNameOnlyOnOk) {
-    ScriptedDialogs dialogs;
-    dialogs.QueueOpen(u"/tmp/a.fsq"_s);
-    dialogs.QueueSave(std::nullopt);
-    FileDialogState state{u"Open it"_s, u"X (*.x)|*.x"_s, u"/tmp"_s, u"old.fsq"_s};
-
-    EXPECT_TRUE(dialogs.ShowOpen(nullptr, state));
-    EXPECT_EQ(state.FileName, u"/tmp/a.fsq"_s);
-    EXPECT_FALSE(dialogs.ShowSave(nullptr, state));
-    EXPECT_EQ(state.FileName, u"/tmp/a.fsq"_s);
-
-    const auto opens = dialogs.CallsOf(DialogCall::Kind::ShowOpen);
-    ASSERT_EQ(opens.size(), 1u);
-    EXPECT_EQ(opens[0].state.FileName, u"old.fsq"_s) << "the state as the dialog was given it";
-    EXPECT_EQ(opens[0].state.InitDir, u"/tmp"_s);
-}
-
-TEST(ScriptedDialogs, ClipboardHoldsTextAndCanBeMadeUnreadable) {
-    ScriptedDialogs dialogs;
-    EXPECT_EQ(dialogs.ClipboardText(), std::optional<QString>(QString()));
-    dialogs.SetClipboardText(u"^1A"_s);
-    EXPECT_EQ(dialogs.ClipboardText(), std::optional<QString>(u"^1A"_s));
-    dialogs.clipboardUnreadable = true;
-    EXPECT_EQ(dialogs.ClipboardText(), std::nullopt);
-    EXPECT_EQ(dialogs.CallsOf(DialogCall::Kind::SetClipboard).size(), 1u);
-}
+// --- the scripted dialogs: a question no test expected must not pass unseen
 
 TEST(ScriptedDialogs, AnUnexpectedQuestionFailsAndIsRefused) {
     ScriptedDialogs dialogs;
