@@ -20,6 +20,9 @@ struct TypedCase {
     int caret;          // -1: at the end, where SetPreview leaves it
     const char* typed;  // "\b" is Backspace, "\r" Enter
     const char* after;
+    friend void PrintTo(const TypedCase& c, std::ostream* os) {
+        *os << c.before << " + " << testing::PrintToString(c.typed);
+    }
 };
 
 class TypedInThePane : public LinesTest, public testing::WithParamInterface<TypedCase> {};
@@ -73,6 +76,7 @@ struct ColourCase {
     int button;
     const char* typedAfter;
     const char* after;
+    friend void PrintTo(const ColourCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class ColourButton : public LinesTest, public testing::WithParamInterface<ColourCase> {};
@@ -96,14 +100,13 @@ INSTANTIATE_TEST_SUITE_P(Cases, ColourButton,
                                          ColourCase{"WhiteStretch", "^1abcd", 0, 1, 6, "", "a^1bcd"},
                                          ColourCase{"NothingSelected", "ab", 2, 0, 1, "c", "ab^2c"},
                                          ColourCase{"EmptyPane", "", 0, 0, 0, "x", "^8x"}),
-                         [](const testing::TestParamInfo<ColourCase>& info) {
-                             return std::string(info.param.name);
-                         });
+                         testing::PrintToStringParamName());
 
 struct StateCase {
     const char* name;
     std::function<void(frmMain&)> enter;
     bool reachesTheLine;
+    friend void PrintTo(const StateCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class PaneState : public LinesTest, public testing::WithParamInterface<StateCase> {};
@@ -136,7 +139,7 @@ INSTANTIATE_TEST_SUITE_P(
                                   w.lvwMain_ItemClick(1);
                               },
                               false}),
-    [](const testing::TestParamInfo<StateCase>& info) { return std::string(info.param.name); });
+    testing::PrintToStringParamName());
 
 TEST_F(LinesTest, OnlyTheCtrlKeyTakesTheFocusFromThePaneToTheList) {
     Start({"ab/15"}, 1);
@@ -161,6 +164,7 @@ struct ListKeyCase {
     TextTimes expected;
     const char* shown;
     bool message = false;
+    friend void PrintTo(const ListKeyCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class KeyInTheList : public LinesTest, public testing::WithParamInterface<ListKeyCase> {};
@@ -186,6 +190,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(ListKeyCase{"Down", kABC, 1, Qt::Key_Down, {}, kABC, "B"},
                     ListKeyCase{"Up", kABC, 3, Qt::Key_Up, {}, kABC, "B"},
                     ListKeyCase{"PageDown", kABC, 1, Qt::Key_PageDown, {}, kABC, "C"},
+                    ListKeyCase{"CtrlEnd", kABC, 1, Qt::Key_End, Qt::ControlModifier, kABC, "C"},
                     ListKeyCase{"DownAtTheEnd", kABC, 3, Qt::Key_Down, {}, kABC, "C"},
                     ListKeyCase{"Shift", kABC, 2, Qt::Key_Shift, {}, kABC, "B"},
                     ListKeyCase{"Delete", kABC, 2, Qt::Key_Delete, {}, kAC, "C"},
@@ -193,13 +198,14 @@ INSTANTIATE_TEST_SUITE_P(
                     ListKeyCase{"CtrlDelete", kABC, 2, Qt::Key_Delete, Qt::ControlModifier, kAC, "C"},
                     ListKeyCase{"DeleteTheOnly", {"^1A/10"}, 1, Qt::Key_Delete, {}, {}, "Preview"},
                     ListKeyCase{"DeleteOfNone", {}, 0, Qt::Key_Delete, {}, {}, "Preview", true}),
-    [](const testing::TestParamInfo<ListKeyCase>& info) { return std::string(info.param.name); });
+    testing::PrintToStringParamName());
 
 struct InPlaceCase {
     const char* name;
     const char* setting;
     int column;
     bool opens;
+    friend void PrintTo(const InPlaceCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class InPlaceEdit : public LinesTest, public testing::WithParamInterface<InPlaceCase> {};
@@ -229,11 +235,12 @@ TEST_P(InPlaceEdit, OpensOnlyOnTheSelectedLinesText) {
     EXPECT_EQ(PaneText(), "B");
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Cases, InPlaceEdit,
-    testing::Values(InPlaceCase{"OnText", "1", 0, true}, InPlaceCase{"OnTime", "1", 1, false},
-                    InPlaceCase{"OnAction", "1", 2, false}, InPlaceCase{"OffText", "0", 0, false}),
-    [](const testing::TestParamInfo<InPlaceCase>& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Cases, InPlaceEdit,
+                         testing::Values(InPlaceCase{"OnText", "1", 0, true},
+                                         InPlaceCase{"OnTime", "1", 1, false},
+                                         InPlaceCase{"OnAction", "1", 2, false},
+                                         InPlaceCase{"OffText", "0", 0, false}),
+                         testing::PrintToStringParamName());
 
 TEST_F(LinesTest, EditButtonOpensTheEditDialogModallyOverTheMainWindow) {
     Start(kABC, 2);

@@ -38,10 +38,18 @@ void PaintCharByChar(Pane& pane, const Runs& runs) {
     }
 }
 
+// A fresh pane over its own widget for each test.
+class RichPaneTest : public testing::Test {
+protected:
+    QTextEdit edit;
+    RichPane pane{&edit};
+};
+
 struct RunsCase {
     const char* name;
     Runs given;
     Runs expected;  // merged neighbours, empty runs gone
+    friend void PrintTo(const RunsCase& c, std::ostream* os) { *os << c.name; }
 };
 
 class RichPaneRuns : public testing::TestWithParam<RunsCase> {};
@@ -90,11 +98,9 @@ INSTANTIATE_TEST_SUITE_P(
         RunsCase{"LeadingBreakIsBlack", {{"\nx", kRed}}, {{"\n", kBlack}, {"x", kRed}}},
         // Windows-1252 bytes above 127 and the no-break space survive.
         RunsCase{"HighBytes", {{"\x80\xA0\xE9\xFF^", kWhite}}, {{"\x80\xA0\xE9\xFF^", kWhite}}}),
-    [](const testing::TestParamInfo<RunsCase>& info) { return std::string(info.param.name); });
+    testing::PrintToStringParamName());
 
-TEST(RichPane, ABulkReplacementRaisesTheChangeSignalOnce) {
-    QTextEdit edit;
-    RichPane pane(&edit);
+TEST_F(RichPaneTest, ABulkReplacementRaisesTheChangeSignalOnce) {
     pane.SetText("old");
     QSignalSpy spy(&edit, &QTextEdit::textChanged);
     Runs many;
@@ -105,29 +111,27 @@ TEST(RichPane, ABulkReplacementRaisesTheChangeSignalOnce) {
     EXPECT_EQ(spy.count(), 2);
 }
 
-TEST(RichPane, TextTypedWithoutAColourReadsBlack) {
-    QTextEdit edit;
-    RichPane pane(&edit);
+TEST_F(RichPaneTest, TextTypedWithoutAColourReadsBlack) {
     edit.insertPlainText(QStringLiteral("typed"));
     EXPECT_EQ(pane.Runs(), (Runs{{"typed", kBlack}}));
     pane.SetSelStart(0);
     EXPECT_EQ(pane.SelColor(), kBlack);
 }
 
-TEST(RichPane, ASoftLineBreakFromPastedRichTextIsABreak) {
-    QTextEdit edit;
-    RichPane pane(&edit);
+TEST_F(RichPaneTest, ASoftLineBreakFromPastedRichTextIsABreak) {
     edit.insertHtml(QStringLiteral("ab<br>cd"));
     EXPECT_EQ(pane.Text(), "ab\ncd");
     EXPECT_EQ(pane.Runs(), (Runs{{"ab\ncd", kBlack}}));
 }
 
-TEST(RichPane, SetTextIsBlackWhateverWasThereBefore) {
-    QTextEdit edit;
-    RichPane pane(&edit);
+TEST_F(RichPaneTest, SetTextIsBlackWhateverWasThereBeforeAndRunsLeaveTheCaretAtTheEnd) {
     pane.SetRuns({{"red", kRed}});
     pane.SetText("Preview");
     EXPECT_EQ(pane.Runs(), (Runs{{"Preview", kBlack}}));
+    EXPECT_EQ(pane.SelStart(), 0);
+    pane.SetRuns({{"abc", kRed}});
+    EXPECT_EQ(pane.SelStart(), 3);
+    EXPECT_EQ(pane.SelLength(), 0);
 }
 
 struct SelectionCase {
@@ -136,14 +140,13 @@ struct SelectionCase {
     int length;
     int expectedStart;
     int expectedLength;
+    friend void PrintTo(const SelectionCase& c, std::ostream* os) { *os << c.name; }
 };
 
-class RichPaneSelection : public testing::TestWithParam<SelectionCase> {};
+class RichPaneSelection : public RichPaneTest, public testing::WithParamInterface<SelectionCase> {};
 
 TEST_P(RichPaneSelection, StartAndLengthAreCutAtTheEnd) {
     const SelectionCase& c = GetParam();
-    QTextEdit edit;
-    RichPane pane(&edit);
     pane.SetText("abcde");
     pane.SetSelStart(c.start);
     pane.SetSelLength(c.length);
@@ -151,17 +154,16 @@ TEST_P(RichPaneSelection, StartAndLengthAreCutAtTheEnd) {
     EXPECT_EQ(pane.SelLength(), c.expectedLength);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Cases, RichPaneSelection,
-    testing::Values(SelectionCase{"Inside", 1, 2, 1, 2}, SelectionCase{"LengthPastEnd", 3, 10, 3, 2},
-                    SelectionCase{"StartAtEnd", 5, 1, 5, 0}, SelectionCase{"StartPastEnd", 40, 1, 5, 0},
-                    SelectionCase{"NegativeStart", -3, 1, 0, 1},
-                    SelectionCase{"NegativeLength", 2, -1, 2, 0}),
-    [](const testing::TestParamInfo<SelectionCase>& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Cases, RichPaneSelection,
+                         testing::Values(SelectionCase{"Inside", 1, 2, 1, 2},
+                                         SelectionCase{"LengthPastEnd", 3, 10, 3, 2},
+                                         SelectionCase{"StartAtEnd", 5, 1, 5, 0},
+                                         SelectionCase{"StartPastEnd", 40, 1, 5, 0},
+                                         SelectionCase{"NegativeStart", -3, 1, 0, 1},
+                                         SelectionCase{"NegativeLength", 2, -1, 2, 0}),
+                         testing::PrintToStringParamName());
 
-TEST(RichPane, SettingTheStartEndsTheSelection) {
-    QTextEdit edit;
-    RichPane pane(&edit);
+TEST_F(RichPaneTest, SettingTheStartEndsTheSelection) {
     pane.SetText("abcde");
     pane.SetSelStart(1);
     pane.SetSelLength(3);
@@ -169,9 +171,7 @@ TEST(RichPane, SettingTheStartEndsTheSelection) {
     EXPECT_EQ(pane.SelLength(), 0);
 }
 
-TEST(RichPane, ColouringASelectionChangesOnlyThoseCharacters) {
-    QTextEdit edit;
-    RichPane pane(&edit);
+TEST_F(RichPaneTest, ColouringASelectionChangesOnlyThoseCharacters) {
     pane.SetRuns({{"abcd", kWhite}});
     pane.SetSelStart(1);
     pane.SetSelLength(2);
@@ -183,9 +183,7 @@ TEST(RichPane, ColouringASelectionChangesOnlyThoseCharacters) {
     EXPECT_EQ(pane.Text(), "abcd");
 }
 
-TEST(RichPane, AColourChosenWithNothingSelectedColoursWhatIsTypedNext) {
-    QTextEdit edit;
-    RichPane pane(&edit);
+TEST_F(RichPaneTest, AColourChosenWithNothingSelectedColoursWhatIsTypedNext) {
     pane.SetRuns({{"ab", kWhite}});
     pane.SetSelStart(2);
     pane.SetSelColor(kGreen);
@@ -195,9 +193,7 @@ TEST(RichPane, AColourChosenWithNothingSelectedColoursWhatIsTypedNext) {
     EXPECT_EQ(pane.Runs(), (Runs{{"ab", kWhite}, {"xy", kGreen}}));
 }
 
-TEST(RichPane, TypingTakesTheColourOfTheCharacterInFront) {
-    QTextEdit edit;
-    RichPane pane(&edit);
+TEST_F(RichPaneTest, TypingTakesTheColourOfTheCharacterInFront) {
     pane.SetRuns({{"ab", kRed}, {"cd", kGreen}});
     pane.SetSelStart(2);
     EXPECT_EQ(pane.SelColor(), kRed);
@@ -205,9 +201,7 @@ TEST(RichPane, TypingTakesTheColourOfTheCharacterInFront) {
     EXPECT_EQ(pane.Runs(), (Runs{{"abx", kRed}, {"cd", kGreen}}));
 }
 
-TEST(RichPane, SelTextReplacesTheSelectionInTheColourJustGiven) {
-    QTextEdit edit;
-    RichPane pane(&edit);
+TEST_F(RichPaneTest, SelTextReplacesTheSelectionInTheColourJustGiven) {
     pane.SetRuns({{"abcd", kWhite}});
     pane.SetSelStart(1);
     pane.SetSelLength(2);
@@ -224,16 +218,15 @@ struct CaretColourCase {
     bool choose;    // SetSelColor(green) at the caret before reading
     bool moveAway;  // then the caret moves and comes back
     Colour expected;
+    friend void PrintTo(const CaretColourCase& c, std::ostream* os) { *os << c.name; }
 };
 
-class RichPaneCaretColour : public testing::TestWithParam<CaretColourCase> {};
+class RichPaneCaretColour : public RichPaneTest, public testing::WithParamInterface<CaretColourCase> {};
 
 // With nothing selected the colour read, and inserted by SelText, is the one
 // chosen at this caret, else the colour of the character in front, else black.
 TEST_P(RichPaneCaretColour, ReadAndInsertedAlike) {
     const CaretColourCase& c = GetParam();
-    QTextEdit edit;
-    RichPane pane(&edit);
     pane.SetRuns({{"ab", kRed}, {"cd", kWhite}});
     pane.SetSelStart(c.caret);
     if (c.choose) pane.SetSelColor(kGreen);
@@ -255,23 +248,9 @@ INSTANTIATE_TEST_SUITE_P(Cases, RichPaneCaretColour,
                                          CaretColourCase{"ChosenAtStart", 0, true, false, kGreen},
                                          CaretColourCase{"ChosenInside", 2, true, false, kGreen},
                                          CaretColourCase{"ChosenThenMoved", 2, true, true, kRed}),
-                         [](const testing::TestParamInfo<CaretColourCase>& info) {
-                             return std::string(info.param.name);
-                         });
+                         testing::PrintToStringParamName());
 
-TEST(RichPane, SetTextPutsTheCaretAtTheStartAndRunsAtTheEnd) {
-    QTextEdit edit;
-    RichPane pane(&edit);
-    pane.SetText("Preview");
-    EXPECT_EQ(pane.SelStart(), 0);
-    pane.SetRuns({{"abc", kRed}});
-    EXPECT_EQ(pane.SelStart(), 3);
-    EXPECT_EQ(pane.SelLength(), 0);
-}
-
-TEST(RichPane, AnEmptySelTextAtTheEndChangesNothing) {
-    QTextEdit edit;
-    RichPane pane(&edit);
+TEST_F(RichPaneTest, AnEmptySelTextAtTheEndChangesNothing) {
     pane.SetText("ab");
     QSignalSpy spy(&edit, &QTextEdit::textChanged);
     pane.SetSelStart(2);
@@ -280,9 +259,7 @@ TEST(RichPane, AnEmptySelTextAtTheEndChangesNothing) {
     EXPECT_EQ(pane.Text(), "ab");
 }
 
-TEST(RichPane, LockedKeepsTheUserOutButNotTheRoutines) {
-    QTextEdit edit;
-    RichPane pane(&edit);
+TEST_F(RichPaneTest, LockedKeepsTheUserOutButNotTheRoutines) {
     pane.SetLocked(true);
     EXPECT_TRUE(pane.Locked());
     EXPECT_TRUE(edit.isReadOnly());
@@ -295,9 +272,7 @@ TEST(RichPane, LockedKeepsTheUserOutButNotTheRoutines) {
 }
 
 // Playback replaces the content ten times a second; no history may pile up.
-TEST(RichPane, AReplacementOfTheWholeContentLeavesNoHistory) {
-    QTextEdit edit;
-    RichPane pane(&edit);
+TEST_F(RichPaneTest, AReplacementOfTheWholeContentLeavesNoHistory) {
     QTest::keyClicks(&edit, QStringLiteral("typed"));
     ASSERT_TRUE(edit.document()->isUndoAvailable());
     pane.SetRuns({{"frame", kRed}});
