@@ -13,14 +13,14 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
     fs::AnimationScript script;
-    script.AppendLine("left over", "1", "[none]");
+    // A line the import can't make: it takes every double quote out.
+    script.AppendLine("left \"over\"", "1", "[none]");
     const fs::LoadStatus status = fs::ImportBytes(bytes, script);
     FUZZ_CHECK(status != fs::LoadStatus::ReadFailed);
     FUZZ_CHECK(script.Count() <= fs::kMaxLines);
     if (status == fs::LoadStatus::Truncated) FUZZ_CHECK(script.Count() == fs::kMaxLines);
     for (int i = 1; i <= script.Count(); ++i) {
         const fs::AnimationLine& line = script.LineAt(i);
-        FUZZ_CHECK(line.Text != "left over" || line.Time != "1");
         FUZZ_CHECK(line.Text.find('"') == std::string_view::npos);
         FUZZ_CHECK(line.Text.find('\r') == std::string_view::npos);
         FUZZ_CHECK(line.Action == "[none]");

@@ -19,7 +19,7 @@ namespace {
 constexpr std::size_t kMaxText = 64;
 constexpr std::size_t kMaxRows = 4;
 // A repeat count above this is answered No, so that one input stays quick.
-constexpr int kMaxRepeatsAnsweredYes = 40;
+constexpr int kMaxRepeatsAnsweredYes = 400;
 
 const char* const kEffectNames[] = {"Wave forward", "Wave 2", "Bounce", "bounce", ""};
 
