@@ -1,9 +1,13 @@
 // Each menu entry of the main window opens its own modal window.
 #include <QAbstractButton>
 #include <QApplication>
+#include <QSignalSpy>
+#include <QTest>
 #include <QTimer>
+#include <functional>
 
 #include "MainWindowFixture.h"
+#include "ui/LineListView.h"
 
 namespace fs::ui::testing_support {
 namespace {
@@ -12,9 +16,9 @@ using namespace Qt::StringLiterals;
 
 class WindowOpeners : public MainWindowTest {
 protected:
-    // Triggers the action and gives back the objectName of the modal window
-    // that came up (which is then closed), or an empty text.
-    QString OpenedBy(const QString& actionName) {
+    // Does `act` and gives back the objectName of the modal window that came
+    // up (which is then closed), or an empty text.
+    QString OpenedBy(const std::function<void()>& act) {
         QString opened;
         QTimer::singleShot(0, [&opened] {
             if (QWidget* modal = QApplication::activeModalWidget()) {
@@ -22,10 +26,15 @@ protected:
                 modal->close();
             }
         });
+        act();
+        return opened;
+    }
+    QString OpenedBy(const QString& actionName) {
         QAction* action = Named(actionName);
         EXPECT_TRUE(action && action->isEnabled()) << actionName.toStdString();
-        if (action) action->trigger();
-        return opened;
+        return OpenedBy([action] {
+            if (action) action->trigger();
+        });
     }
 };
 
@@ -44,6 +53,15 @@ TEST_F(WindowOpeners, EachMenuEntryOpensItsWindow) {
         EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     }
     EXPECT_TRUE(dialogs.Calls().empty());
+}
+
+TEST_F(WindowOpeners, F1OpensAboutNotHelp) {
+    window->show();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    QSignalSpy help(Named(u"mnuHelpHelp"_s), &QAction::triggered);
+    EXPECT_EQ(OpenedBy([this] { QTest::keyClick(window->ListView(), Qt::Key_F1); }), u"frmAbout"_s);
+    EXPECT_EQ(help.count(), 0);
 }
 
 TEST_F(WindowOpeners, OptionsOkAppliesTheSettingsAtOnce) {
