@@ -17,10 +17,11 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER "${CPACK_PACKAGE_CONTACT}")
 set(CPACK_DEBIAN_PACKAGE_SECTION games)
 set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "https://www.qzt-clan.example/flickerscribe")
-# The Qt 6 runtime of Debian 12: the libraries the program links, plus the
-# SVG icon engine and the platform plugins it loads at run time. dpkg-shlibdeps
-# adds libc, libstdc++ and the library versions.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6core6 (>= 6.2), libqt6gui6 (>= 6.2), libqt6widgets6 (>= 6.2), libqt6svg6 (>= 6.2), qt6-qpa-plugins")
+# The Qt 6 runtime of Debian 12. dpkg-shlibdeps adds what the programs link
+# (libqt6core6, libqt6gui6, libqt6widgets6, libc6, libstdc++6) with their
+# versions; the SVG icon engine and the platform plugins are loaded at run
+# time, so they are named here.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6svg6 (>= 6.2), qt6-qpa-plugins")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 
 include(CPack)
