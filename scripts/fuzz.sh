@@ -9,6 +9,6 @@ seconds="${1:-20}"
 build="${FS_FUZZ_BUILD:-build/fuzz}"
 
 cmake -S fuzz -B "$build" -G Ninja -DCMAKE_CXX_COMPILER=clang++-14 \
-      -DCMAKE_BUILD_TYPE=RelWithDebInfo -DFUZZ_SECONDS="$seconds" >/dev/null
+      -DCMAKE_BUILD_TYPE=Fuzz -DFUZZ_SECONDS="$seconds" >/dev/null
 cmake --build "$build" -j2
 ctest --test-dir "$build" -j2 --output-on-failure
