@@ -7,6 +7,8 @@
 #include <array>
 #include <cerrno>
 #include <cstring>
+#include <string>
+#include <tuple>
 
 #include "FileTestSupport.h"
 #include "MainWindowFixture.h"
@@ -121,6 +123,17 @@ INSTANTIATE_TEST_SUITE_P(
         DialogCase{Command::SaveScript, u"save Save Script"_s, kCfgOrAll, u"/o"_s, u"/s"_s, u"/s"_s},
         DialogCase{Command::SaveScript, u"save Save Script"_s, kCfgOrAll, u"/o"_s, {}, u"/last"_s}));
 
+// A row of a combined table named by its values, such as "Open_Folder".
+const auto kRowName = [](const auto& info) {
+    std::string name;
+    std::apply(
+        [&name](const auto&... value) {
+            ((name += (name.empty() ? "" : "_") + testing::PrintToString(value)), ...);
+        },
+        info.param);
+    return name;
+};
+
 enum class Missing { NoSuchFile, Folder, Unreadable };
 void PrintTo(Missing missing, std::ostream* os) {
     *os << std::array{"NoSuchFile", "Folder", "Unreadable"}[static_cast<std::size_t>(missing)];
@@ -146,7 +159,8 @@ TEST_P(MissingFiles, AreNotFoundAndLeaveTheList) {
 INSTANTIATE_TEST_SUITE_P(Table, MissingFiles,
                          testing::Combine(testing::Values(Command::Open, Command::Import),
                                           testing::Values(Missing::NoSuchFile, Missing::Folder,
-                                                          Missing::Unreadable)));
+                                                          Missing::Unreadable)),
+                         kRowName);
 
 class Overwrite : public FileCommands, public testing::WithParamInterface<std::tuple<Command, MsgAnswer>> {};
 
@@ -172,7 +186,8 @@ TEST_P(Overwrite, OnlyYesReplacesTheFileAndNoShowsTheDialogAgainWithTheLastName)
 
 INSTANTIATE_TEST_SUITE_P(Table, Overwrite,
                          testing::Combine(testing::Values(Command::SaveAs, Command::SaveScript),
-                                          testing::Values(MsgAnswer::Yes, MsgAnswer::No, MsgAnswer::Cancel)));
+                                          testing::Values(MsgAnswer::Yes, MsgAnswer::No, MsgAnswer::Cancel)),
+                         kRowName);
 
 class FailedSave : public FileCommands, public testing::WithParamInterface<std::tuple<Command, bool>> {};
 
@@ -201,7 +216,8 @@ TEST_P(FailedSave, KeepsTheOldFileAndTheTextAndTellsTheError) {
 
 INSTANTIATE_TEST_SUITE_P(Table, FailedSave,
                          testing::Combine(testing::Values(Command::SaveAs, Command::SaveScript),
-                                          testing::Bool()));
+                                          testing::Bool()),
+                         kRowName);
 
 TEST_F(FileCommands, SaveAsOpenAndImportOfASavedScriptGiveTheLinesBackAndLeaveThePane) {
     const Lines lines{{"^1Hi", "15"}, {"\xE9 x", "abc", "kept out"}};
@@ -235,7 +251,8 @@ TEST_P(TooLong, KeepsTheFirstLinesAndSaysSo) {
     EXPECT_EQ(dialogs.Messages().back().title, u"Line limit reached"_s);
 }
 
-INSTANTIATE_TEST_SUITE_P(Table, TooLong, testing::Values(Command::Open, Command::Import));
+INSTANTIATE_TEST_SUITE_P(Table, TooLong, testing::Values(Command::Open, Command::Import),
+                         testing::PrintToStringParamName());
 
 }  // namespace
 }  // namespace fs::ui
