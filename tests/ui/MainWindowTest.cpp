@@ -139,11 +139,10 @@ TEST_F(MainWindow, MenusHoldTheirEntriesInOrder) {
         for (qsizetype i = 0; i < actions.size(); ++i) {
             const EntryRow& row = c.entries[std::size_t(i)];
             SCOPED_TRACE(row.name);
-            EXPECT_EQ(actions[i]->isSeparator() ? u"-"_s : actions[i]->objectName(),
-                      QString::fromLatin1(row.name));
+            EXPECT_EQ(actions[i]->isSeparator() ? "-" : actions[i]->objectName().toStdString(), row.name);
             if (actions[i]->isSeparator()) continue;
-            EXPECT_EQ(actions[i]->text(), QString::fromLatin1(row.caption));
-            EXPECT_EQ(actions[i]->shortcut(), row.shortcut);
+            EXPECT_EQ(actions[i]->text().toStdString(), row.caption);
+            EXPECT_EQ(actions[i]->shortcut().toString().toStdString(), row.shortcut.toString().toStdString());
         }
     }
 }
