@@ -1,15 +1,19 @@
 #!/usr/bin/env bash
 # Starts the real program on a private X server, waits for its main window,
 # takes a screenshot of the screen and checks that the window was painted,
-# then ends the program. Every wait is bounded, so the test never hangs.
+# then closes the window by its close box and checks that the program ends by
+# itself and without an error (in a sanitizer build, that includes the leak
+# check at its end). Every wait is bounded, so the test never hangs.
 #
-# Usage: run_under_xvfb.sh PROGRAM [SCREENSHOT.png]
+# Usage: run_under_xvfb.sh CLOSE_WINDOW PROGRAM [SCREENSHOT.png]
+#   CLOSE_WINDOW is tests/display/close_window.cpp, built.
 # Needs xvfb-run (xvfb, xauth), xwininfo (x11-utils) and import/identify
 # (imagemagick).
 set -euo pipefail
 
-program="$1"
-shot="${2:-}"
+closer="$1"
+program="$2"
+shot="${3:-}"
 title="Flickerscribe - by [QZT]Quillon"
 
 if [ -z "${FS_UNDER_XVFB:-}" ]; then
@@ -40,15 +44,16 @@ export QT_QPA_PLATFORM=xcb
 pid=$!
 
 # Wait up to 30 s for the main window to be mapped.
-found=""
+window=""
 for _ in $(seq 300); do
   if ! kill -0 "$pid" 2>/dev/null; then
     echo "the program ended before its window showed:"; cat "$work/program.log"; exit 1
   fi
-  if xwininfo -root -tree 2>/dev/null | grep -F "\"$title\"" >/dev/null; then found=1; break; fi
+  window="$(xwininfo -root -tree 2>/dev/null | grep -F "\"$title\"" | awk '{print $1; exit}')" || true
+  [ -n "$window" ] && break
   sleep 0.1
 done
-[ -n "$found" ] || { echo "no window titled '$title' within 30 s"; exit 1; }
+[ -n "$window" ] || { echo "no window titled '$title' within 30 s"; exit 1; }
 
 # Painted means more than a handful of colours on the screen (an empty X
 # screen is one colour); painting can follow the mapping by a moment.
@@ -64,4 +69,18 @@ echo "window '$title' shown; screenshot has $colours colours"
 [ "$colours" -gt 16 ] || { echo "the window was not painted"; exit 1; }
 
 kill -0 "$pid" 2>/dev/null || { echo "the program ended while showing"; exit 1; }
+
+# The close box: the program ends by itself, with status 0.
+"$closer" "$window"
+for _ in $(seq 300); do kill -0 "$pid" 2>/dev/null || break; sleep 0.1; done
+if kill -0 "$pid" 2>/dev/null; then
+  echo "the program did not end within 30 s of its window's close"; exit 1
+fi
+status=0
+wait "$pid" || status=$?
+pid=""
+if [ "$status" -ne 0 ]; then
+  echo "the program ended with status $status:"; cat "$work/program.log"; exit 1
+fi
+echo "closed; the program ended with status 0"
 echo "ok"
