@@ -5,7 +5,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
@@ -18,6 +17,8 @@
 #include <array>
 #include <cstdlib>
 #include <functional>
+#include <utility>
+#include <vector>
 
 #include "FileTestSupport.h"
 #include "MainWindowFixture.h"
@@ -54,6 +55,17 @@ protected:
         window->resize(640, 480);
         window->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        // Whatever modal window a command opens is noted, used by `onModal`
+        // (when set) and closed again.
+        closer.setInterval(5);
+        QObject::connect(&closer, &QTimer::timeout, [this] {
+            QWidget* modal = QApplication::activeModalWidget();
+            if (modal == nullptr) return;
+            modalsSeen << modal->objectName();
+            if (onModal) onModal(modal);
+            modal->close();
+        });
+        closer.start();
     }
 
     QString PathOf(const QString& name) const { return folder.filePath(name); }
@@ -70,24 +82,43 @@ protected:
     // `path` through its own Save entry and closes it.
     QString GenerateAndSave(const QString& path) {
         QString shown;
-        int polls = 0;
-        QTimer poll;
-        poll.setInterval(10);
-        QObject::connect(&poll, &QTimer::timeout, [&] {
-            auto* script = qobject_cast<frmScript*>(QApplication::activeModalWidget());
-            if (script == nullptr) {
-                if (++polls > 500) poll.stop();  // never wait for ever; the checks below fail
-                return;
+        onModal = [&](QWidget* modal) {
+            if (auto* script = qobject_cast<frmScript*>(modal)) {
+                shown = script->ScriptBox()->toPlainText();
+                dialogs.QueueSave(path);
+                script->findChild<QAction*>(u"mnuSave"_s)->trigger();
             }
-            poll.stop();
-            shown = script->ScriptBox()->toPlainText();
-            dialogs.QueueSave(path);
-            script->findChild<QAction*>(u"mnuSave"_s)->trigger();
-            script->close();
-        });
-        poll.start();
-        Named(u"btngenerate"_s)->trigger();
+        };
+        Give(u"btngenerate"_s);
+        onModal = nullptr;
         return shown;
+    }
+
+    // In the open wizard: on to the names page, types each (box, text) in
+    // turn, on to the effects page, and adds `effects` there. Gives back the
+    // wizard, or null when it is not where it should be.
+    frmWizard* FillWizard(const std::vector<std::pair<QString, QString>>& typed, const QStringList& effects) {
+        auto* wizard = window->findChild<frmWizard*>();
+        if (wizard == nullptr) return nullptr;
+        auto* next = wizard->findChild<QPushButton*>(u"cmdNext"_s);
+        QTest::mouseClick(next, Qt::LeftButton);
+        QTest::mouseClick(next, Qt::LeftButton);
+        wizard->activateWindow();
+        if (wizard->CurrentPage() != 3 || !QTest::qWaitFor([&] { return wizard->isActiveWindow(); }))
+            return nullptr;
+        for (const auto& [box, text] : typed) {
+            auto* edit = wizard->findChild<QLineEdit*>(box);
+            edit->setFocus(Qt::MouseFocusReason);  // a click into a box chooses its option
+            QTest::keyClicks(edit, text);
+        }
+        QTest::mouseClick(next, Qt::LeftButton);
+        if (next->text() != u"Finish"_s) return nullptr;
+        auto* list = wizard->findChild<QComboBox*>(u"cmbEffects"_s);
+        for (const QString& effect : effects) {
+            list->setCurrentIndex(list->findText(effect));
+            QTest::mouseClick(wizard->findChild<QPushButton*>(u"cmdAddEffect"_s), Qt::LeftButton);
+        }
+        return wizard;
     }
 
     // The script the command-line program writes for a project file.
@@ -109,19 +140,20 @@ protected:
         action->trigger();
     }
 
-    // Every command the window offers: its enabled, named actions that are
-    // neither separators nor the menus' own entries.
+    // Every command the window offers: its enabled, named actions other than
+    // separators (the menus' own entries carry no name).
     QSet<QString> Offered() const {
         QSet<QString> names;
-        for (QAction* action : window->findChildren<QAction*>()) {
-            if (action->objectName().isEmpty() || action->isSeparator() || !action->isEnabled()) continue;
-            if (action->menu() != nullptr && action->objectName() != u"btnadd"_s) continue;
-            names << action->objectName();
-        }
+        for (QAction* action : window->findChildren<QAction*>())
+            if (!action->objectName().isEmpty() && !action->isSeparator() && action->isEnabled())
+                names << action->objectName();
         return names;
     }
 
     QTemporaryDir folder;
+    QTimer closer;
+    std::function<void(QWidget*)> onModal;
+    QStringList modalsSeen;
     QSet<QString> given;
 };
 
@@ -129,37 +161,18 @@ protected:
 // saved script holds every line by the generator's rules and is the same
 // file that the command-line program makes of the animation's project file.
 TEST_F(EndToEnd, FromTheWizardToTheSavedScript) {
-    Named(u"btnwizard"_s)->trigger();
-    QPointer<frmWizard> wizard = window->findChild<frmWizard*>();
+    Give(u"btnwizard"_s);
+    // Into the tag box first: that chooses "Clantag and Name".
+    QPointer<frmWizard> wizard = FillWizard({{u"txtClanTag"_s, u"[Q]"_s}, {u"txtNameOnly_1"_s, u"^1Kat"_s}},
+                                            {u"Wave 2"_s, u"Bounce"_s});
     ASSERT_FALSE(wizard.isNull());
-    auto* next = wizard->findChild<QPushButton*>(u"cmdNext"_s);
-    QTest::mouseClick(next, Qt::LeftButton);
-    QTest::mouseClick(next, Qt::LeftButton);
-    ASSERT_EQ(wizard->CurrentPage(), 3);
-    // Into the tag box: that chooses "Clantag and Name".
-    auto* tag = wizard->findChild<QLineEdit*>(u"txtClanTag"_s);
-    wizard->activateWindow();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return wizard->isActiveWindow(); }));
-    tag->setFocus(Qt::MouseFocusReason);
-    QTest::keyClicks(tag, u"[Q]"_s);
-    QTest::keyClicks(wizard->findChild<QLineEdit*>(u"txtNameOnly_1"_s), u"^1Kat"_s);
     ASSERT_TRUE(wizard->findChild<QRadioButton*>(u"optNameOnly_1"_s)->isChecked());
-    QTest::mouseClick(next, Qt::LeftButton);
-    ASSERT_EQ(next->text(), u"Finish"_s);
-
-    auto* effects = wizard->findChild<QComboBox*>(u"cmbEffects"_s);
-    auto* add = wizard->findChild<QPushButton*>(u"cmdAddEffect"_s);
-    auto* rows = wizard->findChild<QTreeWidget*>(u"lvwEffects"_s);
-    effects->setCurrentIndex(effects->findText(u"Wave 2"_s));
-    QTest::mouseClick(add, Qt::LeftButton);
-    effects->setCurrentIndex(effects->findText(u"Bounce"_s));
-    QTest::mouseClick(add, Qt::LeftButton);
-    ASSERT_EQ(rows->topLevelItemCount(), 2);
+    ASSERT_EQ(wizard->findChild<QTreeWidget*>(u"lvwEffects"_s)->topLevelItemCount(), 2);
     wizard->lvwEffects_ItemClick(1);
     auto* repeat = wizard->findChild<QLineEdit*>(u"txtParam1"_s);
     repeat->selectAll();
     QTest::keyClicks(repeat, u"1"_s);
-    QTest::mouseClick(next, Qt::LeftButton);
+    QTest::mouseClick(wizard->findChild<QPushButton*>(u"cmdNext"_s), Qt::LeftButton);
     ASSERT_TRUE(QTest::qWaitFor([&] { return wizard.isNull(); }, 2000));
     EXPECT_TRUE(dialogs.Messages().empty()) << "a repeat of 1 asks nothing";
 
@@ -273,40 +286,14 @@ TEST_F(EndToEnd, AnEditInThePaneSurvivesSaveAndOpen) {
 // no command leaks or touches freed memory; in every build it shows that no
 // command is left out of it.
 TEST_F(EndToEnd, OneSessionGivesEveryCommand) {
-    // Whatever modal window a command opens is used by `onModal` (when set)
-    // and closed again.
-    QStringList modalsSeen;
-    std::function<void(QWidget*)> onModal;
-    QTimer closer;
-    closer.setInterval(5);
-    QObject::connect(&closer, &QTimer::timeout, [&] {
-        QWidget* modal = QApplication::activeModalWidget();
-        if (modal == nullptr) return;
-        modalsSeen << modal->objectName();
-        if (onModal) onModal(modal);
-        modal->close();
-    });
-    closer.start();
-
     const QSet<QString> offered = Offered();
     ASSERT_GT(offered.size(), 25);
 
     // The wizard makes the first animation: a name with "Wave 2".
     Give(u"btnwizard"_s);
-    QPointer<frmWizard> wizard = window->findChild<frmWizard*>();
+    QPointer<frmWizard> wizard = FillWizard({{u"txtNameOnly_0"_s, u"^1Kat^2ryn"_s}}, {u"Wave 2"_s});
     ASSERT_FALSE(wizard.isNull());
-    auto* next = wizard->findChild<QPushButton*>(u"cmdNext"_s);
-    QTest::mouseClick(next, Qt::LeftButton);
-    QTest::mouseClick(next, Qt::LeftButton);
-    wizard->activateWindow();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return wizard->isActiveWindow(); }));
-    QTest::keyClicks(wizard->findChild<QLineEdit*>(u"txtNameOnly_0"_s), u"^1Kat^2ryn"_s);
-    QTest::mouseClick(next, Qt::LeftButton);
-    ASSERT_EQ(wizard->CurrentPage(), 4);
-    auto* effects = wizard->findChild<QComboBox*>(u"cmbEffects"_s);
-    effects->setCurrentIndex(effects->findText(u"Wave 2"_s));
-    QTest::mouseClick(wizard->findChild<QPushButton*>(u"cmdAddEffect"_s), Qt::LeftButton);
-    QTest::mouseClick(next, Qt::LeftButton);
+    QTest::mouseClick(wizard->findChild<QPushButton*>(u"cmdNext"_s), Qt::LeftButton);
     ASSERT_TRUE(QTest::qWaitFor([&] { return wizard.isNull(); }, 2000));
     ASSERT_GT(Script().Count(), 4);
 
@@ -360,14 +347,7 @@ TEST_F(EndToEnd, OneSessionGivesEveryCommand) {
 
     // Generate, saving the script from its window.
     const QString saved = PathOf(u"session.cfg"_s);
-    onModal = [&](QWidget* modal) {
-        if (auto* script = qobject_cast<frmScript*>(modal)) {
-            dialogs.QueueSave(saved);
-            script->findChild<QAction*>(u"mnuSave"_s)->trigger();
-        }
-    };
-    Give(u"btngenerate"_s);
-    onModal = nullptr;
+    GenerateAndSave(saved);
     EXPECT_NE(ReadBytes(saved).find("set name \"^1Old\""), std::string::npos);
 
     // The other windows, each opened and closed.

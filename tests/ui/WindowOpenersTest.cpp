@@ -1,4 +1,5 @@
-// Each menu entry of the main window opens its own modal window.
+// Keys and settings around the main window's other windows. That each menu
+// entry opens its window is checked by the end-to-end session of every command.
 #include <QAbstractButton>
 #include <QApplication>
 #include <QSignalSpy>
@@ -29,31 +30,7 @@ protected:
         act();
         return opened;
     }
-    QString OpenedBy(const QString& actionName) {
-        QAction* action = Named(actionName);
-        EXPECT_TRUE(action && action->isEnabled()) << actionName.toStdString();
-        return OpenedBy([action] {
-            if (action) action->trigger();
-        });
-    }
 };
-
-TEST_F(WindowOpeners, EachMenuEntryOpensItsWindow) {
-    const struct {
-        const char16_t* action;
-        const char16_t* window;
-    } cases[] = {
-        {u"mnuHelpColor", u"frmColorEditor"}, {u"mnuEditSimple", u"frmSimpleEdit"},
-        {u"mnuEditOptions", u"frmOptions"},   {u"mnuHelpHelp", u"frmHelp"},
-        {u"mnuHelpAbout", u"frmAbout"},
-    };
-    window->show();
-    for (const auto& c : cases) {
-        EXPECT_EQ(OpenedBy(QString::fromUtf16(c.action)), QString::fromUtf16(c.window));
-        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-    }
-    EXPECT_TRUE(dialogs.Calls().empty());
-}
 
 TEST_F(WindowOpeners, F1OpensAboutNotHelp) {
     window->show();
