@@ -303,6 +303,7 @@ TEST_F(EndToEnd, OneSessionGivesEveryCommand) {
     for (int tick = 0; tick <= Script().Count() && window->Playing(); ++tick) window->timAni_Timer();
     EXPECT_FALSE(window->Playing());
     Give(u"btnpreview"_s);
+    EXPECT_TRUE(window->Playing());
     window->timAni_Timer();
     Give(u"btnpreview"_s);
     EXPECT_FALSE(window->Playing());
@@ -316,11 +317,15 @@ TEST_F(EndToEnd, OneSessionGivesEveryCommand) {
 
     // Editing in the pane with the colour strip shown, then hidden again.
     Give(u"mnuEditShowColors"_s);
+    EXPECT_TRUE(window->ColorsVisible());
+    EXPECT_TRUE(Named(u"mnuEditShowColors"_s)->isChecked());
     window->lvwMain_ItemClick(1);
     window->PreviewEdit()->setFocus();
     QTest::keyClicks(window->PreviewEdit(), u"abc"_s);
     QTest::mouseClick(window->findChild<QPushButton*>(u"cmdColor_3"_s), Qt::LeftButton);
     Give(u"mnuEditShowColors"_s);
+    EXPECT_FALSE(window->ColorsVisible());
+    EXPECT_FALSE(Named(u"mnuEditShowColors"_s)->isChecked());
     Give(u"btnedit"_s);
 
     // Files: save, start anew, open it back, import a game script.
@@ -334,6 +339,8 @@ TEST_F(EndToEnd, OneSessionGivesEveryCommand) {
     dialogs.QueueMessageAnswer(MsgAnswer::Yes);  // "File exists! Overwrite?"
     Give(u"btnsave"_s);
     Give(u"btnnew"_s);
+    EXPECT_EQ(Script().Count(), 0);
+    Script().AppendLine("a", "15", "[none]");
     Give(u"mnuFileNew"_s);
     EXPECT_EQ(Script().Count(), 0);
     dialogs.QueueOpen(fsq);

@@ -227,28 +227,6 @@ TEST_F(MainWindow, ButtonKeysReachTheirCommands) {
     EXPECT_FALSE(window->Playing());
 }
 
-TEST_F(MainWindow, ToolbarAndMenuEntriesCallTheirCommands) {
-    AddLines({"a"});
-    Named(u"btnnew"_s)->trigger();
-    EXPECT_EQ(Script().Count(), 0);
-    AddLines({"a"});
-    Named(u"mnuFileNew"_s)->trigger();
-    EXPECT_EQ(Script().Count(), 0);
-
-    AddLines({"a"});
-    Named(u"btnpreview"_s)->trigger();
-    EXPECT_TRUE(window->Playing());
-    Named(u"btnpreview"_s)->trigger();
-    EXPECT_FALSE(window->Playing());
-
-    Named(u"mnuEditShowColors"_s)->trigger();
-    EXPECT_TRUE(window->ColorsVisible());
-    EXPECT_TRUE(Named(u"mnuEditShowColors"_s)->isChecked());
-    Named(u"mnuEditShowColors"_s)->trigger();
-    EXPECT_FALSE(window->ColorsVisible());
-    EXPECT_FALSE(Named(u"mnuEditShowColors"_s)->isChecked());
-}
-
 // --- New and SetPreview
 
 TEST_F(MainWindow, NewEmptiesTheListAndLeavesThePaneAsItWas) {
