@@ -10,8 +10,8 @@
 #include <string>
 #include <tuple>
 
+#include "FileCommandFixture.h"
 #include "FileTestSupport.h"
-#include "MainWindowFixture.h"
 #include "document/SafeWrite.h"
 #include "ui/LineListView.h"
 #include "ui/frmScript.h"
@@ -29,46 +29,15 @@ using namespace testing_support;
 using namespace Qt::Literals::StringLiterals;
 using Lines = std::vector<AnimationLine>;
 
-enum class Command { Open, SaveAs, Import, SaveScript };
-void PrintTo(Command command, std::ostream* os) {
-    *os << std::array{"Open", "SaveAs", "Import", "SaveScript"}[static_cast<std::size_t>(command)];
-}
-
-class FileCommands : public MainWindowTest {
+class FileCommands : public FileCommandTest {
 protected:
     void TearDown() override { write_seam::Reset(); }
 
-    frmScript& ScriptWindow() {
-        if (!scriptWindow) {
-            scriptWindow = std::make_unique<frmScript>(Script(), dialogs, window->Settings(), window.get());
-            scriptWindow->Form_Load();
-        }
-        return *scriptWindow;
-    }
-    // Runs the command with these answers queued for its file dialog.
-    void Run(Command command, const std::vector<std::optional<QString>>& files) {
-        const bool save = command == Command::SaveAs || command == Command::SaveScript;
-        for (const auto& file : files) save ? dialogs.QueueSave(file) : dialogs.QueueOpen(file);
-        switch (command) {
-            case Command::Open:
-                return window->OpenAnimation();
-            case Command::SaveAs:
-                return window->SaveAnimationAs();
-            case Command::Import:
-                return window->ImportScript();
-            case Command::SaveScript:
-                return ScriptWindow().SaveScript();
-        }
-    }
     Lines ScriptLines() {
         Lines out;
         for (int i = 1; i <= Script().Count(); ++i) out.push_back(Script().LineAt(i));
         return out;
     }
-    QString PathOf(const QString& name) const { return dir.filePath(name); }
-
-    QTemporaryDir dir;
-    std::unique_ptr<frmScript> scriptWindow;
 };
 
 struct DialogCase {

@@ -12,8 +12,8 @@
 #include <cstring>
 #include <random>
 
+#include "FileCommandFixture.h"
 #include "FileTestSupport.h"
-#include "MainWindowFixture.h"
 #include "colour/ColouredText.h"
 #include "document/TextFile.h"
 #include "script/ScriptText.h"
@@ -26,43 +26,13 @@ namespace {
 using namespace testing_support;
 using namespace Qt::Literals::StringLiterals;
 
-enum class Command { Open, SaveAs, Import, SaveScript };
-void PrintTo(Command command, std::ostream* os) {
-    *os << std::array{"Open", "SaveAs", "Import", "SaveScript"}[static_cast<std::size_t>(command)];
-}
-
-class HostileInput : public MainWindowTest {
+class HostileInput : public FileCommandTest {
 protected:
-    frmScript& ScriptWindow() {
-        if (!scriptWindow) {
-            scriptWindow = std::make_unique<frmScript>(Script(), dialogs, window->Settings(), window.get());
-            scriptWindow->Form_Load();
-        }
-        return *scriptWindow;
-    }
-    // Runs the command with this answer queued for its file dialog.
-    void Run(Command command, const QString& file) {
-        const bool save = command == Command::SaveAs || command == Command::SaveScript;
-        save ? dialogs.QueueSave(file) : dialogs.QueueOpen(file);
-        switch (command) {
-            case Command::Open:
-                return window->OpenAnimation();
-            case Command::SaveAs:
-                return window->SaveAnimationAs();
-            case Command::Import:
-                return window->ImportScript();
-            case Command::SaveScript:
-                return ScriptWindow().SaveScript();
-        }
-    }
     std::vector<std::string> Texts() {
         std::vector<std::string> out;
         for (int i = 1; i <= Script().Count(); ++i) out.push_back(Script().LineAt(i).Text);
         return out;
     }
-
-    QTemporaryDir dir;
-    std::unique_ptr<frmScript> scriptWindow;
 };
 
 class FolderAsFile : public HostileInput, public testing::WithParamInterface<Command> {};
@@ -72,7 +42,7 @@ TEST_P(FolderAsFile, SavingIntoAFolderNameTellsTheErrorAndLosesNothing) {
     const QString shownScript = ScriptWindow().ScriptBox()->toPlainText();
     ASSERT_TRUE(QDir(dir.path()).mkdir(u"folder"_s));
     WriteBytes(dir.filePath(u"folder/inside.fsq"_s), "kept");
-    Run(GetParam(), dir.filePath(u"folder"_s));
+    Run(GetParam(), {dir.filePath(u"folder"_s)});
 
     EXPECT_EQ(Asked(dialogs).last(), u"message Error [stop]: Error saving script!\n%1\n%2"_s.arg(EISDIR).arg(
                                          QString::fromLocal8Bit(std::strerror(EISDIR))));
@@ -96,7 +66,7 @@ TEST_P(RandomFile, OpensOrImportsWithoutAWord) {
     const QString path = dir.filePath(u"noise"_s);
     WriteBytes(path, bytes);
     AddLines({"old"});
-    Run(command, path);
+    Run(command, {path});
 
     const QString note = u"message Import note [info]: Note: Currently only .cfg files can be imported!"_s;
     const QStringList silence = command == Command::Open ? QStringList{u"open Open Brennock Animation"_s}
@@ -169,7 +139,7 @@ TEST_F(HostileInput, TheScriptWindowShowsAndSavesAFullList) {
     EXPECT_EQ(ScriptWindow().ScriptBox()->blockCount(), 1 + 7 + 2 * kMaxLines);
     EXPECT_EQ(ScriptWindow().ScriptBox()->toPlainText().endsWith(u"set name \"n32767\"\nwait 7"_s), true);
 
-    Run(Command::SaveScript, dir.filePath(u"full.cfg"_s));
+    Run(Command::SaveScript, {dir.filePath(u"full.cfg"_s)});
     // Compared whole: a failure shows where the file first differs, not a
     // diff of two megabytes.
     const std::string saved = ReadBytes(dir.filePath(u"full.cfg"_s));
