@@ -9,7 +9,7 @@ packages=(cmake ninja-build g++ pkg-config
           qt6-base-dev qt6-svg-dev libqt6svg6 qt6-qpa-plugins
           libgtest-dev libgmock-dev libbenchmark-dev
           xvfb xauth x11-utils imagemagick fonts-dejavu-core fonts-liberation
-          g++-mingw-w64-x86-64 desktop-file-utils appstream groff-base
+          g++-mingw-w64-x86-64 desktop-file-utils appstream groff-base lintian
           clang-14 libclang-rt-14-dev)
 missing=()
 for p in "${packages[@]}"; do

@@ -35,7 +35,7 @@ void Complain(std::string_view message) {
 }
 
 std::optional<std::string> ReadInput(const std::string& path) {
-    if (path != "-") return ReadFileBytes(path);
+    if (path != "-") return ReadFileBytes(path, FileKinds::AnyReadable);
     std::string data;
     char buffer[1 << 16];
     for (;;) {

@@ -17,7 +17,8 @@ constexpr std::string_view kNoAction = "[none]";
 
 bool FileExists(const std::string& path) {
     if (path.empty()) return false;
-    const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    // O_NONBLOCK: a named pipe with no writer must not hold the program.
+    const int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (fd < 0) return false;
     struct stat st {};
     const bool file = ::fstat(fd, &st) == 0 && !S_ISDIR(st.st_mode);
@@ -56,9 +57,7 @@ LoadStatus LoadAnimationBytes(std::string_view data, AnimationScript& script) {
 }
 
 LoadStatus LoadAnimationFile(const std::string& path, AnimationScript& script) {
-    AnimationScript::Batch batch(script);
-    // The old animation is gone before the file is even opened.
-    script.ClearLines();
+    // The whole file first: the old animation goes only for one read to its end.
     const auto data = ReadFileBytes(path);
     if (!data) return LoadStatus::ReadFailed;
     return LoadAnimationBytes(*data, script);

@@ -32,8 +32,9 @@ bool FileExists(const std::string& path);
 // ones too, is a Text with Time "15". All of it is one batch for a view.
 LoadStatus LoadAnimationBytes(std::string_view data, AnimationScript& script);
 
-// Empties the script first, then reads the file; when it can't be read the
-// script stays empty and the result is ReadFailed.
+// Reads the whole file, then replaces the script's lines by its content. A
+// file that can't be read to its end, or is no regular file, leaves the script
+// as it was and gives ReadFailed.
 LoadStatus LoadAnimationFile(const std::string& path, AnimationScript& script);
 
 // The project file of a script: the magic line, then Text, Time and Action of

@@ -94,8 +94,6 @@ LoadStatus ImportBytes(std::string_view data, AnimationScript& script) {
 }
 
 LoadStatus ImportFile(const std::string& path, AnimationScript& script) {
-    AnimationScript::Batch batch(script);
-    script.ClearLines();
     const auto data = ReadFileBytes(path);
     if (!data) return LoadStatus::ReadFailed;
     return ImportBytes(*data, script);

@@ -49,10 +49,11 @@ void ParseStatement(std::string_view statement, ImportRun& run);
 // statement in it. Does nothing once the run is full.
 void ParseScriptLine(std::string_view line, ImportRun& run);
 
-// Replace the animation by what the script holds, in one batch: the list is
-// cleared first, also when the file can't be read (ReadFailed). Truncated
-// means a `set name` found 32767 lines: those are kept and the rest of the
-// script is not read.
+// Replace the animation by what the script holds, in one batch. ImportFile
+// reads the whole file first: one that can't be read to its end, or is no
+// regular file, leaves the animation as it was (ReadFailed). Truncated means a
+// `set name` found 32767 lines: those are kept and the rest of the script is
+// not read.
 LoadStatus ImportBytes(std::string_view data, AnimationScript& script);
 LoadStatus ImportFile(const std::string& path, AnimationScript& script);
 

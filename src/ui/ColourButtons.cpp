@@ -39,12 +39,15 @@ std::vector<QPushButton*> AddColourButtons(QWidget* parent, int count, int left,
         button->setObjectName(u"cmdColor_%1"_s.arg(index));
         button->setAccessibleName(ColourName(index));
         button->setGeometry(TwipsRect(left + kButtonStep * index, top, kButtonSize, kButtonSize));
-        button->setFocusPolicy(Qt::NoFocus);
+        // Tab reaches the buttons and Space presses one; a click leaves the
+        // focus, and so the caret and selection, in the pane.
+        button->setFocusPolicy(Qt::TabFocus);
         button->setAutoDefault(false);
         const QColor colour = ToQColor(ColourOfButton(index));
         button->setStyleSheet(
             u"QPushButton { background-color: %1; border: 1px solid #3c3c3c; border-radius: 2px; }"
             u"QPushButton:hover { border: 1px solid #0a64c8; }"
+            u"QPushButton:focus { border: 2px dotted #0a64c8; }"
             u"QPushButton:pressed { border: 2px solid #0a64c8; }"_s.arg(colour.name()));
         buttons.push_back(button);
     }

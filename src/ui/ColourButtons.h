@@ -15,8 +15,8 @@ Colour ColourOfButton(int index);
 
 // Adds the control array cmdColor_0 .. cmdColor_<count-1> to `parent`: square
 // buttons of 375 twips, 480 twips apart from `left` on, at `top`, each with
-// the background of its colour and no caption. The buttons take no focus, so
-// the pane keeps its caret and selection when one is clicked.
+// the background of its colour and no caption. Tab reaches them, but a click
+// takes no focus, so the pane keeps its caret and selection.
 std::vector<QPushButton*> AddColourButtons(QWidget* parent, int count, int left, int top);
 
 }  // namespace fs::ui

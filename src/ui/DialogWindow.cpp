@@ -1,6 +1,8 @@
 #include "ui/DialogWindow.h"
 
 #include <QDialog>
+#include <QKeyEvent>
+#include <QPushButton>
 
 #include "ui/Twips.h"
 
@@ -9,14 +11,39 @@ using namespace Qt::Literals::StringLiterals;
 namespace fs::ui {
 namespace {
 
+// Sees the Enter that a focused push button passed on to its window, and
+// presses that button.
+class EnterOnButton : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress) return false;
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+        const Qt::KeyboardModifiers modifiers = key->modifiers() & ~Qt::KeypadModifier;
+        if (!enter || modifiers != Qt::NoModifier) return false;
+        auto* button = qobject_cast<QPushButton*>(static_cast<QWidget*>(watched)->focusWidget());
+        if (button == nullptr || !button->isEnabled() || !button->isVisible()) return false;
+        button->click();
+        return true;
+    }
+};
+
 void Name(QDialog& dialog, const QString& name, const QString& caption) {
     dialog.setObjectName(name);
     dialog.setWindowTitle(caption);
     dialog.setFont(DialogFont());
     dialog.setSizeGripEnabled(false);
+    PressFocusedButtonOnEnter(dialog);
 }
 
 }  // namespace
+
+void PressFocusedButtonOnEnter(QWidget& window) {
+    window.installEventFilter(new EnterOnButton(&window));
+}
 
 QFont DialogFont() {
     QFont font;

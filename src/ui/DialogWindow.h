@@ -4,12 +4,18 @@
 #include <QString>
 
 class QDialog;
+class QWidget;
 
 namespace fs::ui {
 
 // The small sans-serif face that the dialogs are laid out for: their twips
 // positions leave room for its captions, not for a larger desktop default.
 QFont DialogFont();
+
+// Enter presses the push button that has the focus; only where the focus is on
+// something else does Enter reach the window (a dialog's default button).
+// Every dialog made below has this already.
+void PressFocusedButtonOnEnter(QWidget& window);
 
 // Gives a dialog its name, caption and DialogFont, and makes it a fixed window of the given
 // client size in twips: no minimise or maximise button, no size grip, no

@@ -1,10 +1,39 @@
 #include "ui/LineListView.h"
 
 #include <QKeyEvent>
+#include <QLineEdit>
+#include <QStyledItemDelegate>
+
+#include "ui/SingleLine.h"
 
 namespace fs::ui {
+namespace {
+
+// The in-place editor of a line's text: one line of any length (a text from a
+// file may be longer than a line editor takes by default), and a commit that
+// changed nothing writes nothing.
+class LineTextDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override {
+        QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
+        if (auto* box = qobject_cast<QLineEdit*>(editor)) KeepOnOneLine(box);
+        return editor;
+    }
+
+    void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override {
+        const auto* box = qobject_cast<QLineEdit*>(editor);
+        if (box != nullptr && box->text() == index.data(Qt::EditRole).toString()) return;
+        QStyledItemDelegate::setModelData(editor, model, index);
+    }
+};
+
+}  // namespace
 
 LineListView::LineListView(QWidget* parent) : QTableView(parent) {
+    setItemDelegate(new LineTextDelegate(this));
     setSelectionMode(QAbstractItemView::SingleSelection);
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSortingEnabled(false);

@@ -4,13 +4,30 @@
 #include <QMimeData>
 #include <QTextCursor>
 
+#include "ui/SingleLine.h"
+
 namespace fs::ui {
 
-OneLineRichEdit::OneLineRichEdit(QWidget* parent) : QTextEdit(parent) {
+PlainPasteEdit::PlainPasteEdit(QWidget* parent) : QTextEdit(parent) {
+    setAcceptRichText(false);
+}
+
+bool PlainPasteEdit::canInsertFromMimeData(const QMimeData* source) const {
+    return source->hasText();
+}
+
+void PlainPasteEdit::insertFromMimeData(const QMimeData* source) {
+    // The cursor's own format is the colour in force; a fragment would bring
+    // the default one instead.
+    QTextCursor cursor = textCursor();
+    cursor.insertText(Pasted(source->text()));
+    setTextCursor(cursor);
+}
+
+OneLineRichEdit::OneLineRichEdit(QWidget* parent) : PlainPasteEdit(parent) {
     setLineWrapMode(QTextEdit::NoWrap);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setAcceptRichText(false);
     setTabChangesFocus(true);
 }
 
@@ -22,19 +39,8 @@ void OneLineRichEdit::keyPressEvent(QKeyEvent* event) {
     QTextEdit::keyPressEvent(event);
 }
 
-bool OneLineRichEdit::canInsertFromMimeData(const QMimeData* source) const {
-    return source->hasText();
-}
-
-void OneLineRichEdit::insertFromMimeData(const QMimeData* source) {
-    QString text = source->text();
-    text.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
-    for (QChar& c : text) {
-        if (c == u'\r' || c == u'\n' || c == QChar::LineSeparator || c == QChar::ParagraphSeparator) c = u' ';
-    }
-    QTextCursor cursor = textCursor();
-    cursor.insertText(text);
-    setTextCursor(cursor);
+QString OneLineRichEdit::Pasted(QString text) const {
+    return OnOneLine(std::move(text));
 }
 
 }  // namespace fs::ui

@@ -5,8 +5,11 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
+
+#include "ui/SingleLine.h"
 
 namespace fs::ui {
 
@@ -99,6 +102,7 @@ std::optional<QString> QtDialogs::InputBox(QWidget* parent, const QString& promp
     dialog.setLabelText(prompt);
     dialog.setInputMode(QInputDialog::TextInput);
     dialog.setTextValue(defaultText);
+    if (auto* box = dialog.findChild<QLineEdit*>()) KeepOnOneLine(box);
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     return dialog.textValue();
 }

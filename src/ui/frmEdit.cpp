@@ -8,6 +8,7 @@
 #include "colour/NumberText.h"
 #include "document/AnimationScript.h"
 #include "ui/DialogWindow.h"
+#include "ui/SingleLine.h"
 #include "ui/TextConv.h"
 #include "ui/Twips.h"
 
@@ -30,6 +31,7 @@ frmEdit::frmEdit(AnimationScript& script, QWidget* parent) : QDialog(parent), sc
 
     Label1_ = Place(new QLabel(u"Time"_s, this), u"Label1"_s, 120, 120, 495, 255);
     txtTime_ = Place(new QLineEdit(u"15"_s, this), u"txtTime"_s, 120, 360, 495, 300);
+    KeepOnOneLine(txtTime_);
     Label1_->setBuddy(txtTime_);
     Label2_ = Place(new QLabel(u"Action"_s, this), u"Label2"_s, 120, 1080, 1935, 255);
     // A box with no entries that only shows its words: actions can't be
@@ -37,6 +39,7 @@ frmEdit::frmEdit(AnimationScript& script, QWidget* parent) : QDialog(parent), sc
     cmbAction_ = Place(new QComboBox(this), u"cmbAction"_s, 120, 1320, 2055, 315);
     cmbAction_->setEditable(true);
     cmbAction_->setEditText(u"Under construction"_s);
+    KeepOnOneLine(cmbAction_->lineEdit());
     Label2_->setBuddy(cmbAction_);
     cmdOK_ = Place(new QPushButton(u"OK"_s, this), u"cmdOK"_s, 3360, 120, 1095, 350);
     cmdOK_->setDefault(true);

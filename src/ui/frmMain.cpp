@@ -16,6 +16,7 @@
 #include "colour/ColouredText.h"
 #include "settings/SettingsStore.h"
 #include "ui/ColourButtons.h"
+#include "ui/DialogWindow.h"
 #include "ui/LineListView.h"
 #include "ui/MainIcons.h"
 #include "ui/MainLayout.h"
@@ -88,6 +89,8 @@ frmMain::frmMain(Dialogs& dialogs, settings::SettingsStore& store, QWidget* pare
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         move(screen->availableGeometry().center() - rect().center());
 
+    // Enter on a focused colour button presses it.
+    PressFocusedButtonOnEnter(*this);
     Form_Load();
 }
 
@@ -215,8 +218,22 @@ void frmMain::BuildToolbar() {
 
     QAction* add = ToolbarAction(u"btnadd"_s);
     add->setMenu(addMenu);
-    if (auto* button = qobject_cast<QToolButton*>(tlbMain_->widgetForAction(add)))
+    if (auto* button = qobject_cast<QToolButton*>(tlbMain_->widgetForAction(add))) {
         button->setPopupMode(QToolButton::MenuButtonPopup);
+        // The button's own menu, too: through it the entries reach the
+        // accessibility tree, as the menu bar's entries do.
+        button->setMenu(addMenu);
+    }
+
+    // One width for "Play" and "Stop": no button moves when playback starts.
+    QAction* play = ToolbarAction(u"btnpreview"_s);
+    if (auto* button = qobject_cast<QToolButton*>(tlbMain_->widgetForAction(play))) {
+        int width = button->sizeHint().width();
+        play->setText(u"Stop"_s);
+        width = std::max(width, button->sizeHint().width());
+        play->setText(u"Play"_s);
+        button->setMinimumWidth(width);
+    }
 }
 
 void frmMain::BuildControls() {
@@ -249,6 +266,9 @@ void frmMain::BuildControls() {
     lvwMain_->horizontalHeader()->setHighlightSections(false);
     lvwMain_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     lvwMain_->horizontalHeader()->setSectionsClickable(false);
+    // The last column takes what room is left, so a vertical scroll bar
+    // brings no horizontal one while the texts fit.
+    lvwMain_->horizontalHeader()->setStretchLastSection(true);
     lvwMain_->setColumnWidth(0, Twips(5000));
     lvwMain_->setColumnWidth(1, Twips(1440));
     lvwMain_->setColumnWidth(2, Twips(1440));
@@ -272,11 +292,14 @@ void frmMain::BuildControls() {
     connect(model_, &ScriptModel::selectedLineChanged, this, [this](int index) {
         if (index == 0) {
             lvwMain_->selectionModel()->clear();
-            return;
+        } else {
+            lvwMain_->selectionModel()->setCurrentIndex(
+                model_->index(index - 1, 0), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
         }
-        lvwMain_->selectionModel()->setCurrentIndex(
-            model_->index(index - 1, 0), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        KeepPaneOnSelectedLine();
     });
+    connect(model_, &QAbstractItemModel::dataChanged, this, [this] { KeepPaneOnSelectedLine(); });
+    connect(model_, &QAbstractItemModel::modelReset, this, [this] { KeepPaneOnSelectedLine(); });
 
     picColors_ = new QWidget(client_);
     picColors_->setObjectName(u"picColors"_s);
@@ -337,12 +360,23 @@ void frmMain::SetPreview() {
     PreviewBusy = true;
     if (script_.Count() > 0) {
         preview_->SetLocked(false);
-        RenderCodedText(script_.LineAt(script_.SelectedIndex()).Text, *preview_);
+        shownText_ = script_.LineAt(script_.SelectedIndex()).Text;
+        RenderCodedText(shownText_, *preview_);
+        paneShows_ = PaneShows::Line;
     } else {
         preview_->SetLocked(true);
         preview_->SetText("Preview");
+        paneShows_ = PaneShows::Placeholder;
     }
     PreviewBusy = wasBusy;
+}
+
+void frmMain::KeepPaneOnSelectedLine() {
+    if (writingFromPane_ || Playing()) return;
+    const int selected = script_.SelectedIndex();
+    const bool shown = selected == 0 ? paneShows_ == PaneShows::Placeholder
+                                     : paneShows_ == PaneShows::Line && shownText_ == script_.LineAt(selected).Text;
+    if (!shown) SetPreview();
 }
 
 void frmMain::NewAnimation() {

@@ -60,6 +60,10 @@ public:
     // Draws the selected line into the pane, or locks it with "Preview" when
     // the list is empty.
     void SetPreview();
+    // Redraws the pane when it no longer shows the selected line: after the
+    // selection moved, by whatever gesture or command, or the selected line's
+    // text changed elsewhere than in the pane. Playback keeps its frames.
+    void KeepPaneOnSelectedLine();
     void NewAnimation();
     void ToggleColors();
     // Reads the settings store into memory and applies the in-place edit mode.
@@ -126,6 +130,13 @@ private:
     AnimationScript script_;
     settings::Settings settings_;
     bool colorsVisible_ = false;
+    // What the pane shows: "Preview", the selected line as `shownText_`
+    // (drawn by SetPreview or typed in the pane), or a frame of playback.
+    enum class PaneShows { Placeholder, Line, Frame };
+    PaneShows paneShows_ = PaneShows::Placeholder;
+    std::string shownText_;
+    // Set while the pane writes its text to the line, which is no change to follow.
+    bool writingFromPane_ = false;
     // The 1-based index of the next line that playback shows.
     int PlayIndex = 1;
     // The wizard, the one window shown beside this one, while it is open.

@@ -23,8 +23,13 @@ void frmMain::txtPreview_Change() {
     // with a code only where the colour changes (white counting as the colour
     // before the first character). The program's own drawing, and playback,
     // reach no line; with an empty list there is no line to reach.
-    if (!PreviewBusy && script_.Count() >= 1)
-        script_.SetLineText(script_.SelectedIndex(), EncodeColoredText(pane, kWhite));
+    if (!PreviewBusy && script_.Count() >= 1) {
+        shownText_ = EncodeColoredText(pane, kWhite);
+        paneShows_ = PaneShows::Line;
+        writingFromPane_ = true;
+        script_.SetLineText(script_.SelectedIndex(), shownText_);
+        writingFromPane_ = false;
+    }
     // The caret stays where it was, and a selection ends at its start. The
     // walk above doesn't move the caret, so this only matters after a colour
     // was set on a selected stretch; leaving an unmoved caret alone keeps a

@@ -23,14 +23,19 @@ void frmMain::OpenAnimation() {
     if (!settings_.OpenDir.isEmpty()) dlgFileOps.InitDir = settings_.OpenDir;
     if (!dialogs_.ShowOpen(this, dlgFileOps)) return;
 
-    const std::string path = NativePath(dlgFileOps.FileName);
-    if (!FileExists(path)) {
-        dialogs_.Message(this, u"File not found!\n"_s + dlgFileOps.FileName, u"Error"_s, MsgIcon::Critical,
-                         MsgButtons::Ok);
-        return;
+    // The whole file is read before the list is touched: a file that can't be
+    // read to its end (gone, a folder, a pipe, an I/O error) changes nothing.
+    switch (LoadAnimationFile(NativePath(dlgFileOps.FileName), script_)) {
+        case LoadStatus::ReadFailed:
+            dialogs_.Message(this, u"File not found!\n"_s + dlgFileOps.FileName, u"Error"_s, MsgIcon::Critical,
+                             MsgButtons::Ok);
+            break;
+        case LoadStatus::Truncated:
+            ShowLineLimitMessage(dialogs_, this);
+            break;
+        case LoadStatus::Loaded:
+            break;
     }
-    // A read that fails half way keeps the lines read so far, without a word.
-    if (LoadAnimationFile(path, script_) == LoadStatus::Truncated) ShowLineLimitMessage(dialogs_, this);
 }
 
 void frmMain::SaveAnimationAs() {
@@ -54,12 +59,16 @@ void frmMain::ImportScript() {
     dlgFileOps.Filter = u"Brennock Scripts (*.cfg)|*.cfg"_s;
     if (!dialogs_.ShowOpen(this, dlgFileOps)) return;
 
-    const std::string path = NativePath(dlgFileOps.FileName);
-    if (!FileExists(path)) {
-        dialogs_.Message(this, u"File not found!"_s, u"Import error"_s, MsgIcon::Critical, MsgButtons::Ok);
-        return;
+    switch (ImportFile(NativePath(dlgFileOps.FileName), script_)) {
+        case LoadStatus::ReadFailed:
+            dialogs_.Message(this, u"File not found!"_s, u"Import error"_s, MsgIcon::Critical, MsgButtons::Ok);
+            break;
+        case LoadStatus::Truncated:
+            ShowLineLimitMessage(dialogs_, this);
+            break;
+        case LoadStatus::Loaded:
+            break;
     }
-    if (ImportFile(path, script_) == LoadStatus::Truncated) ShowLineLimitMessage(dialogs_, this);
 }
 
 void frmMain::GenerateScript() {

@@ -51,6 +51,7 @@ void frmMain::timAni_Timer() {
         return;
     }
     RenderCodedText(script_.LineAt(PlayIndex).Text, *preview_);
+    paneShows_ = PaneShows::Frame;
     ++PlayIndex;
     // The tick that shows the last line also stops; the frame stays.
     if (PlayIndex > script_.Count()) TogglePlayback();

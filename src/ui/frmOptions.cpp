@@ -12,6 +12,7 @@
 #include "ui/DialogIcons.h"
 #include "ui/DialogWindow.h"
 #include "ui/Dialogs.h"
+#include "ui/SingleLine.h"
 #include "ui/Twips.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -90,6 +91,8 @@ frmOptions::frmOptions(settings::SettingsStore& store, Dialogs& dialogs, std::fu
     lblName_ = AddLabel(fraWizardDefaults_, u"lblName"_s, u"Name"_s, 1680, 360, 975, 255);
     txtName_ = Place(new QLineEdit(fraWizardDefaults_), u"txtName"_s, 1680, 600, 3015, 350);
     lblName_->setBuddy(txtName_);
+    KeepOnOneLine(txtClan_);
+    KeepOnOneLine(txtName_);
     chkReverse_ =
         Place(new QCheckBox(u"Reverse clantag"_s, fraWizardDefaults_), u"chkReverse"_s, 120, 1080, 4575, 255);
 

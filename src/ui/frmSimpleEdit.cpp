@@ -11,6 +11,7 @@
 #include "ui/ColourButtons.h"
 #include "ui/DialogWindow.h"
 #include "ui/LineLimit.h"
+#include "ui/OneLineRichEdit.h"
 #include "ui/PaneStyle.h"
 #include "ui/RichPane.h"
 #include "ui/Twips.h"
@@ -48,7 +49,7 @@ frmSimpleEdit::frmSimpleEdit(AnimationScript& script, Dialogs& dialogs, QWidget*
     cmdClose_ = AddStripButton(picColors_, u"cmdClose"_s, u"Close"_s, 4920);
     connect(cmdClose_, &QPushButton::clicked, this, &frmSimpleEdit::cmdClose_Click);
 
-    txtPreview_ = new QTextEdit(this);
+    txtPreview_ = new PlainPasteEdit(this);
     txtPreview_->setObjectName(u"txtPreview"_s);
     txtPreview_->setGeometry(TwipsRect(0, 480, 6015, 3975));
     txtPreview_->setLineWrapMode(QTextEdit::NoWrap);

@@ -10,8 +10,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTreeWidget>
-#include <limits>
 
+#include "ui/SingleLine.h"
 #include "ui/Twips.h"
 #include "ui/WizardArt.h"
 #include "ui/frmWizard.h"
@@ -59,12 +59,6 @@ QPushButton* AddButton(QWidget* parent, const QString& name, const QString& capt
 QLabel* AddLabel(QWidget* parent, const QString& name, const QString& caption, int left, int top, int width,
                  int height) {
     return Place(new QLabel(caption, parent), name, left, top, width, height);
-}
-
-// The boxes don't cut what is typed or pasted; the effect engine decides what
-// it can take.
-void TakeAnyLength(QLineEdit* box) {
-    box->setMaxLength(std::numeric_limits<int>::max());
 }
 
 QFont PointFont(const QWidget* widget, qreal points, bool bold) {
@@ -159,7 +153,8 @@ void frmWizard::BuildPage3() {
 
     for (QLineEdit* box : {txtNameOnly_[0], txtClanTag_, txtNameOnly_[1]}) {
         box->installEventFilter(this);
-        TakeAnyLength(box);
+        // The effect engine decides what it can take.
+        KeepOnOneLine(box);
     }
     setTabOrder(optNameOnly_[0], txtNameOnly_[0]);
     setTabOrder(txtNameOnly_[0], optNameOnly_[1]);
@@ -207,8 +202,8 @@ void frmWizard::BuildPage4() {
     txtParam2_ = Place(new QLineEdit(fraEffects_), u"txtParam2"_s, 4860, 2130, 1920, 330);
     connect(txtParam2_, &QLineEdit::textChanged, this,
             [this](const QString& text) { txtParam_Change(2, text); });
-    TakeAnyLength(txtParam1_);
-    TakeAnyLength(txtParam2_);
+    KeepOnOneLine(txtParam1_);
+    KeepOnOneLine(txtParam2_);
     lblParam1_->setBuddy(txtParam1_);
     lblParam2_->setBuddy(txtParam2_);
     lblEffectList_->setBuddy(lvwEffects_);

@@ -1,7 +1,8 @@
 # cmake -DBUILD_DIR=... -DPREFIX=... -DAPP_ID=... -P CheckInstall.cmake
 # Installs the build under PREFIX and checks that each file is where a desktop
-# looks for it, that the icons have their sizes, and that the menu entry, the
-# icon and the software-centre entry name each other rightly.
+# looks for it, that the compressed files were made by gzip -9n, that the icons
+# have their sizes, and that the menu entry, the icon and the software-centre
+# entry name each other rightly.
 file(REMOVE_RECURSE "${PREFIX}")
 execute_process(COMMAND "${CMAKE_COMMAND}" --install "${BUILD_DIR}" --prefix "${PREFIX}"
                 RESULT_VARIABLE status OUTPUT_QUIET)
@@ -15,11 +16,25 @@ macro(fault text)
 endmacro()
 
 set(share "${PREFIX}/share")
-foreach(path bin/flickerscribe bin/flickerscribe-cli share/man/man1/flickerscribe-cli.1
+set(compressed share/man/man1/flickerscribe-cli.1.gz share/man/man1/flickerscribe.1.gz
+               share/doc/flickerscribe/changelog.gz)
+foreach(path bin/flickerscribe bin/flickerscribe-cli ${compressed} share/doc/flickerscribe/copyright
              share/applications/${APP_ID}.desktop share/metainfo/${APP_ID}.metainfo.xml
              share/icons/hicolor/scalable/apps/${APP_ID}.svg)
   if(NOT EXISTS "${PREFIX}/${path}")
     fault("missing ${path}")
+  endif()
+endforeach()
+
+# A gzip header is 1f8b, method 08, flags, a 4-byte time and the extra flags:
+# gzip -9n leaves the flags (no name) and the time at 0 and marks the most
+# compression with 02.
+foreach(path ${compressed})
+  if(EXISTS "${PREFIX}/${path}")
+    file(READ "${PREFIX}/${path}" header LIMIT 9 HEX)
+    if(NOT header STREQUAL "1f8b08000000000002")
+      fault("${path} is not made by gzip -9n (header ${header})")
+    endif()
   endif()
 endforeach()
 

@@ -188,7 +188,7 @@ INSTANTIATE_TEST_SUITE_P(Table, FailedSave,
                                           testing::Bool()),
                          kRowName);
 
-TEST_F(FileCommands, SaveAsOpenAndImportOfASavedScriptGiveTheLinesBackAndLeaveThePane) {
+TEST_F(FileCommands, SaveAsOpenAndImportOfASavedScriptGiveTheLinesBackAndShowTheFirst) {
     const Lines lines{{"^1Hi", "15"}, {"\xE9 x", "abc", "kept out"}};
     for (const auto& line : lines) ASSERT_TRUE(Script().AppendLine(line.Text, line.Time, line.Action));
     Run(Command::SaveAs, {PathOf(u"anim.fsq"_s)});
@@ -204,7 +204,7 @@ TEST_F(FileCommands, SaveAsOpenAndImportOfASavedScriptGiveTheLinesBackAndLeaveTh
     AddLines({"replaced"});
     Run(Command::Import, {PathOf(u"made.cfg"_s)});
     EXPECT_EQ(ScriptLines(), (Lines{{"^1Hi", "15"}, {"\xE9 x", "7"}}));
-    EXPECT_EQ(PaneText(), "Preview") << "neither Open nor Import redraws the pane";
+    EXPECT_EQ(PaneText(), "Hi") << "the pane shows the selected line";
     EXPECT_EQ(Asked(dialogs).size(), 5);
 }
 

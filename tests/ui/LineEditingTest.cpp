@@ -120,7 +120,7 @@ TEST_P(PaneState, DecidesWhetherAChangeReachesTheLine) {
     window->PreviewEdit()->moveCursor(QTextCursor::End);
     window->PreviewEdit()->insertPlainText(u"!"_s);
     TextTimes expected = Script().Count() > 0 ? kABC : TextTimes{};
-    if (GetParam().reachesTheLine) expected[Script().SelectedIndex() - 1].replace(0, 1, "B!");
+    if (GetParam().reachesTheLine) expected[Script().SelectedIndex() - 1].insert(1, "!");
     EXPECT_EQ(Lines(), expected);
     if (window->Playing()) window->TogglePlayback();
 }
@@ -128,7 +128,7 @@ TEST_P(PaneState, DecidesWhetherAChangeReachesTheLine) {
 INSTANTIATE_TEST_SUITE_P(
     States, PaneState,
     testing::Values(StateCase{"Editing", [](frmMain&) {}, true},
-                    // The pane still shows B: its text goes to C.
+                    // The pane follows the selection: C is shown and edited.
                     StateCase{"AnotherLineSelected", [](frmMain& w) { w.Script().SelectLine(3); }, true},
                     StateCase{"AllRemoved", [](frmMain& w) { w.NewAnimation(); }, false},
                     StateCase{"Drawing", [](frmMain& w) { w.PreviewBusy = true; }, false},
@@ -232,7 +232,7 @@ TEST_P(InPlaceEdit, OpensOnlyOnTheSelectedLinesText) {
     QTest::keyClick(editor(), Qt::Key_Return);
     EXPECT_TRUE(QTest::qWaitFor([&] { return Script().LineAt(2).Text != "B"; }));
     EXPECT_EQ(Lines(), TextTimes({"A/10", "^1new/20", "C/30"}));
-    EXPECT_EQ(PaneText(), "B");
+    EXPECT_EQ(PaneText(), "new");
 }
 
 INSTANTIATE_TEST_SUITE_P(Cases, InPlaceEdit,

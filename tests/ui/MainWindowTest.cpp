@@ -229,14 +229,11 @@ TEST_F(MainWindow, ButtonKeysReachTheirCommands) {
 
 // --- New and SetPreview
 
-TEST_F(MainWindow, NewEmptiesTheListAndLeavesThePaneAsItWas) {
+TEST_F(MainWindow, NewEmptiesTheListAndLocksThePane) {
     AddLines({"^1Hi", "b"});
-    window->SetPreview();
+    EXPECT_EQ(PaneText(), "Hi");
     window->NewAnimation();
     EXPECT_EQ(Script().Count(), 0);
-    EXPECT_EQ(PaneText(), "Hi");
-    EXPECT_FALSE(PaneLocked());
-    window->SetPreview();
     EXPECT_EQ(PaneText(), "Preview");
     EXPECT_TRUE(PaneLocked());
 }
@@ -366,7 +363,7 @@ TEST_F(MainWindow, AnInPlaceEditWritesTheTextAndNothingElse) {
     EXPECT_TRUE(model->setData(model->index(0, 0), u"^2new \u00e9"_s));
     EXPECT_FALSE(model->setData(model->index(0, 1), u"99"_s));
     EXPECT_EQ(Script().LineAt(1), (AnimationLine{"^2new \xE9", "15", "[none]"}));
-    EXPECT_EQ(PaneText(), "old") << "the pane isn't refreshed";
+    EXPECT_EQ(PaneText(), "new \xE9") << "the pane shows the line as it is now";
 }
 
 // --- the Edit menu's shortcuts work on lines wherever the focus is

@@ -220,7 +220,6 @@ TEST_P(OptionsKeys, EnterAndEscapeDoNothingSpecial) {
 INSTANTIATE_TEST_SUITE_P(Keys, OptionsKeys,
                          testing::Values(KeyCase{"EscapeInName", "txtName", Qt::Key_Escape},
                                          KeyCase{"EnterInName", "txtName", Qt::Key_Return},
-                                         KeyCase{"EnterOnOk", "cmdOK", Qt::Key_Return},
                                          KeyCase{"EscapeOnWindow", "frmOptions", Qt::Key_Escape}),
                          testing::PrintToStringParamName());
 

@@ -32,14 +32,13 @@ protected:
 };
 
 // The wizard stands beside the main window, which goes on working; Finish
-// then replaces whatever the list holds, and leaves the pane as it was.
+// then replaces whatever the list holds, and the pane shows the first line.
 TEST_F(WizardFromMainTest, MainWindowStaysUsableAndFinishReplacesItsLines) {
     store.WriteRegistryString(u"Name"_s, u"Kat"_s);
     MakeWindow();
     window->show();
     AddLines({"^1first"});
     window->lvwMain_ItemClick(1);
-    const std::string pane = PaneText();
 
     QPointer<frmWizard> wizard = PressWizard();
     ASSERT_FALSE(wizard.isNull());
@@ -62,7 +61,7 @@ TEST_F(WizardFromMainTest, MainWindowStaysUsableAndFinishReplacesItsLines) {
     EXPECT_EQ(Script().SelectedIndex(), 1);
     EXPECT_EQ(window->ListView()->model()->rowCount(), 3);
     EXPECT_EQ(window->ListView()->currentIndex().row(), 0);
-    EXPECT_EQ(PaneText(), pane);
+    EXPECT_EQ(PaneText(), "K");
     EXPECT_TRUE(Gone(wizard));
 }
 
