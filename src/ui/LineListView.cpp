@@ -1,5 +1,6 @@
 #include "ui/LineListView.h"
 
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QStyledItemDelegate>
@@ -53,6 +54,22 @@ void LineListView::keyPressEvent(QKeyEvent* event) {
     const Qt::KeyboardModifiers modifiers = event->modifiers();
     QTableView::keyPressEvent(event);
     if (onKeyDown) onKeyDown(key, modifiers);
+}
+
+QModelIndex LineListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    if (action == MoveHome || action == MoveEnd) modifiers |= Qt::ControlModifier;
+    return QTableView::moveCursor(action, modifiers);
+}
+
+bool LineListView::viewportEvent(QEvent* event) {
+    if (event->type() == QEvent::Resize && model() != nullptr && model()->columnCount() > 0) {
+        const int last = model()->columnCount() - 1;
+        int others = 0;
+        for (int column = 0; column < last; ++column) others += columnWidth(column);
+        const int room = viewport()->width() - others;
+        setColumnWidth(last, std::max(room, horizontalHeader()->minimumSectionSize()));
+    }
+    return QTableView::viewportEvent(event);
 }
 
 }  // namespace fs::ui

@@ -1,9 +1,11 @@
 #include "ui/frmHelp.h"
 
+#include <QFontMetrics>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <algorithm>
 
 #include "ui/DialogIcons.h"
 #include "ui/DialogWindow.h"
@@ -16,29 +18,39 @@ using namespace Qt::Literals::StringLiterals;
 namespace fs::ui {
 namespace {
 
-QGroupBox* AddFrame(QWidget* parent, const QString& name, const QString& caption, int top, int height) {
+// How much wider than designed the boxes are, in pixels, so that each shows
+// its whole value in the dialog's font.
+int Widening() {
+    const QFontMetrics metrics(DialogFont());
+    int widest = 0;
+    for (const QString& value : {info::kWebSite, info::kForums, info::kEmail, info::kChatNumber})
+        widest = std::max(widest, metrics.horizontalAdvance(value));
+    // The box's frame and margins around its text.
+    return std::max(0, widest + 12 - Twips(3495));
+}
+
+QGroupBox* AddFrame(QWidget* parent, const QString& name, const QString& caption, int top, int height,
+                    int widening) {
     auto* frame = new QGroupBox(caption, parent);
     frame->setObjectName(name);
-    frame->setGeometry(TwipsRect(120, top, 4215, height));
+    frame->setGeometry(TwipsRect(120, top, 4215, height).adjusted(0, 0, widening, 0));
     return frame;
 }
 
-QLineEdit* AddValueBox(QWidget* frame, const QString& name, const QString& value, int top) {
+QLineEdit* AddValueBox(QWidget* frame, const QString& name, const QString& value, int top, int widening) {
     auto* box = new QLineEdit(value, frame);
     box->setObjectName(name);
-    box->setGeometry(TwipsRect(120, top, 3495, 375));
+    box->setGeometry(TwipsRect(120, top, 3495, 375).adjusted(0, 0, widening, 0));
     box->setReadOnly(true);
     box->setAlignment(Qt::AlignCenter);
     box->setCursorPosition(0);
-    // A long address may not fit the box: the tip shows it whole.
-    box->setToolTip(value);
     return box;
 }
 
-QPushButton* AddCopyButton(QWidget* frame, const QString& name, int top, const QString& what) {
+QPushButton* AddCopyButton(QWidget* frame, const QString& name, int top, const QString& what, int widening) {
     auto* button = new QPushButton(frame);
     button->setObjectName(name);
-    button->setGeometry(TwipsRect(3720, top, 375, 375));
+    button->setGeometry(TwipsRect(3720, top, 375, 375).translated(widening, 0));
     button->setIcon(CopyIcon());
     button->setAccessibleName(what);
     button->setAutoDefault(false);
@@ -56,32 +68,34 @@ QLabel* AddLabel(QWidget* frame, const QString& name, const QString& caption, in
 
 frmHelp::frmHelp(Dialogs& dialogs, QWidget* parent) : QDialog(parent), dialogs_(dialogs) {
     MakeFixedDialog(*this, u"frmHelp"_s, u"Help!!"_s, 4470, 4620);
+    const int w = Widening();
+    setFixedSize(width() + w, height());
 
-    fraFAQ_ = AddFrame(this, u"fraFAQ"_s, u"Help + FAQ + Tutorial"_s, 120, 855);
-    Text1_ = AddValueBox(fraFAQ_, u"Text1"_s, info::kWebSite, 360);
-    Command2_ = AddCopyButton(fraFAQ_, u"Command2"_s, 360, u"Copy the web site address"_s);
+    fraFAQ_ = AddFrame(this, u"fraFAQ"_s, u"Help + FAQ + Tutorial"_s, 120, 855, w);
+    Text1_ = AddValueBox(fraFAQ_, u"Text1"_s, info::kWebSite, 360, w);
+    Command2_ = AddCopyButton(fraFAQ_, u"Command2"_s, 360, u"Copy the web site address"_s, w);
     connect(Command2_, &QPushButton::clicked, this, &frmHelp::Command2_Click);
 
-    Frame1_ = AddFrame(this, u"Frame1"_s, u"Forums"_s, 1080, 855);
-    Text2_ = AddValueBox(Frame1_, u"Text2"_s, info::kForums, 360);
-    Command3_ = AddCopyButton(Frame1_, u"Command3"_s, 360, u"Copy the forums address"_s);
+    Frame1_ = AddFrame(this, u"Frame1"_s, u"Forums"_s, 1080, 855, w);
+    Text2_ = AddValueBox(Frame1_, u"Text2"_s, info::kForums, 360, w);
+    Command3_ = AddCopyButton(Frame1_, u"Command3"_s, 360, u"Copy the forums address"_s, w);
     connect(Command3_, &QPushButton::clicked, this, &frmHelp::Command3_Click);
 
-    Frame2_ = AddFrame(this, u"Frame2"_s, u"Contact me"_s, 2160, 1695);
+    Frame2_ = AddFrame(this, u"Frame2"_s, u"Contact me"_s, 2160, 1695, w);
     Label1_ = AddLabel(Frame2_, u"Label1"_s, u"Email"_s, 240);
-    Text3_ = AddValueBox(Frame2_, u"Text3"_s, info::kEmail, 480);
+    Text3_ = AddValueBox(Frame2_, u"Text3"_s, info::kEmail, 480, w);
     Label1_->setBuddy(Text3_);
-    Command4_ = AddCopyButton(Frame2_, u"Command4"_s, 480, u"Copy the e-mail address"_s);
+    Command4_ = AddCopyButton(Frame2_, u"Command4"_s, 480, u"Copy the e-mail address"_s, w);
     connect(Command4_, &QPushButton::clicked, this, &frmHelp::Command4_Click);
     Label2_ = AddLabel(Frame2_, u"Label2"_s, u"ICQ"_s, 960);
-    Text4_ = AddValueBox(Frame2_, u"Text4"_s, info::kChatNumber, 1200);
+    Text4_ = AddValueBox(Frame2_, u"Text4"_s, info::kChatNumber, 1200, w);
     Label2_->setBuddy(Text4_);
-    Command5_ = AddCopyButton(Frame2_, u"Command5"_s, 1200, u"Copy the chat number"_s);
+    Command5_ = AddCopyButton(Frame2_, u"Command5"_s, 1200, u"Copy the chat number"_s, w);
     connect(Command5_, &QPushButton::clicked, this, &frmHelp::Command5_Click);
 
     Command1_ = new QPushButton(u"Close"_s, this);
     Command1_->setObjectName(u"Command1"_s);
-    Command1_->setGeometry(TwipsRect(2880, 4080, 1455, 375));
+    Command1_->setGeometry(TwipsRect(2880, 4080, 1455, 375).translated(w, 0));
     Command1_->setAutoDefault(false);
     connect(Command1_, &QPushButton::clicked, this, &frmHelp::Command1_Click);
     Command1_->setFocus();

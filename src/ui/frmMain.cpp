@@ -217,13 +217,15 @@ void frmMain::BuildToolbar() {
     ToolbarAction(u"btnpreview"_s)->setIcon(imgplay_);
 
     QAction* add = ToolbarAction(u"btnadd"_s);
-    add->setMenu(addMenu);
     if (auto* button = qobject_cast<QToolButton*>(tlbMain_->widgetForAction(add))) {
-        button->setPopupMode(QToolButton::MenuButtonPopup);
-        // The button's own menu, too: through it the entries reach the
-        // accessibility tree, as the menu bar's entries do.
+        // The button's own menu: through it the entries reach the
+        // accessibility tree, as the menu bar's entries do. It has to come
+        // before the action's menu, which would otherwise stand in for the
+        // menu's own action and push the button's action out.
         button->setMenu(addMenu);
+        button->setPopupMode(QToolButton::MenuButtonPopup);
     }
+    add->setMenu(addMenu);
 
     // One width for "Play" and "Stop": no button moves when playback starts.
     QAction* play = ToolbarAction(u"btnpreview"_s);
@@ -266,12 +268,11 @@ void frmMain::BuildControls() {
     lvwMain_->horizontalHeader()->setHighlightSections(false);
     lvwMain_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     lvwMain_->horizontalHeader()->setSectionsClickable(false);
-    // The last column takes what room is left, so a vertical scroll bar
-    // brings no horizontal one while the texts fit.
-    lvwMain_->horizontalHeader()->setStretchLastSection(true);
     lvwMain_->setColumnWidth(0, Twips(5000));
     lvwMain_->setColumnWidth(1, Twips(1440));
     lvwMain_->setColumnWidth(2, Twips(1440));
+    // Tab leaves the list for the colour strip rather than walking its cells.
+    lvwMain_->setTabKeyNavigation(false);
     lvwMain_->setShowGrid(false);
     lvwMain_->setWordWrap(false);
     lvwMain_->setGeometry(0, ListTop(), Twips(5415), Twips(4335));

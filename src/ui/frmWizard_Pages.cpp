@@ -168,15 +168,17 @@ void frmWizard::BuildPage4() {
     QWidget* page = AddBandPage(4, u"Type: Simple - Select effects"_s, u"Select the animation effects"_s);
     fraEffects_ = Place(new QGroupBox(u"Effects"_s, page), u"fraEffects"_s, 240, 1080, 6960, 3450);
 
-    cmbEffects_ = Place(new QComboBox(fraEffects_), u"cmbEffects"_s, 180, 330, 2550, 330);
+    // The same margins as the name page: 240 twips at the sides, and the first
+    // row clear of the frame's top edge.
+    cmbEffects_ = Place(new QComboBox(fraEffects_), u"cmbEffects"_s, 240, 435, 2490, 330);
     cmbEffects_->setEditable(false);
-    cmdAddEffect_ = AddButton(fraEffects_, u"cmdAddEffect"_s, u"Add"_s, 2820, 315, 1125, 360);
+    cmdAddEffect_ = AddButton(fraEffects_, u"cmdAddEffect"_s, u"Add"_s, 2820, 420, 1125, 360);
     connect(cmdAddEffect_, &QPushButton::clicked, this, &frmWizard::cmdAddEffect_Click);
-    cmdPreview_ = AddButton(fraEffects_, u"cmdPreview"_s, u"Preview"_s, 4020, 315, 1125, 360);
+    cmdPreview_ = AddButton(fraEffects_, u"cmdPreview"_s, u"Preview"_s, 4020, 420, 1125, 360);
     connect(cmdPreview_, &QPushButton::clicked, this, &frmWizard::cmdPreview_Click);
 
-    lblEffectList_ = AddLabel(fraEffects_, u"lblEffectList"_s, u"Effect list"_s, 180, 810, 3000, 240);
-    lvwEffects_ = Place(new QTreeWidget(fraEffects_), u"lvwEffects"_s, 180, 1080, 4500, 2190);
+    lblEffectList_ = AddLabel(fraEffects_, u"lblEffectList"_s, u"Effect list"_s, 240, 900, 3000, 240);
+    lvwEffects_ = Place(new QTreeWidget(fraEffects_), u"lvwEffects"_s, 240, 1170, 4440, 2040);
     lvwEffects_->setColumnCount(3);
     lvwEffects_->setHeaderLabels({u"Effect name"_s, u"Parameter 1"_s, u"Parameter 2"_s});
     lvwEffects_->setRootIsDecorated(false);
@@ -194,12 +196,12 @@ void frmWizard::BuildPage4() {
         if (item != nullptr && !adding_) lvwEffects_ItemClick(lvwEffects_->indexOfTopLevelItem(item));
     });
 
-    lblParam1_ = AddLabel(fraEffects_, u"lblParam1"_s, u"Parameter 1"_s, 4860, 1080, 1920, 240);
-    txtParam1_ = Place(new QLineEdit(fraEffects_), u"txtParam1"_s, 4860, 1350, 1920, 330);
+    lblParam1_ = AddLabel(fraEffects_, u"lblParam1"_s, u"Parameter 1"_s, 4860, 1170, 1860, 240);
+    txtParam1_ = Place(new QLineEdit(fraEffects_), u"txtParam1"_s, 4860, 1440, 1860, 330);
     connect(txtParam1_, &QLineEdit::textChanged, this,
             [this](const QString& text) { txtParam_Change(1, text); });
-    lblParam2_ = AddLabel(fraEffects_, u"lblParam2"_s, u"Parameter 2"_s, 4860, 1860, 1920, 240);
-    txtParam2_ = Place(new QLineEdit(fraEffects_), u"txtParam2"_s, 4860, 2130, 1920, 330);
+    lblParam2_ = AddLabel(fraEffects_, u"lblParam2"_s, u"Parameter 2"_s, 4860, 1950, 1860, 240);
+    txtParam2_ = Place(new QLineEdit(fraEffects_), u"txtParam2"_s, 4860, 2220, 1860, 330);
     connect(txtParam2_, &QLineEdit::textChanged, this,
             [this](const QString& text) { txtParam_Change(2, text); });
     KeepOnOneLine(txtParam1_);

@@ -41,6 +41,8 @@ TEST_F(Cli, GenerateFromAFileOrStandardInput) {
          kBanner + "\r\nset name \"^1Hi\"\r\nwait 15\r\nset name \"^7 \"\r\nwait "
                    "15\r\nset name \"^7 caf\xE9\"\r\nwait 15\r\n",
          ""},
+        // Unix line ends, as a Linux editor writes them.
+        {"#v050#\n^1Hi\n0\n[none]\n", kBanner + "\r\nset name \"^1Hi\"\r\nwait 5\r\n", ""},
         {"#v050#\r\na\r\nabc\r\n\r\nb\r\n20\r\n\r\nc\r\n\r\n\r\n",
          kBanner +
              "\r\nset name \"a\"\r\nwait 15\r\nset name \"b\"\r\nwait 20\r\nset name \"c\"\r\nwait 15\r\n",
@@ -70,16 +72,19 @@ TEST_F(Cli, OutputFileIsWrittenAndItsNameMayBeginWithADash) {
 }
 
 TEST_F(Cli, ImportWritesTheAnimationFile) {
-    const std::string script =
-        "// my script\r\n  set name \"^1one\"; wait 20 ;SET NAME ^2two\r\nset name \"a;b\"\r\nwait x\r\n";
-    Put(Path("in.cfg"), script);
     const std::string fsq =
         "#v050#\r\n^1one\r\n20\r\n[none]\r\n^2two\r\n15\r\n[none]\r\na\r\n15\r\n[none]\r\n";
-    for (const auto& args :
-         {std::vector<std::string>{"import", "in.cfg"}, std::vector<std::string>{"import", "-"}}) {
-        const fs::test::CliResult r = Run(args, script);
-        EXPECT_EQ(r.status, 0) << r.err;
-        EXPECT_EQ(r.out, fsq);
+    // With CR LF line ends, and with Unix ones.
+    for (const std::string end : {"\r\n", "\n"}) {
+        const std::string script = "// my script" + end + "  set name \"^1one\"; wait 20 ;SET NAME ^2two" + end +
+                                   "set name \"a;b\"" + end + "wait x" + end;
+        Put(Path("in.cfg"), script);
+        for (const auto& args :
+             {std::vector<std::string>{"import", "in.cfg"}, std::vector<std::string>{"import", "-"}}) {
+            const fs::test::CliResult r = Run(args, script);
+            EXPECT_EQ(r.status, 0) << r.err;
+            EXPECT_EQ(r.out, fsq) << testing::PrintToString(end);
+        }
     }
 }
 

@@ -103,19 +103,27 @@ const auto kRowName = [](const auto& info) {
     return name;
 };
 
-enum class Missing { NoSuchFile, Folder, Unreadable };
+// Whatever can't be read to its end as a plain file: a pipe with no writer
+// must not hold the window, and an I/O error half way (here on the first
+// read) must not cost the lines.
+enum class Missing { NoSuchFile, Folder, Unreadable, Pipe, IoError };
 void PrintTo(Missing missing, std::ostream* os) {
-    *os << std::array{"NoSuchFile", "Folder", "Unreadable"}[static_cast<std::size_t>(missing)];
+    *os << std::array{"NoSuchFile", "Folder", "Unreadable", "Pipe", "IoError"}[static_cast<std::size_t>(missing)];
 }
 class MissingFiles : public FileCommands, public testing::WithParamInterface<std::tuple<Command, Missing>> {};
 
 TEST_P(MissingFiles, AreNotFoundAndLeaveTheList) {
     const auto [command, missing] = GetParam();
     if (missing == Missing::Unreadable && ::geteuid() == 0) GTEST_SKIP() << "root reads every file";
-    const QString path = missing == Missing::Folder ? dir.path() : PathOf(u"gone.fsq"_s);
+    const QString path = missing == Missing::Folder    ? dir.path()
+                         : missing == Missing::IoError ? u"/proc/self/mem"_s
+                                                       : PathOf(u"gone.fsq"_s);
     if (missing == Missing::Unreadable) {
         WriteBytes(path, "#v050#\r\nx\r\n15\r\n[none]\r\n");
         QFile::setPermissions(path, QFileDevice::WriteOwner);
+    }
+    if (missing == Missing::Pipe) {
+        ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
     }
     AddLines({"a"});
     Run(command, {path});
@@ -128,7 +136,8 @@ TEST_P(MissingFiles, AreNotFoundAndLeaveTheList) {
 INSTANTIATE_TEST_SUITE_P(Table, MissingFiles,
                          testing::Combine(testing::Values(Command::Open, Command::Import),
                                           testing::Values(Missing::NoSuchFile, Missing::Folder,
-                                                          Missing::Unreadable)),
+                                                          Missing::Unreadable, Missing::Pipe,
+                                                          Missing::IoError)),
                          kRowName);
 
 class Overwrite : public FileCommands, public testing::WithParamInterface<std::tuple<Command, MsgAnswer>> {};
