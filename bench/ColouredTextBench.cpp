@@ -20,10 +20,10 @@ std::string LongCodedText() {
 
 void BM_RenderAndEncode(benchmark::State& state) {
     const std::string text = LongCodedText();
-    fs::MemoryPane pane;
+    flickerscribe::MemoryPane pane;
     for (auto _ : state) {
-        fs::RenderCodedText(text, pane);
-        std::string again = fs::EncodeColoredText(pane, fs::kWhite);
+        flickerscribe::RenderCodedText(text, pane);
+        std::string again = flickerscribe::EncodeColouredText(pane, flickerscribe::kWhite);
         benchmark::DoNotOptimize(again);
     }
     state.counters["runs"] = static_cast<double>(pane.Runs().size());

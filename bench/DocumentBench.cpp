@@ -12,8 +12,8 @@
 namespace {
 
 // A full list of coloured names of about 40 characters each.
-void FillFullList(fs::AnimationScript& script) {
-    for (int i = 0; i < fs::kMaxLines; ++i) {
+void FillFullList(flickerscribe::AnimationScript& script) {
+    for (int i = 0; i < flickerscribe::kMaxLines; ++i) {
         script.AppendLine("^1Quill^7on ^3[QZT]^5 frame " + std::to_string(i) + " ^8end", i % 3 ? "15" : "250",
                           "[none]");
     }
@@ -26,12 +26,12 @@ std::string BenchFolder() {
 }
 
 void BM_SaveAnimationFile(benchmark::State& state) {
-    fs::AnimationScript script;
+    flickerscribe::AnimationScript script;
     FillFullList(script);
     const std::string folder = BenchFolder();
     const std::string path = folder + "/full.fsq";
     for (auto _ : state) {
-        if (fs::SaveAnimationFile(path, script)) state.SkipWithError("save failed");
+        if (flickerscribe::SaveAnimationFile(path, script)) state.SkipWithError("save failed");
     }
     state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) *
                             static_cast<int64_t>(std::filesystem::file_size(path)));
@@ -43,13 +43,13 @@ void BM_LoadAnimationFile(benchmark::State& state) {
     const std::string folder = BenchFolder();
     const std::string path = folder + "/full.fsq";
     {
-        fs::AnimationScript source;
+        flickerscribe::AnimationScript source;
         FillFullList(source);
-        if (fs::SaveAnimationFile(path, source)) std::abort();
+        if (flickerscribe::SaveAnimationFile(path, source)) std::abort();
     }
-    fs::AnimationScript script;
+    flickerscribe::AnimationScript script;
     for (auto _ : state) {
-        if (fs::LoadAnimationFile(path, script) != fs::LoadStatus::Loaded) state.SkipWithError("load failed");
+        if (flickerscribe::LoadAnimationFile(path, script) != flickerscribe::LoadStatus::Loaded) state.SkipWithError("load failed");
     }
     state.counters["lines"] = script.Count();
     std::filesystem::remove_all(folder);

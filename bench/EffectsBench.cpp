@@ -22,11 +22,11 @@ std::string LongName() {
 }
 
 void RunOnce(benchmark::State& state, const std::string& name, const std::string& tag, bool reverse,
-             const fs::EffectRow& row) {
-    fs::AnimationScript script;
-    const std::vector<fs::EffectRow> rows = {row};
+             const flickerscribe::EffectRow& row) {
+    flickerscribe::AnimationScript script;
+    const std::vector<flickerscribe::EffectRow> rows = {row};
     for (auto _ : state) {
-        const fs::EffectRunResult result = fs::RunEffectList(script, name, tag, reverse, rows, kYes);
+        const flickerscribe::EffectRunResult result = flickerscribe::RunEffectList(script, name, tag, reverse, rows, kYes);
         benchmark::DoNotOptimize(result);
     }
     state.counters["lines"] = script.Count();

@@ -12,28 +12,28 @@
 #include "GuiBenchSupport.h"
 #include "document/AnimationFile.h"
 #include "settings/Settings.h"
-#include "ui/frmScript.h"
+#include "ui/ScriptWindow.h"
 
 namespace {
 
-using fs::AnimationScript;
+using flickerscribe::AnimationScript;
 
 // Dialogs that choose one file and say OK to everything else.
-class ChosenFile : public fs::ui::Dialogs {
+class ChosenFile : public flickerscribe::ui::Dialogs {
 public:
     explicit ChosenFile(QString path) : path_(std::move(path)) {}
-    fs::ui::MsgAnswer Message(QWidget*, const QString&, const QString&, fs::ui::MsgIcon,
-                              fs::ui::MsgButtons) override {
-        return fs::ui::MsgAnswer::Ok;
+    flickerscribe::ui::MsgAnswer Message(QWidget*, const QString&, const QString&, flickerscribe::ui::MsgIcon,
+                              flickerscribe::ui::MsgButtons) override {
+        return flickerscribe::ui::MsgAnswer::Ok;
     }
     std::optional<QString> InputBox(QWidget*, const QString&, const QString&, const QString&) override {
         return std::nullopt;
     }
-    bool ShowOpen(QWidget*, fs::ui::FileDialogState& state) override {
+    bool ShowOpen(QWidget*, flickerscribe::ui::FileDialogState& state) override {
         state.FileName = path_;
         return true;
     }
-    bool ShowSave(QWidget* parent, fs::ui::FileDialogState& state) override {
+    bool ShowSave(QWidget* parent, flickerscribe::ui::FileDialogState& state) override {
         return ShowOpen(parent, state);
     }
     QString BrowseForFolder(QWidget*, const QString&) override { return {}; }
@@ -46,12 +46,11 @@ private:
 
 void BM_ScriptWindowOfAFullAnimationToFirstPaint(benchmark::State& state) {
     AnimationScript script;
-    fs::bench::FillNames(script, fs::kMaxLines);
+    flickerscribe::bench::FillNames(script, flickerscribe::kMaxLines);
     ChosenFile dialogs({});
-    const fs::settings::Settings settings;
+    const flickerscribe::settings::Settings settings;
     for (auto _ : state) {
-        fs::ui::frmScript window(script, dialogs, settings);
-        window.Form_Load();
+        flickerscribe::ui::ScriptWindow window(script, dialogs, settings);
         window.show();
         window.repaint();
         window.ScriptBox()->viewport()->repaint();
@@ -59,7 +58,7 @@ void BM_ScriptWindowOfAFullAnimationToFirstPaint(benchmark::State& state) {
         window.close();
         state.ResumeTiming();
     }
-    state.SetItemsProcessed(state.iterations() * fs::kMaxLines);
+    state.SetItemsProcessed(state.iterations() * flickerscribe::kMaxLines);
 }
 BENCHMARK(BM_ScriptWindowOfAFullAnimationToFirstPaint)->Unit(benchmark::kMillisecond);
 
@@ -68,20 +67,20 @@ void BM_OpenAFullFileIntoTheShownList(benchmark::State& state) {
     const QString path = dir.filePath(QStringLiteral("full.fsq"));
     {
         AnimationScript script;
-        fs::bench::FillNames(script, fs::kMaxLines);
-        if (fs::SaveAnimationFile(path.toStdString(), script)) {
+        flickerscribe::bench::FillNames(script, flickerscribe::kMaxLines);
+        if (flickerscribe::SaveAnimationFile(path.toStdString(), script)) {
             state.SkipWithError("can't write the file");
             return;
         }
     }
     ChosenFile dialogs(path);
-    fs::bench::ShownWindow shown(0, &dialogs);
+    flickerscribe::bench::ShownWindow shown(0, &dialogs);
     for (auto _ : state) {
         shown.window.OpenAnimation();
         shown.PaintList();
     }
-    if (shown.window.Script().Count() != fs::kMaxLines) state.SkipWithError("the file didn't load whole");
-    state.SetItemsProcessed(state.iterations() * fs::kMaxLines);
+    if (shown.window.Script().Count() != flickerscribe::kMaxLines) state.SkipWithError("the file didn't load whole");
+    state.SetItemsProcessed(state.iterations() * flickerscribe::kMaxLines);
 }
 BENCHMARK(BM_OpenAFullFileIntoTheShownList)->Unit(benchmark::kMillisecond);
 

@@ -7,7 +7,7 @@
 
 #include "ui/LineListView.h"
 
-namespace fs::bench {
+namespace flickerscribe::bench {
 
 void FillNames(AnimationScript& script, int lines) {
     AnimationScript::Batch batch(script);
@@ -23,10 +23,10 @@ ShownWindow::ShownWindow(int lines, ui::Dialogs* dialogs)
 }
 
 void ShownWindow::PaintList() {
-    window.ListView()->viewport()->repaint();
+    window.LineList()->viewport()->repaint();
 }
 
-}  // namespace fs::bench
+}  // namespace flickerscribe::bench
 
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -9,16 +9,16 @@
 #include "document/AnimationScript.h"
 #include "settings/SettingsStore.h"
 #include "ui/QtDialogs.h"
-#include "ui/frmMain.h"
+#include "ui/MainWindow.h"
 
-namespace fs::bench {
+namespace flickerscribe::bench {
 
 class NoSettings : public settings::SettingsStore {
 public:
-    QString ReadRegistryString(const QString&, const QString& defaultValue) const override {
+    QString ReadValue(const QString&, const QString& defaultValue) const override {
         return defaultValue;
     }
-    void WriteRegistryString(const QString&, const QString&) override {}
+    void WriteValue(const QString&, const QString&) override {}
 };
 
 // Appends `lines` names with a few colours each, in one reset.
@@ -32,7 +32,7 @@ struct ShownWindow {
 
     ui::QtDialogs qtDialogs;
     NoSettings store;
-    ui::frmMain window;
+    ui::MainWindow window;
 };
 
-}  // namespace fs::bench
+}  // namespace flickerscribe::bench

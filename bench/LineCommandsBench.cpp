@@ -13,8 +13,8 @@
 
 namespace {
 
-using fs::AnimationScript;
-using fs::bench::ShownWindow;
+using flickerscribe::AnimationScript;
+using flickerscribe::bench::ShownWindow;
 
 // Cuts the list back to `count` lines in one go.
 void TrimTo(AnimationScript& script, int count) {
@@ -23,7 +23,7 @@ void TrimTo(AnimationScript& script, int count) {
 }
 
 void BM_AddLineAtTheTopOfAFullList(benchmark::State& state) {
-    ShownWindow shown(fs::kMaxLines - 1);
+    ShownWindow shown(flickerscribe::kMaxLines - 1);
     AnimationScript& script = shown.window.Script();
     for (auto _ : state) {
         shown.window.AddLine(false);  // the last line the list can take
@@ -37,7 +37,7 @@ void BM_AddLineAtTheTopOfAFullList(benchmark::State& state) {
 BENCHMARK(BM_AddLineAtTheTopOfAFullList)->Unit(benchmark::kMillisecond);
 
 void BM_CopyAllLines(benchmark::State& state) {
-    const int lines = fs::kMaxLines / 2;
+    const int lines = flickerscribe::kMaxLines / 2;
     ShownWindow shown(lines);
     for (auto _ : state) {
         shown.window.CopyLines(3);
@@ -55,7 +55,7 @@ BENCHMARK(BM_CopyAllLines)->Unit(benchmark::kMillisecond);
 // characters; one more typed at its end makes the longest text.
 std::string LongText(int run) {
     std::string coded;
-    for (int i = 0; i < fs::kMaxLines - 1; ++i) {
+    for (int i = 0; i < flickerscribe::kMaxLines - 1; ++i) {
         if (i % run == 0) {
             coded += '^';
             coded += static_cast<char>('1' + (i / run) % 8);
@@ -71,7 +71,7 @@ void BM_ChangeHandlerOnTheLongestText(benchmark::State& state) {
     ShownWindow shown(1);
     shown.window.Script().SetLineText(1, LongText(static_cast<int>(state.range(0))) + "x");
     shown.window.SetPreview();
-    for (auto _ : state) shown.window.txtPreview_Change();
+    for (auto _ : state) shown.window.OnPaneEdited();
 }
 BENCHMARK(BM_ChangeHandlerOnTheLongestText)->Arg(1)->Arg(16)->Unit(benchmark::kMillisecond);
 
@@ -81,7 +81,7 @@ void BM_TypeAtTheEndOfTheLongestText(benchmark::State& state) {
     ShownWindow shown(1);
     shown.window.Script().SetLineText(1, LongText(static_cast<int>(state.range(0))));
     shown.window.SetPreview();
-    QTextEdit* pane = shown.window.PreviewEdit();
+    QTextEdit* pane = shown.window.PaneEdit();
     pane->moveCursor(QTextCursor::End);
     for (auto _ : state) {
         QTest::keyClick(pane, Qt::Key_X);  // the key, the widget's insert, and the change handler

@@ -18,34 +18,34 @@
 #include "settings/SettingsStore.h"
 #include "ui/Dialogs.h"
 #include "ui/LineListView.h"
-#include "ui/frmMain.h"
+#include "ui/MainWindow.h"
 
 namespace {
 
-class NoSettings : public fs::settings::SettingsStore {
+class NoSettings : public flickerscribe::settings::SettingsStore {
 public:
-    QString ReadRegistryString(const QString&, const QString& defaultValue) const override {
+    QString ReadValue(const QString&, const QString& defaultValue) const override {
         return defaultValue;
     }
-    void WriteRegistryString(const QString&, const QString&) override {}
+    void WriteValue(const QString&, const QString&) override {}
 };
 
 // Dialogs whose open dialog chooses one file; nothing else is asked.
-class OpenOneFile : public fs::ui::Dialogs {
+class OpenOneFile : public flickerscribe::ui::Dialogs {
 public:
     explicit OpenOneFile(QString path) : path_(std::move(path)) {}
-    fs::ui::MsgAnswer Message(QWidget*, const QString&, const QString&, fs::ui::MsgIcon,
-                              fs::ui::MsgButtons) override {
-        return fs::ui::MsgAnswer::Ok;
+    flickerscribe::ui::MsgAnswer Message(QWidget*, const QString&, const QString&, flickerscribe::ui::MsgIcon,
+                              flickerscribe::ui::MsgButtons) override {
+        return flickerscribe::ui::MsgAnswer::Ok;
     }
     std::optional<QString> InputBox(QWidget*, const QString&, const QString&, const QString&) override {
         return std::nullopt;
     }
-    bool ShowOpen(QWidget*, fs::ui::FileDialogState& state) override {
+    bool ShowOpen(QWidget*, flickerscribe::ui::FileDialogState& state) override {
         state.FileName = path_;
         return true;
     }
-    bool ShowSave(QWidget*, fs::ui::FileDialogState&) override { return false; }
+    bool ShowSave(QWidget*, flickerscribe::ui::FileDialogState&) override { return false; }
     QString BrowseForFolder(QWidget*, const QString&) override { return {}; }
     void SetClipboardText(const QString&) override {}
     std::optional<QString> ClipboardText() override { return QString(); }
@@ -67,11 +67,11 @@ void BM_ResidentWithFullAnimationShown(benchmark::State& state) {
     QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("full.fsq"));
     {
-        fs::AnimationScript full;
-        for (int i = 0; i < fs::kMaxLines; ++i)
+        flickerscribe::AnimationScript full;
+        for (int i = 0; i < flickerscribe::kMaxLines; ++i)
             full.AppendLine("^1[QZT]^7Quil^" + std::to_string(1 + i % 8) + "lon " + std::to_string(i), "15",
                             "[none]");
-        if (fs::SaveAnimationFile(path.toStdString(), full)) {
+        if (flickerscribe::SaveAnimationFile(path.toStdString(), full)) {
             state.SkipWithError("cannot write the project file");
             return;
         }
@@ -81,15 +81,15 @@ void BM_ResidentWithFullAnimationShown(benchmark::State& state) {
     for (auto _ : state) {
         NoSettings store;
         OpenOneFile dialogs(path);
-        fs::ui::frmMain window(dialogs, store);
+        flickerscribe::ui::MainWindow window(dialogs, store);
         window.resize(800, 600);
         window.show();
         if (!QTest::qWaitForWindowExposed(&window)) state.SkipWithError("the window never showed");
         window.OpenAnimation();
-        if (window.Script().Count() != fs::kMaxLines) state.SkipWithError("not all lines");
+        if (window.Script().Count() != flickerscribe::kMaxLines) state.SkipWithError("not all lines");
         // Down to the last line, drawn in the pane, and a full paint.
         window.Script().SelectLine(window.Script().Count());
-        window.lvwMain_ItemClick(window.Script().Count());
+        window.ShowClickedLine(window.Script().Count());
         window.repaint();
         QApplication::processEvents();
         benchmark::DoNotOptimize(window.grab());

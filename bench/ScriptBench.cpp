@@ -13,9 +13,9 @@
 namespace {
 
 // A full list: 32767 lines of 30 characters with colour codes and varied times.
-void FillFullList(fs::AnimationScript& script) {
+void FillFullList(flickerscribe::AnimationScript& script) {
     const std::string times[] = {"15", "7", "250", "0", "1.5"};
-    for (int i = 0; i < fs::kMaxLines; ++i) {
+    for (int i = 0; i < flickerscribe::kMaxLines; ++i) {
         std::string text = "^" + std::to_string(1 + i % 8) + "Quillon^7[QZT]^3" + std::to_string(100000 + i);
         text.resize(30, '-');
         script.AppendLine(std::move(text), times[i % 5], "[none]");
@@ -23,10 +23,10 @@ void FillFullList(fs::AnimationScript& script) {
 }
 
 void BM_BuildScriptText(benchmark::State& state) {
-    fs::AnimationScript script;
+    flickerscribe::AnimationScript script;
     FillFullList(script);
     for (auto _ : state) {
-        std::string text = fs::BuildScriptText(script, nullptr);
+        std::string text = flickerscribe::BuildScriptText(script, nullptr);
         benchmark::DoNotOptimize(text);
     }
 }
@@ -34,16 +34,16 @@ BENCHMARK(BM_BuildScriptText)->Unit(benchmark::kMillisecond);
 
 // The generated script of a full list, about 65500 lines, read back from a file.
 void BM_ImportFile(benchmark::State& state) {
-    fs::AnimationScript source;
+    flickerscribe::AnimationScript source;
     FillFullList(source);
-    const std::string text = fs::BuildScriptText(source, nullptr) + "\r\n";
+    const std::string text = flickerscribe::BuildScriptText(source, nullptr) + "\r\n";
     const auto path = std::filesystem::temp_directory_path() /
                       ("flickerscribe-bench-" + std::to_string(::getpid()) + ".cfg");
     std::ofstream(path, std::ios::binary) << text;
 
-    fs::AnimationScript script;
+    flickerscribe::AnimationScript script;
     for (auto _ : state) {
-        if (fs::ImportFile(path.string(), script) != fs::LoadStatus::Loaded)
+        if (flickerscribe::ImportFile(path.string(), script) != flickerscribe::LoadStatus::Loaded)
             state.SkipWithError("import failed");
         benchmark::DoNotOptimize(script.Count());
     }

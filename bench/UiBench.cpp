@@ -12,8 +12,8 @@
 
 namespace {
 
-using fs::AnimationScript;
-using fs::bench::ShownWindow;
+using flickerscribe::AnimationScript;
+using flickerscribe::bench::ShownWindow;
 
 // A coded text whose colour changes at every one of its `length` characters.
 std::string EveryCharacterItsColour(int length) {
@@ -35,20 +35,20 @@ void BM_ListResetAndFirstPaint(benchmark::State& state) {
         {
             AnimationScript::Batch batch(script);
             script.ClearLines();
-            fs::bench::FillNames(script, lines);
+            flickerscribe::bench::FillNames(script, lines);
         }
         shown.PaintList();
     }
     state.SetItemsProcessed(state.iterations() * lines);
 }
-BENCHMARK(BM_ListResetAndFirstPaint)->Arg(fs::kMaxLines)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_ListResetAndFirstPaint)->Arg(flickerscribe::kMaxLines)->Unit(benchmark::kMillisecond);
 
 void BM_RenderName(benchmark::State& state) {
     ShownWindow shown;
     const std::string name = EveryCharacterItsColour(64);
     for (auto _ : state) {
-        fs::RenderCodedText(name, shown.window.PreviewPane());
-        shown.window.PreviewEdit()->viewport()->repaint();
+        flickerscribe::RenderCodedText(name, shown.window.PreviewPane());
+        shown.window.PaneEdit()->viewport()->repaint();
     }
 }
 BENCHMARK(BM_RenderName)->Unit(benchmark::kMicrosecond);
@@ -57,26 +57,26 @@ void BM_RenderLongestTextToFirstPaint(benchmark::State& state) {
     ShownWindow shown;
     const std::string text = EveryCharacterItsColour(32767);
     for (auto _ : state) {
-        fs::RenderCodedText(text, shown.window.PreviewPane());
-        shown.window.PreviewEdit()->viewport()->repaint();
+        flickerscribe::RenderCodedText(text, shown.window.PreviewPane());
+        shown.window.PaneEdit()->viewport()->repaint();
     }
 }
 BENCHMARK(BM_RenderLongestTextToFirstPaint)->Unit(benchmark::kMillisecond);
 
 void BM_EncodeLongestText(benchmark::State& state) {
     ShownWindow shown;
-    fs::RenderCodedText(EveryCharacterItsColour(32767), shown.window.PreviewPane());
+    flickerscribe::RenderCodedText(EveryCharacterItsColour(32767), shown.window.PreviewPane());
     for (auto _ : state) {
-        benchmark::DoNotOptimize(fs::EncodeColoredText(shown.window.PreviewPane(), fs::kWhite));
+        benchmark::DoNotOptimize(flickerscribe::EncodeColouredText(shown.window.PreviewPane(), flickerscribe::kWhite));
     }
 }
 BENCHMARK(BM_EncodeLongestText)->Unit(benchmark::kMillisecond);
 
 void BM_StartUpToFirstPaint(benchmark::State& state) {
     for (auto _ : state) {
-        fs::ui::QtDialogs dialogs;
-        fs::bench::NoSettings store;
-        fs::ui::frmMain window(dialogs, store);
+        flickerscribe::ui::QtDialogs dialogs;
+        flickerscribe::bench::NoSettings store;
+        flickerscribe::ui::MainWindow window(dialogs, store);
         window.show();
         window.repaint();
     }

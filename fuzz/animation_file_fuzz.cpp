@@ -11,27 +11,27 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-    fs::AnimationScript script;
-    const fs::LoadStatus status = fs::LoadAnimationBytes(bytes, script);
-    FUZZ_CHECK(status != fs::LoadStatus::ReadFailed);
-    FUZZ_CHECK(script.Count() <= fs::kMaxLines);
-    FUZZ_CHECK((status == fs::LoadStatus::Truncated) == (script.Count() == fs::kMaxLines) ||
-               status == fs::LoadStatus::Loaded);
-    if (status == fs::LoadStatus::Truncated) FUZZ_CHECK(script.Count() == fs::kMaxLines);
+    flickerscribe::AnimationScript script;
+    const flickerscribe::LoadStatus status = flickerscribe::LoadAnimationBytes(bytes, script);
+    FUZZ_CHECK(status != flickerscribe::LoadStatus::ReadFailed);
+    FUZZ_CHECK(script.Count() <= flickerscribe::kMaxLines);
+    FUZZ_CHECK((status == flickerscribe::LoadStatus::Truncated) == (script.Count() == flickerscribe::kMaxLines) ||
+               status == flickerscribe::LoadStatus::Loaded);
+    if (status == flickerscribe::LoadStatus::Truncated) FUZZ_CHECK(script.Count() == flickerscribe::kMaxLines);
     FUZZ_CHECK(script.SelectedIndex() >= 0 && script.SelectedIndex() <= script.Count());
     for (int i = 1; i <= script.Count(); ++i) {
-        const fs::AnimationLine& line = script.LineAt(i);
+        const flickerscribe::AnimationLine& line = script.LineAt(i);
         FUZZ_CHECK(line.Action == "[none]");
         // A carriage return always ends a line, so no field can hold one.
         FUZZ_CHECK(line.Text.find('\r') == std::string_view::npos);
         FUZZ_CHECK(line.Time.find('\r') == std::string_view::npos);
     }
 
-    const std::string saved = fs::AnimationFileBytes(script);
-    fs::AnimationScript again;
-    FUZZ_CHECK(fs::LoadAnimationBytes(saved, again) != fs::LoadStatus::ReadFailed);
+    const std::string saved = flickerscribe::AnimationFileBytes(script);
+    flickerscribe::AnimationScript again;
+    FUZZ_CHECK(flickerscribe::LoadAnimationBytes(saved, again) != flickerscribe::LoadStatus::ReadFailed);
     FUZZ_CHECK(again.Count() == script.Count());
     for (int i = 1; i <= script.Count(); ++i) FUZZ_CHECK(again.LineAt(i) == script.LineAt(i));
-    FUZZ_CHECK(fs::AnimationFileBytes(again) == saved);
+    FUZZ_CHECK(flickerscribe::AnimationFileBytes(again) == saved);
     return 0;
 }

@@ -13,13 +13,13 @@
 
 namespace {
 
-std::string Shown(const std::vector<fs::ColouredRun>& runs) {
+std::string Shown(const std::vector<flickerscribe::ColouredRun>& runs) {
     std::string text;
     for (const auto& run : runs) text += run.text;
     return text;
 }
 
-bool Merged(const std::vector<fs::ColouredRun>& runs) {
+bool Merged(const std::vector<flickerscribe::ColouredRun>& runs) {
     for (std::size_t i = 0; i < runs.size(); ++i) {
         if (runs[i].text.empty()) return false;
         if (i > 0 && runs[i - 1].colour == runs[i].colour) return false;
@@ -31,36 +31,36 @@ bool Merged(const std::vector<fs::ColouredRun>& runs) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view coded(reinterpret_cast<const char*>(data), size);
-    const std::vector<fs::ColouredRun> runs = fs::RenderRuns(coded);
+    const std::vector<flickerscribe::ColouredRun> runs = flickerscribe::RenderRuns(coded);
     FUZZ_CHECK(Merged(runs));
     const std::string shown = Shown(runs);
     FUZZ_CHECK(shown.size() <= coded.size());
 
     // The pane holds exactly what the walk gave, and reads back the same.
-    fs::MemoryPane pane;
-    fs::RenderCodedText(coded, pane);
+    flickerscribe::MemoryPane pane;
+    flickerscribe::RenderCodedText(coded, pane);
     FUZZ_CHECK(pane.Text() == shown);
     FUZZ_CHECK(pane.Runs() == runs);
     FUZZ_CHECK(pane.SelStart() == pane.Length() && pane.SelLength() == 0);
 
     // Encoding and rendering again gives the same coloured characters, as long
     // as no shown character is a caret (a shown caret would read as a code).
-    const fs::Colour start = fs::ColorFromDigit("0");
-    const std::string encoded = fs::EncodeColoredText(pane, start);
-    FUZZ_CHECK(encoded == fs::EncodeRuns(runs, start));
+    const flickerscribe::Colour start = flickerscribe::ColourFromDigit("0");
+    const std::string encoded = flickerscribe::EncodeColouredText(pane, start);
+    FUZZ_CHECK(encoded == flickerscribe::EncodeRuns(runs, start));
     if (shown.find('^') == std::string::npos) {
-        FUZZ_CHECK(fs::RenderRuns(encoded) == runs);
+        FUZZ_CHECK(flickerscribe::RenderRuns(encoded) == runs);
         // A text that is its own encoding is a fixed point of the round trip.
-        FUZZ_CHECK(fs::EncodeRuns(fs::RenderRuns(encoded), start) == encoded);
+        FUZZ_CHECK(flickerscribe::EncodeRuns(flickerscribe::RenderRuns(encoded), start) == encoded);
     }
 
     // Writing the runs through the pane's per-character operations gives the
     // same content as the bulk write.
     if (size <= 256) {
-        fs::MemoryPane typed;
+        flickerscribe::MemoryPane typed;
         for (const auto& run : runs) {
             typed.SetSelStart(typed.Length());
-            typed.SetSelColor(run.colour);
+            typed.SetSelColour(run.colour);
             typed.SetSelText(run.text);
         }
         FUZZ_CHECK(typed.Runs() == runs);

@@ -31,35 +31,35 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const bool answerYes = in.ConsumeBool();
     std::string name = in.ConsumeRandomLengthString(kMaxText);
     std::string tag = in.ConsumeRandomLengthString(kMaxText);
-    std::vector<fs::EffectRow> rows(in.ConsumeIntegralInRange<std::size_t>(0, kMaxRows));
+    std::vector<flickerscribe::EffectRow> rows(in.ConsumeIntegralInRange<std::size_t>(0, kMaxRows));
     for (auto& row : rows) {
         row.Name = kEffectNames[in.ConsumeIntegralInRange<std::size_t>(0, std::size(kEffectNames) - 1)];
         row.Parameter1 = in.ConsumeRandomLengthString(8);
         row.Parameter2 = in.ConsumeRandomLengthString(8);
     }
 
-    fs::AnimationScript script;
+    flickerscribe::AnimationScript script;
     script.AppendLine("before the run", "1", "x");
     int questions = 0;
-    const fs::YesNoQuestion ask = [&](const std::string& title, const std::string& text) {
+    const flickerscribe::YesNoQuestion ask = [&](const std::string& title, const std::string& text) {
         ++questions;
         FUZZ_CHECK(!title.empty() && !text.empty());
         // The question is only put for the rows' own repeat counts.
         for (const auto& row : rows)
             if (text.find(row.Parameter1) != std::string::npos) {
-                const auto repeats = fs::NumberValue(row.Parameter1);
+                const auto repeats = flickerscribe::NumberValue(row.Parameter1);
                 if (repeats && *repeats <= kMaxRepeatsAnsweredYes) return answerYes;
             }
         return false;
     };
-    const fs::EffectRunResult result = fs::RunEffectList(script, name, tag, reverse, rows, ask);
+    const flickerscribe::EffectRunResult result = flickerscribe::RunEffectList(script, name, tag, reverse, rows, ask);
 
     FUZZ_CHECK(!result.inputRefused);
-    FUZZ_CHECK(script.Count() <= fs::kMaxLines);
-    if (result.lineLimitReached) FUZZ_CHECK(script.Count() == fs::kMaxLines);
+    FUZZ_CHECK(script.Count() <= flickerscribe::kMaxLines);
+    if (result.lineLimitReached) FUZZ_CHECK(script.Count() == flickerscribe::kMaxLines);
     FUZZ_CHECK(questions <= static_cast<int>(rows.size()));
     for (int i = 1; i <= script.Count(); ++i) {
-        const fs::AnimationLine& line = script.LineAt(i);
+        const flickerscribe::AnimationLine& line = script.LineAt(i);
         FUZZ_CHECK(line.Time == "15");
         FUZZ_CHECK(line.Action == "[none]");
     }

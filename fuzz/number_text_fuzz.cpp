@@ -40,9 +40,9 @@ bool Spelled(std::string_view s) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view text(reinterpret_cast<const char*>(data), size);
-    const auto value = fs::NumberValue(text);
-    const auto whole = fs::WholeNumber(text);
-    const bool passes = fs::IsNumberText(text);
+    const auto value = flickerscribe::NumberValue(text);
+    const auto whole = flickerscribe::WholeNumber(text);
+    const bool passes = flickerscribe::IsNumberText(text);
     FUZZ_CHECK(passes == value.has_value());
     FUZZ_CHECK(passes == whole.has_value());
     if (passes) {
@@ -53,7 +53,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     // Blanks around never change the answer.
     const std::string padded = "  " + std::string(text) + " ";
-    FUZZ_CHECK(fs::IsNumberText(padded) == passes);
+    FUZZ_CHECK(flickerscribe::IsNumberText(padded) == passes);
 
     const auto first = text.find_first_not_of(' ');
     const std::string trimmed = first == std::string_view::npos

@@ -4,7 +4,7 @@
 
 #include "cli/Terminal.h"
 
-namespace fs::cli {
+namespace flickerscribe::cli {
 namespace {
 
 const OptionSyntax* FindOption(const CommandSyntax& syntax, std::string_view name) {
@@ -126,4 +126,4 @@ int UsageError(const CommandSyntax& syntax, std::string_view message) {
     return kExitUsage;
 }
 
-}  // namespace fs::cli
+}  // namespace flickerscribe::cli

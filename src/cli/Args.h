@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-namespace fs::cli {
+namespace flickerscribe::cli {
 
 inline constexpr std::string_view kProgramName = "flickerscribe-cli";
 
@@ -80,4 +80,4 @@ std::string CommandHelp(const CommandSyntax& syntax);
 // kExitUsage. For checks a command makes beyond what ParseArgs knows.
 int UsageError(const CommandSyntax& syntax, std::string_view message);
 
-}  // namespace fs::cli
+}  // namespace flickerscribe::cli

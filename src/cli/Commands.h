@@ -2,7 +2,7 @@
 
 #include "cli/Args.h"
 
-namespace fs::cli {
+namespace flickerscribe::cli {
 
 // One command of the program: what it accepts, and what it does with the
 // arguments once they fit. `run` gives the exit status.
@@ -17,4 +17,4 @@ extern const Command kImportCommand;
 extern const Command kRenderCommand;
 extern const Command kEffectsCommand;
 
-}  // namespace fs::cli
+}  // namespace flickerscribe::cli

@@ -7,7 +7,7 @@
 #include "document/AnimationFile.h"
 #include "effects/EffectRun.h"
 
-namespace fs::cli {
+namespace flickerscribe::cli {
 namespace {
 
 const CommandSyntax kEffectsSyntax{
@@ -106,4 +106,4 @@ int RunEffects(const ParsedArgs& args) {
 
 const Command kEffectsCommand{kEffectsSyntax, RunEffects};
 
-}  // namespace fs::cli
+}  // namespace flickerscribe::cli

@@ -5,7 +5,7 @@
 #include "document/AnimationFile.h"
 #include "script/ScriptText.h"
 
-namespace fs::cli {
+namespace flickerscribe::cli {
 namespace {
 
 // The script text of an animation file, ended by CR LF as a saved script is.
@@ -41,4 +41,4 @@ const Command kGenerateCommand{
     RunGenerate,
 };
 
-}  // namespace fs::cli
+}  // namespace flickerscribe::cli

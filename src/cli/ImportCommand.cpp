@@ -5,7 +5,7 @@
 #include "document/AnimationFile.h"
 #include "script/ConfigImport.h"
 
-namespace fs::cli {
+namespace flickerscribe::cli {
 namespace {
 
 // The animation file of a game script: one line for each `set name`.
@@ -37,4 +37,4 @@ const Command kImportCommand{
     RunImport,
 };
 
-}  // namespace fs::cli
+}  // namespace flickerscribe::cli

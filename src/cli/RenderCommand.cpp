@@ -5,7 +5,7 @@
 #include "cli/Terminal.h"
 #include "colour/ColouredText.h"
 
-namespace fs::cli {
+namespace flickerscribe::cli {
 namespace {
 
 // "FF0000": red first, whatever the layout of the colour value.
@@ -62,4 +62,4 @@ const Command kRenderCommand{
     RunRender,
 };
 
-}  // namespace fs::cli
+}  // namespace flickerscribe::cli

@@ -7,7 +7,7 @@
 #include "document/SafeWrite.h"
 #include "document/TextFile.h"
 
-namespace fs::cli {
+namespace flickerscribe::cli {
 
 std::string TextArgument(std::string_view utf8) {
     return Utf8ToCp1252(utf8);
@@ -75,4 +75,4 @@ int WriteResult(const std::optional<std::string>& file, std::string_view bytes) 
     return kExitOk;
 }
 
-}  // namespace fs::cli
+}  // namespace flickerscribe::cli

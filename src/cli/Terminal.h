@@ -9,7 +9,7 @@
 // Windows-1252, one byte a character; a terminal speaks UTF-8. Text arguments
 // are converted on the way in, and text for a terminal on the way out, while
 // files and pipes get the bytes as they are. Paths are never converted.
-namespace fs::cli {
+namespace flickerscribe::cli {
 
 // A text argument (a name, a coded text) as the program holds it.
 std::string TextArgument(std::string_view utf8);
@@ -42,4 +42,4 @@ int LineLimitReached();
 // standard output. Gives kExitOk, or kExitFileError after a message.
 int WriteResult(const std::optional<std::string>& file, std::string_view bytes);
 
-}  // namespace fs::cli
+}  // namespace flickerscribe::cli

@@ -7,7 +7,7 @@
 #include "cli/Commands.h"
 #include "cli/Terminal.h"
 
-namespace fs::cli {
+namespace flickerscribe::cli {
 namespace {
 
 // Every command of the program, in the order the overview lists them. A new
@@ -65,8 +65,8 @@ int Dispatch(const std::vector<std::string>& args) {
 }
 
 }  // namespace
-}  // namespace fs::cli
+}  // namespace flickerscribe::cli
 
 int main(int argc, char** argv) {
-    return fs::cli::Dispatch(std::vector<std::string>(argv + 1, argv + argc));
+    return flickerscribe::cli::Dispatch(std::vector<std::string>(argv + 1, argv + argc));
 }

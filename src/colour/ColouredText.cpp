@@ -2,7 +2,7 @@
 
 #include "colour/NumberText.h"
 
-namespace fs {
+namespace flickerscribe {
 namespace {
 
 // Appends one shown character, growing the last run when it has the same
@@ -16,7 +16,7 @@ void AddCharacter(std::vector<ColouredRun>& runs, char c, Colour colour) {
 
 std::vector<ColouredRun> RenderRuns(std::string_view codedText) {
     std::vector<ColouredRun> runs;
-    Colour inForce = ColorFromDigit("0");
+    Colour inForce = ColourFromDigit("0");
     const std::size_t n = codedText.size();
     std::size_t i = 0;  // 0-based here; the walk's position is i + 1
     while (i < n) {
@@ -25,7 +25,7 @@ std::vector<ColouredRun> RenderRuns(std::string_view codedText) {
             // digit there changes the colour. The end of the text is no digit.
             ++i;
             if (i < n && IsNumberText(codedText.substr(i, 1)))
-                inForce = ColorFromDigit(codedText.substr(i, 1));
+                inForce = ColourFromDigit(codedText.substr(i, 1));
             ++i;
         }
         // The character behind a code or a dropped pair is shown untested.
@@ -39,12 +39,12 @@ void RenderCodedText(std::string_view codedText, Pane& pane) {
     pane.SetRuns(RenderRuns(codedText));
 }
 
-std::string EncodeRuns(const std::vector<ColouredRun>& runs, Colour startColor) {
+std::string EncodeRuns(const std::vector<ColouredRun>& runs, Colour startColour) {
     std::size_t size = 0;
     for (const auto& run : runs) size += run.text.size() + 2;
     std::string out;
     out.reserve(size);
-    Colour last = startColor;
+    Colour last = startColour;
     for (const auto& run : runs) {
         if (run.text.empty()) continue;
         // A code goes in only where the colour changes, in front of the first
@@ -52,15 +52,15 @@ std::string EncodeRuns(const std::vector<ColouredRun>& runs, Colour startColor) 
         if (run.colour != last) {
             last = run.colour;
             out.push_back('^');
-            out += DigitFromColor(run.colour);
+            out += DigitFromColour(run.colour);
         }
         out += run.text;
     }
     return out;
 }
 
-std::string EncodeColoredText(const Pane& pane, Colour startColor) {
-    return EncodeRuns(pane.Runs(), startColor);
+std::string EncodeColouredText(const Pane& pane, Colour startColour) {
+    return EncodeRuns(pane.Runs(), startColour);
 }
 
-}  // namespace fs
+}  // namespace flickerscribe

@@ -6,7 +6,7 @@
 
 #include "colour/Pane.h"
 
-namespace fs {
+namespace flickerscribe {
 
 // What a render puts into a pane for a coded text: its shown characters in
 // their colours, neighbours of one colour merged into one run.
@@ -17,10 +17,10 @@ void RenderCodedText(std::string_view codedText, Pane& pane);
 
 // The coded text of a sequence of coloured characters: a code goes in front of
 // each character whose colour differs from the one before, the first being
-// compared with `startColor`.
-std::string EncodeRuns(const std::vector<ColouredRun>& runs, Colour startColor);
+// compared with `startColour`.
+std::string EncodeRuns(const std::vector<ColouredRun>& runs, Colour startColour);
 
 // The coded text of the whole pane.
-std::string EncodeColoredText(const Pane& pane, Colour startColor);
+std::string EncodeColouredText(const Pane& pane, Colour startColour);
 
-}  // namespace fs
+}  // namespace flickerscribe

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace fs {
+namespace flickerscribe {
 
 void MemoryPane::SetText(std::string_view text) {
     text_.assign(text);
@@ -23,14 +23,14 @@ void MemoryPane::SetSelLength(int length) {
     pending_.reset();
 }
 
-Colour MemoryPane::SelColor() const {
+Colour MemoryPane::SelColour() const {
     if (selLength_ > 0) return ColourAt(selStart_);
     if (pending_) return *pending_;
     if (selStart_ > 0) return ColourAt(selStart_ - 1);
     return kBlack;
 }
 
-void MemoryPane::SetSelColor(Colour colour) {
+void MemoryPane::SetSelColour(Colour colour) {
     if (selLength_ == 0) {
         pending_ = colour;
         return;
@@ -41,7 +41,7 @@ void MemoryPane::SetSelColor(Colour colour) {
 
 void MemoryPane::SetSelText(std::string_view text) {
     if (text.empty() && selLength_ == 0) return;
-    const Colour colour = SelColor();
+    const Colour colour = SelColour();
     const auto at = static_cast<std::size_t>(selStart_);
     const auto count = static_cast<std::size_t>(selLength_);
     text_.replace(at, count, text);
@@ -76,4 +76,4 @@ std::vector<ColouredRun> MemoryPane::Runs() const {
     return runs;
 }
 
-}  // namespace fs
+}  // namespace flickerscribe

@@ -7,7 +7,7 @@
 
 #include "colour/Pane.h"
 
-namespace fs {
+namespace flickerscribe {
 
 // A pane held in memory: one colour per character, a selection, and the
 // colour waiting for the next insertion. It behaves like the rich text box the
@@ -20,13 +20,13 @@ namespace fs {
 //   empty there (SelLength 0). SetSelLength: negative is 0, cut at the end.
 //   Every write of either forgets a pending insertion colour, as the caret
 //   counts as moved.
-// - SetSelColor with a selection colours it; with an empty selection it sets
+// - SetSelColour with a selection colours it; with an empty selection it sets
 //   the pending colour: what SetSelText inserts next.
-// - SelColor read: the colour of the first selected character; with an empty
+// - SelColour read: the colour of the first selected character; with an empty
 //   selection the pending colour if one was set since the caret last moved,
 //   else the colour of the character in front of the caret, else black.
-// - SetSelText replaces the selection by the text in the colour SelColor reads
-//   at that moment (the colour last given to SetSelColor, or the colour the
+// - SetSelText replaces the selection by the text in the colour SelColour reads
+//   at that moment (the colour last given to SetSelColour, or the colour the
 //   place already had), and leaves the caret behind the inserted text with an
 //   empty selection. The empty text with an empty selection changes nothing.
 // - SetText and SetRuns replace everything and forget a pending colour;
@@ -44,8 +44,8 @@ public:
     void SetSelStart(int position) override;
     int SelLength() const override { return selLength_; }
     void SetSelLength(int length) override;
-    Colour SelColor() const override;
-    void SetSelColor(Colour colour) override;
+    Colour SelColour() const override;
+    void SetSelColour(Colour colour) override;
     void SetSelText(std::string_view text) override;
 
     bool Locked() const override { return locked_; }
@@ -67,4 +67,4 @@ private:
     bool locked_ = false;
 };
 
-}  // namespace fs
+}  // namespace flickerscribe

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <string>
 
-namespace fs {
+namespace flickerscribe {
 namespace {
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
@@ -92,4 +92,4 @@ std::optional<int> WholeNumber(std::string_view text) {
 
 bool IsNumberText(std::string_view text) { return NumberValue(text).has_value(); }
 
-}  // namespace fs
+}  // namespace flickerscribe

@@ -3,7 +3,7 @@
 #include <optional>
 #include <string_view>
 
-namespace fs {
+namespace flickerscribe {
 
 // The one number test of the program. A text passes when, with blanks (U+0020)
 // trimmed from both ends, it is an optional sign, decimal digits with an
@@ -17,4 +17,4 @@ std::optional<double> NumberValue(std::string_view text);
 std::optional<int> WholeNumber(std::string_view text);
 bool IsNumberText(std::string_view text);
 
-}  // namespace fs
+}  // namespace flickerscribe

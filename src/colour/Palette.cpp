@@ -2,7 +2,7 @@
 
 #include <array>
 
-namespace fs {
+namespace flickerscribe {
 namespace {
 
 // Digit 0..9 to its colour: 0 and 7 are both white, 1 and 9 both red.
@@ -21,12 +21,12 @@ constexpr std::array<Colour, 10> kPalette = {
 
 }  // namespace
 
-Colour ColorFromDigit(std::string_view digit) {
+Colour ColourFromDigit(std::string_view digit) {
     if (digit.size() != 1 || digit[0] < '0' || digit[0] > '9') return kWhite;
     return kPalette[static_cast<std::size_t>(digit[0] - '0')];
 }
 
-std::string DigitFromColor(Colour colour) {
+std::string DigitFromColour(Colour colour) {
     // Digits 1..8 in order; the first match wins, so white gives 7, never 0,
     // and red gives 1, never 9.
     for (char d = '1'; d <= '8'; ++d) {
@@ -35,4 +35,4 @@ std::string DigitFromColor(Colour colour) {
     return "7";
 }
 
-}  // namespace fs
+}  // namespace flickerscribe

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace fs {
+namespace flickerscribe {
 
 // A colour in the layout the panes use: red in the lowest byte, then green,
 // then blue (value = red + 256 * green + 65536 * blue).
@@ -24,9 +24,9 @@ inline constexpr Colour kPaneGrey = Rgb(128, 128, 128);
 
 // The palette colour of a one-digit string; anything else (empty, a letter,
 // "12") is white.
-Colour ColorFromDigit(std::string_view digit);
+Colour ColourFromDigit(std::string_view digit);
 // The digit that stands for a colour: never "0" or "9"; "7" for anything
 // outside the palette.
-std::string DigitFromColor(Colour colour);
+std::string DigitFromColour(Colour colour);
 
-}  // namespace fs
+}  // namespace flickerscribe

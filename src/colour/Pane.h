@@ -6,7 +6,7 @@
 
 #include "colour/Palette.h"
 
-namespace fs {
+namespace flickerscribe {
 
 // A stretch of characters of one colour in a pane.
 struct ColouredRun {
@@ -39,14 +39,14 @@ public:
     // Cut off at the end of the text.
     virtual void SetSelLength(int length) = 0;
     // The colour of the first selected character. With an empty selection: the
-    // colour given to SetSelColor since the caret last moved, else the colour
+    // colour given to SetSelColour since the caret last moved, else the colour
     // of the character in front of the caret (the colour that typing there
     // would take), else black, the colour of text never painted.
-    virtual Colour SelColor() const = 0;
+    virtual Colour SelColour() const = 0;
     // Colours the selection; with an empty selection, what is inserted next.
-    virtual void SetSelColor(Colour colour) = 0;
-    // Replaces the selection by `text` in the colour last given to SetSelColor
-    // (the colour SelColor reads), leaving the caret behind it. The empty text
+    virtual void SetSelColour(Colour colour) = 0;
+    // Replaces the selection by `text` in the colour last given to SetSelColour
+    // (the colour SelColour reads), leaving the caret behind it. The empty text
     // with an empty selection changes nothing.
     virtual void SetSelText(std::string_view text) = 0;
 
@@ -59,4 +59,4 @@ public:
     virtual std::vector<ColouredRun> Runs() const = 0;
 };
 
-}  // namespace fs
+}  // namespace flickerscribe

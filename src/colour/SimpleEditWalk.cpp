@@ -4,7 +4,7 @@
 
 #include "colour/ColouredText.h"
 
-namespace fs {
+namespace flickerscribe {
 
 std::vector<std::string> SplitColouredLines(const std::vector<ColouredRun>& runs) {
     std::vector<std::string> lines;
@@ -41,4 +41,4 @@ std::vector<std::string> SplitColouredLines(const std::vector<ColouredRun>& runs
     return lines;
 }
 
-}  // namespace fs
+}  // namespace flickerscribe

@@ -5,7 +5,7 @@
 
 #include "colour/Pane.h"
 
-namespace fs {
+namespace flickerscribe {
 
 // Cuts a multi-line pane, given as its coloured runs with '\n' as the line
 // break, into the coded texts of its text lines, the way Simple edit saves
@@ -21,4 +21,4 @@ namespace fs {
 // not taken for a code.
 std::vector<std::string> SplitColouredLines(const std::vector<ColouredRun>& runs);
 
-}  // namespace fs
+}  // namespace flickerscribe

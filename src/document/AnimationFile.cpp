@@ -6,7 +6,7 @@
 
 #include "document/TextFile.h"
 
-namespace fs {
+namespace flickerscribe {
 namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
@@ -89,4 +89,4 @@ std::optional<SaveError> SaveAnimationFile(const std::string& path, const Animat
     return WriteFileSafely(path, AnimationFileBytes(script));
 }
 
-}  // namespace fs
+}  // namespace flickerscribe

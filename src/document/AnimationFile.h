@@ -7,7 +7,7 @@
 #include "document/AnimationScript.h"
 #include "document/SafeWrite.h"
 
-namespace fs {
+namespace flickerscribe {
 
 // The first line of a project file in the current format. A file whose first
 // line is anything else (another case, a blank around it) is a plain list of
@@ -45,4 +45,4 @@ std::string AnimationFileBytes(const AnimationScript& script);
 // the old file whole. nullopt when it was written.
 std::optional<SaveError> SaveAnimationFile(const std::string& path, const AnimationScript& script);
 
-}  // namespace fs
+}  // namespace flickerscribe

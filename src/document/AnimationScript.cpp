@@ -3,7 +3,7 @@
 #include <cassert>
 #include <utility>
 
-namespace fs {
+namespace flickerscribe {
 
 bool AnimationScript::AppendLine(std::string text, std::string time, std::string action) {
     return InsertLine(Count() + 1, std::move(text), std::move(time), std::move(action));
@@ -89,4 +89,4 @@ AnimationScript::Batch::~Batch() {
     }
 }
 
-}  // namespace fs
+}  // namespace flickerscribe

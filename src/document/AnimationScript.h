@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-namespace fs {
+namespace flickerscribe {
 
 // One frame of the animation. All three fields are text; Time is not checked
 // here, it only becomes a number when the script is generated.
@@ -92,4 +92,4 @@ private:
     int batchDepth_ = 0;
 };
 
-}  // namespace fs
+}  // namespace flickerscribe

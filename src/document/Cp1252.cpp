@@ -2,7 +2,7 @@
 
 #include <array>
 
-namespace fs {
+namespace flickerscribe {
 namespace {
 
 // 0x80..0x9F; the rest of the code page is the same as Latin-1.
@@ -86,4 +86,4 @@ std::string Utf8ToCp1252(std::string_view utf8) {
     return out;
 }
 
-}  // namespace fs
+}  // namespace flickerscribe

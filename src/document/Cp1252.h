@@ -5,7 +5,7 @@
 
 // The program keeps text in the 8-bit Windows-1252 code page, one byte a
 // character, as its files are. These are the one way between that and Unicode.
-namespace fs {
+namespace flickerscribe {
 
 // The Unicode code point of one Windows-1252 byte. The five bytes that the code
 // page leaves undefined map to the C1 controls of the same value, so every byte
@@ -19,4 +19,4 @@ std::string Cp1252ToUtf8(std::string_view text);
 // Bytes that are no valid UTF-8 become '?' too.
 std::string Utf8ToCp1252(std::string_view utf8);
 
-}  // namespace fs
+}  // namespace flickerscribe

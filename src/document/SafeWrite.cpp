@@ -7,7 +7,7 @@
 #include <cerrno>
 #include <cstring>
 
-namespace fs {
+namespace flickerscribe {
 namespace {
 
 struct Fault {
@@ -165,4 +165,4 @@ void Reset() {
 
 }  // namespace write_seam
 
-}  // namespace fs
+}  // namespace flickerscribe

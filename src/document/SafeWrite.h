@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace fs {
+namespace flickerscribe {
 
 // Why a file could not be written: the system's error number and its text.
 struct SaveError {
@@ -34,4 +34,4 @@ void FailNextWriteAfter(std::size_t bytes, int error);
 void Reset();
 }  // namespace write_seam
 
-}  // namespace fs
+}  // namespace flickerscribe

@@ -6,7 +6,7 @@
 
 #include <cerrno>
 
-namespace fs {
+namespace flickerscribe {
 
 std::optional<std::string> ReadFileBytes(const std::string& path, FileKinds kinds) {
     if (path.empty()) return std::nullopt;
@@ -49,4 +49,4 @@ std::vector<std::string_view> SplitTextLines(std::string_view data) {
     return lines;
 }
 
-}  // namespace fs
+}  // namespace flickerscribe

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-namespace fs {
+namespace flickerscribe {
 
 // Which files a read takes.
 enum class FileKinds {
@@ -42,4 +42,4 @@ void ForEachTextLine(std::string_view data, Fn&& line) {
 
 std::vector<std::string_view> SplitTextLines(std::string_view data);
 
-}  // namespace fs
+}  // namespace flickerscribe

@@ -5,7 +5,7 @@
 #include "effects/EffectBodies.h"
 #include "effects/TextWalk.h"
 
-namespace fs {
+namespace flickerscribe {
 namespace {
 
 // The tag travels through the name, one character a frame: from the front to
@@ -66,8 +66,8 @@ EffectStatus Bounce(AnimationScript& script, std::string& name, std::string& cla
     }
     for (int r = 0; r < repeats; ++r) {
         // The colours go for good: later rows of the run see the plain values.
-        clanTag = StripColorCodes(clanTag);
-        name = StripColorCodes(name);
+        clanTag = StripColourCodes(clanTag);
+        name = StripColourCodes(name);
         if (!ForwardPass(script, name, clanTag, reverse) || !MirrorPass(script)) {
             return EffectStatus::LineLimitReached;
         }
@@ -75,4 +75,4 @@ EffectStatus Bounce(AnimationScript& script, std::string& name, std::string& cla
     return EffectStatus::Done;
 }
 
-}  // namespace fs
+}  // namespace flickerscribe

@@ -7,7 +7,7 @@
 
 #include "effects/EffectRun.h"
 
-namespace fs {
+namespace flickerscribe {
 
 EffectStatus WaveForward(AnimationScript& script, std::string& name, std::string& clanTag, bool reverse);
 EffectStatus Wave2(AnimationScript& script, const std::string& name, std::string& clanTag, bool reverse);
@@ -18,4 +18,4 @@ EffectStatus Bounce(AnimationScript& script, std::string& name, std::string& cla
 // False when the script is full.
 bool AppendFrame(AnimationScript& script, std::string text);
 
-}  // namespace fs
+}  // namespace flickerscribe

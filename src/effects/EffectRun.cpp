@@ -6,7 +6,7 @@
 #include "document/AnimationScript.h"
 #include "effects/EffectBodies.h"
 
-namespace fs {
+namespace flickerscribe {
 
 bool AppendFrame(AnimationScript& script, std::string text) {
     return script.AppendLine(std::move(text), "15", "[none]");
@@ -52,4 +52,4 @@ EffectRunResult RunEffectList(AnimationScript& script, std::string name, std::st
     return result;
 }
 
-}  // namespace fs
+}  // namespace flickerscribe

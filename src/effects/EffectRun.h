@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace fs {
+namespace flickerscribe {
 
 class AnimationScript;
 
@@ -57,4 +57,4 @@ EffectStatus ApplyEffect(AnimationScript& script, std::string& name, const std::
                          const std::string& parameter1, const std::string& parameter2, std::string& clanTag,
                          bool reverse, const YesNoQuestion& ask);
 
-}  // namespace fs
+}  // namespace flickerscribe

@@ -2,9 +2,9 @@
 
 #include "colour/NumberText.h"
 
-namespace fs {
+namespace flickerscribe {
 
-bool IsColorCodeAt(std::string_view text, std::size_t at) {
+bool IsColourCodeAt(std::string_view text, std::size_t at) {
     return at + 1 < text.size() && text[at] == '^' && IsNumberText(text.substr(at + 1, 1));
 }
 
@@ -18,7 +18,7 @@ void WalkCodedText(std::string_view text, OnCode code, OnTurn turn) {
     const std::size_t length = text.size();
     std::size_t p = 0;
     while (p < length) {
-        if (IsColorCodeAt(text, p)) {
+        if (IsColourCodeAt(text, p)) {
             code(text.substr(p, 2));
             p += 2;
         }
@@ -37,7 +37,7 @@ std::size_t VisibleLength(std::string_view text) {
     return count;
 }
 
-std::string StripColorCodes(std::string_view text) {
+std::string StripColourCodes(std::string_view text) {
     std::string out;
     out.reserve(text.size());
     WalkCodedText(
@@ -45,7 +45,7 @@ std::string StripColorCodes(std::string_view text) {
     return out;
 }
 
-std::string ColorEachCharacter(std::string_view text) {
+std::string ColourEachCharacter(std::string_view text) {
     std::string out;
     out.reserve(text.size() * 3);
     std::string_view colour = "^7";
@@ -63,7 +63,7 @@ std::string Spaces(std::ptrdiff_t count) {
 }
 
 void ProtectClanTag(std::string& clanTag) {
-    if (!IsColorCodeAt(clanTag, 0)) clanTag.insert(0, "^0");
+    if (!IsColourCodeAt(clanTag, 0)) clanTag.insert(0, "^0");
 }
 
-}  // namespace fs
+}  // namespace flickerscribe

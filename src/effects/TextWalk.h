@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace fs {
+namespace flickerscribe {
 
 // The walks over coded text that the effects share. A colour code is a caret
 // followed by a character that passes IsNumberText; the character behind a
@@ -13,18 +13,18 @@ namespace fs {
 // character here.
 
 // True when a colour code starts at the 0-based position `at`.
-bool IsColorCodeAt(std::string_view text, std::size_t at);
+bool IsColourCodeAt(std::string_view text, std::size_t at);
 
-// The number of plain characters: the length of StripColorCodes(text).
+// The number of plain characters: the length of StripColourCodes(text).
 std::size_t VisibleLength(std::string_view text);
 
 // The plain characters in their order, every code left out.
-std::string StripColorCodes(std::string_view text);
+std::string StripColourCodes(std::string_view text);
 
 // Every plain character with the code in force in front of it ("^7" before
 // the first code). A code at the very end closes the result on its own:
 // "abc^1" gives "^7a^7b^7c^1".
-std::string ColorEachCharacter(std::string_view text);
+std::string ColourEachCharacter(std::string_view text);
 
 // `count` blanks; the empty text for a count of 0 or less.
 std::string Spaces(std::ptrdiff_t count);
@@ -34,4 +34,4 @@ std::string Spaces(std::ptrdiff_t count);
 // Applying it twice changes nothing more.
 void ProtectClanTag(std::string& clanTag);
 
-}  // namespace fs
+}  // namespace flickerscribe

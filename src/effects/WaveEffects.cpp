@@ -3,12 +3,12 @@
 #include "effects/EffectBodies.h"
 #include "effects/TextWalk.h"
 
-namespace fs {
+namespace flickerscribe {
 
 EffectStatus WaveForward(AnimationScript& script, std::string& name, std::string& clanTag, bool reverse) {
     // From here on every character carries its own code, and the caller keeps
     // the name that way.
-    name = ColorEachCharacter(name);
+    name = ColourEachCharacter(name);
     const std::string_view coloured = name;
     // The name doesn't change inside the loop, so its width is taken once.
     const auto width = static_cast<std::ptrdiff_t>(VisibleLength(coloured));
@@ -16,7 +16,7 @@ EffectStatus WaveForward(AnimationScript& script, std::string& name, std::string
     std::ptrdiff_t k = 1;  // the column of this frame's character
     for (std::size_t p = 0; p < length; ++p, ++k) {
         std::string_view unit;
-        if (IsColorCodeAt(coloured, p)) {
+        if (IsColourCodeAt(coloured, p)) {
             unit = coloured.substr(p, 3);  // the code and its character; only the code at the end
             p += 2;
         } else {
@@ -55,7 +55,7 @@ EffectStatus Wave2(AnimationScript& script, const std::string& name, std::string
     // `cut` is how many characters of the name this frame shows.
     for (std::size_t cut = 1; cut <= length; ++cut) {
         // A code comes into the frame whole: the cut moves behind its digit.
-        if (IsColorCodeAt(name, cut - 1)) ++cut;
+        if (IsColourCodeAt(name, cut - 1)) ++cut;
         std::string text;
         if (reverse) {
             ProtectClanTag(clanTag);
@@ -79,4 +79,4 @@ EffectStatus Wave2(AnimationScript& script, const std::string& name, std::string
     return EffectStatus::Done;
 }
 
-}  // namespace fs
+}  // namespace flickerscribe

@@ -6,7 +6,7 @@
 #include "colour/NumberText.h"
 #include "document/TextFile.h"
 
-namespace fs {
+namespace flickerscribe {
 namespace {
 
 std::string_view TrimLeadingBlanks(std::string_view s) {
@@ -99,4 +99,4 @@ LoadStatus ImportFile(const std::string& path, AnimationScript& script) {
     return ImportBytes(*data, script);
 }
 
-}  // namespace fs
+}  // namespace flickerscribe

@@ -6,7 +6,7 @@
 #include "document/AnimationFile.h"
 #include "document/AnimationScript.h"
 
-namespace fs {
+namespace flickerscribe {
 
 // Reading a game script (.cfg) back into an animation. This is no parser of
 // the game's language: it cuts each line into statements at every semicolon
@@ -57,4 +57,4 @@ void ParseScriptLine(std::string_view line, ImportRun& run);
 LoadStatus ImportBytes(std::string_view data, AnimationScript& script);
 LoadStatus ImportFile(const std::string& path, AnimationScript& script);
 
-}  // namespace fs
+}  // namespace flickerscribe

@@ -5,7 +5,7 @@
 
 #include "colour/NumberText.h"
 
-namespace fs {
+namespace flickerscribe {
 namespace {
 
 static_assert(kContactAddress.size() == 24);
@@ -99,4 +99,4 @@ std::string BuildScriptText(const AnimationScript& script, const ScriptReport& r
     return text;
 }
 
-}  // namespace fs
+}  // namespace flickerscribe

@@ -7,7 +7,7 @@
 
 #include "document/AnimationScript.h"
 
-namespace fs {
+namespace flickerscribe {
 
 // The author's contact address, shown in the script banner and in the About
 // and Help windows. Exactly 24 characters, so the banner line that holds it is
@@ -51,4 +51,4 @@ std::string WaitCommand(std::string_view time, const ScriptReport& report);
 // name command and its wait command. Reports come in list order.
 std::string BuildScriptText(const AnimationScript& script, const ScriptReport& report);
 
-}  // namespace fs
+}  // namespace flickerscribe

@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <QVariant>
 
-namespace fs::settings {
+namespace flickerscribe::settings {
 
 QSettingsStore::QSettingsStore()
     : QSettingsStore(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
@@ -13,7 +13,7 @@ QSettingsStore::QSettingsStore()
 
 QSettingsStore::QSettingsStore(QString filePath) : filePath_(std::move(filePath)) {}
 
-QString QSettingsStore::ReadRegistryString(const QString& valueName, const QString& defaultValue) const {
+QString QSettingsStore::ReadValue(const QString& valueName, const QString& defaultValue) const {
     // Opening for reading neither creates the file nor its folder.
     const QSettings file(filePath_, QSettings::IniFormat);
     const QVariant value = file.value(valueName);
@@ -30,10 +30,10 @@ QString QSettingsStore::ReadRegistryString(const QString& valueName, const QStri
     }
 }
 
-void QSettingsStore::WriteRegistryString(const QString& valueName, const QString& value) {
+void QSettingsStore::WriteValue(const QString& valueName, const QString& value) {
     QSettings file(filePath_, QSettings::IniFormat);
     file.setValue(valueName, value);
     file.sync();
 }
 
-}  // namespace fs::settings
+}  // namespace flickerscribe::settings

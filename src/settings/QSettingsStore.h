@@ -2,7 +2,7 @@
 
 #include "settings/SettingsStore.h"
 
-namespace fs::settings {
+namespace flickerscribe::settings {
 
 // The settings in a per-user text file, kept by QSettings: on Linux
 // ~/.config/Flickerscribe/Flickerscribe.conf. Every value is text and comes
@@ -16,11 +16,11 @@ public:
 
     const QString& FilePath() const { return filePath_; }
 
-    QString ReadRegistryString(const QString& valueName, const QString& defaultValue = {}) const override;
-    void WriteRegistryString(const QString& valueName, const QString& value) override;
+    QString ReadValue(const QString& valueName, const QString& defaultValue = {}) const override;
+    void WriteValue(const QString& valueName, const QString& value) override;
 
 private:
     QString filePath_;
 };
 
-}  // namespace fs::settings
+}  // namespace flickerscribe::settings

@@ -2,15 +2,15 @@
 
 #include "settings/Win32Registry.h"
 
-namespace fs::settings {
+namespace flickerscribe::settings {
 
-QString RegistryStore::ReadRegistryString(const QString& valueName, const QString& defaultValue) const {
+QString RegistryStore::ReadValue(const QString& valueName, const QString& defaultValue) const {
     return QString::fromStdWString(
-        win32::ReadRegistryString(valueName.toStdWString(), defaultValue.toStdWString()));
+        win32::ReadValue(valueName.toStdWString(), defaultValue.toStdWString()));
 }
 
-void RegistryStore::WriteRegistryString(const QString& valueName, const QString& value) {
-    win32::WriteRegistryString(valueName.toStdWString(), value.toStdWString());
+void RegistryStore::WriteValue(const QString& valueName, const QString& value) {
+    win32::WriteValue(valueName.toStdWString(), value.toStdWString());
 }
 
-}  // namespace fs::settings
+}  // namespace flickerscribe::settings

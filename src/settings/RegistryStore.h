@@ -2,7 +2,7 @@
 
 #include "settings/SettingsStore.h"
 
-namespace fs::settings {
+namespace flickerscribe::settings {
 
 // The settings as string values in the per-user registry: the single key
 // "Software/Flickerscribe" directly under HKEY_CURRENT_USER (the slash is part
@@ -10,8 +10,8 @@ namespace fs::settings {
 // themselves are in Win32Registry.
 class RegistryStore : public SettingsStore {
 public:
-    QString ReadRegistryString(const QString& valueName, const QString& defaultValue = {}) const override;
-    void WriteRegistryString(const QString& valueName, const QString& value) override;
+    QString ReadValue(const QString& valueName, const QString& defaultValue = {}) const override;
+    void WriteValue(const QString& valueName, const QString& value) override;
 };
 
-}  // namespace fs::settings
+}  // namespace flickerscribe::settings

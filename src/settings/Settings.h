@@ -2,7 +2,7 @@
 
 #include <QString>
 
-namespace fs::settings {
+namespace flickerscribe::settings {
 
 // The user's settings as the program holds them in memory.
 struct Settings {
@@ -14,4 +14,4 @@ struct Settings {
     bool EditItem = false;
 };
 
-}  // namespace fs::settings
+}  // namespace flickerscribe::settings

@@ -1,6 +1,6 @@
 #include "settings/SettingsStore.h"
 
-namespace fs::settings {
+namespace flickerscribe::settings {
 
 namespace {
 
@@ -14,13 +14,13 @@ bool Flag(const QString& text) {
 
 Settings LoadSettings(const SettingsStore& store) {
     Settings settings;
-    settings.OpenDir = store.ReadRegistryString(QStringLiteral("OpenDir"));
-    settings.SaveDir = store.ReadRegistryString(QStringLiteral("SaveDir"));
-    settings.Name = store.ReadRegistryString(QStringLiteral("Name"));
-    settings.Clantag = store.ReadRegistryString(QStringLiteral("Clantag"));
-    settings.Reverse = Flag(store.ReadRegistryString(QStringLiteral("Reverse")));
-    settings.EditItem = Flag(store.ReadRegistryString(QStringLiteral("EditItem")));
+    settings.OpenDir = store.ReadValue(QStringLiteral("OpenDir"));
+    settings.SaveDir = store.ReadValue(QStringLiteral("SaveDir"));
+    settings.Name = store.ReadValue(QStringLiteral("Name"));
+    settings.Clantag = store.ReadValue(QStringLiteral("Clantag"));
+    settings.Reverse = Flag(store.ReadValue(QStringLiteral("Reverse")));
+    settings.EditItem = Flag(store.ReadValue(QStringLiteral("EditItem")));
     return settings;
 }
 
-}  // namespace fs::settings
+}  // namespace flickerscribe::settings

@@ -6,7 +6,7 @@
 #include "settings/QSettingsStore.h"
 #endif
 
-namespace fs::settings {
+namespace flickerscribe::settings {
 
 std::unique_ptr<SettingsStore> OpenUserSettingsStore() {
 #ifdef _WIN32
@@ -16,4 +16,4 @@ std::unique_ptr<SettingsStore> OpenUserSettingsStore() {
 #endif
 }
 
-}  // namespace fs::settings
+}  // namespace flickerscribe::settings

@@ -4,10 +4,10 @@
 
 #include "settings/SettingsStore.h"
 
-namespace fs::settings {
+namespace flickerscribe::settings {
 
 // The current user's settings store of this platform: the registry on
 // Windows, a configuration file elsewhere.
 std::unique_ptr<SettingsStore> OpenUserSettingsStore();
 
-}  // namespace fs::settings
+}  // namespace flickerscribe::settings

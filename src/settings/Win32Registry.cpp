@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-namespace fs::settings::win32 {
+namespace flickerscribe::settings::win32 {
 
 namespace {
 
@@ -70,4 +70,4 @@ void WriteRegistryString(const std::wstring& valueName, const std::wstring& valu
                    static_cast<DWORD>(value.size() * sizeof(wchar_t)));
 }
 
-}  // namespace fs::settings::win32
+}  // namespace flickerscribe::settings::win32

@@ -6,7 +6,7 @@
 // "Software/Flickerscribe" directly under HKEY_CURRENT_USER (the slash is part
 // of the key's name, not a path separator), every value a REG_SZ string.
 // Windows only; RegistryStore wraps it for the program.
-namespace fs::settings::win32 {
+namespace flickerscribe::settings::win32 {
 
 inline constexpr wchar_t kSettingsKey[] = L"Software/Flickerscribe";
 
@@ -19,4 +19,4 @@ std::wstring ReadRegistryString(const std::wstring& valueName, const std::wstrin
 // terminating zero; an empty text stores an empty value. Failures are silent.
 void WriteRegistryString(const std::wstring& valueName, const std::wstring& value);
 
-}  // namespace fs::settings::win32
+}  // namespace flickerscribe::settings::win32

@@ -8,7 +8,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 namespace {
 
 constexpr int kButtonSize = 375;
@@ -28,7 +28,7 @@ QString ColourName(int index) {
 }  // namespace
 
 Colour ColourOfButton(int index) {
-    return ColorFromDigit(std::to_string(index + 1));
+    return ColourFromDigit(std::to_string(index + 1));
 }
 
 std::vector<QPushButton*> AddColourButtons(QWidget* parent, int count, int left, int top) {
@@ -54,4 +54,4 @@ std::vector<QPushButton*> AddColourButtons(QWidget* parent, int count, int left,
     return buttons;
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -7,16 +7,16 @@
 class QPushButton;
 class QWidget;
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 // The colour a painting window's button `index` stands for: the palette colour
 // of digit index + 1 (button 8, digit 9, is the same red as button 0).
 Colour ColourOfButton(int index);
 
-// Adds the control array cmdColor_0 .. cmdColor_<count-1> to `parent`: square
+// Adds the control array cmdColor_0 .. colourButtons_<count-1> to `parent`: square
 // buttons of 375 twips, 480 twips apart from `left` on, at `top`, each with
 // the background of its colour and no caption. Tab reaches them, but a click
 // takes no focus, so the pane keeps its caret and selection.
 std::vector<QPushButton*> AddColourButtons(QWidget* parent, int count, int left, int top);
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

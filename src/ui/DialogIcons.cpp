@@ -8,7 +8,7 @@ static void RegisterDialogIcons() {
     Q_INIT_RESOURCE(dialog_icons);
 }
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 namespace {
 
 QIcon LoadIcon(const QString& path) {
@@ -27,4 +27,4 @@ QIcon FolderIcon() {
     return LoadIcon(u":/dialogs/folder.svg"_s);
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -2,11 +2,11 @@
 
 #include <QIcon>
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 // The images of the small image-only buttons of the dialogs, drawn as SVG so
 // that they stay crisp at any scale.
 QIcon CopyIcon();    // copies a text to the clipboard
 QIcon FolderIcon();  // browses for a folder
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

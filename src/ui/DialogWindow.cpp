@@ -8,7 +8,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 namespace {
 
 // Sees the Enter that a focused push button passed on to its window, and
@@ -71,4 +71,4 @@ void MakeSizableDialog(QDialog& dialog, const QString& name, const QString& capt
     dialog.resize(Twips(clientWidth), Twips(clientHeight));
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -6,7 +6,7 @@
 class QDialog;
 class QWidget;
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 // The small sans-serif face that the dialogs are laid out for: their twips
 // positions leave room for its captions, not for a larger desktop default.
@@ -29,4 +29,4 @@ void MakeFixedDialog(QDialog& dialog, const QString& name, const QString& captio
 void MakeSizableDialog(QDialog& dialog, const QString& name, const QString& caption, int clientWidth,
                        int clientHeight);
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

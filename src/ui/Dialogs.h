@@ -6,7 +6,7 @@
 
 class QWidget;
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 enum class MsgIcon { None, Critical, Question, Exclamation, Information };
 enum class MsgButtons { Ok, OkCancel, YesNo, YesNoCancel };
@@ -49,4 +49,4 @@ public:
     virtual std::optional<QString> ClipboardText() = 0;
 };
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -7,7 +7,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 std::string NativePath(const QString& path) {
     return QFile::encodeName(path).toStdString();
@@ -40,4 +40,4 @@ void ShowSaveError(Dialogs& dialogs, QWidget* parent, const SaveError& error) {
     dialogs.Message(parent, text, u"Error"_s, MsgIcon::Critical, MsgButtons::Ok);
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -9,7 +9,7 @@
 
 class QWidget;
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 class Dialogs;
 struct FileDialogState;
@@ -36,4 +36,4 @@ std::optional<std::string> ChooseSavePath(Dialogs& dialogs, QWidget* parent, Fil
 // of its own, as a stop message titled "Error".
 void ShowSaveError(Dialogs& dialogs, QWidget* parent, const SaveError& error);
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

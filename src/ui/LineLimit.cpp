@@ -2,7 +2,7 @@
 
 #include "ui/Dialogs.h"
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 void ShowLineLimitMessage(Dialogs& dialogs, QWidget* parent) {
     dialogs.Message(parent,
@@ -11,4 +11,4 @@ void ShowLineLimitMessage(Dialogs& dialogs, QWidget* parent) {
                     QStringLiteral("Line limit reached"), MsgIcon::Exclamation, MsgButtons::Ok);
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

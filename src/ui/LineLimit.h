@@ -2,7 +2,7 @@
 
 class QWidget;
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 class Dialogs;
 
@@ -10,4 +10,4 @@ class Dialogs;
 // the lines that stand are kept, and the user is told that the rest is missing.
 void ShowLineLimitMessage(Dialogs& dialogs, QWidget* parent);
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -7,7 +7,7 @@
 
 #include "ui/SingleLine.h"
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 namespace {
 
 // The in-place editor of a line's text: one line of any length (a text from a
@@ -72,4 +72,4 @@ bool LineListView::viewportEvent(QEvent* event) {
     return QTableView::viewportEvent(event);
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

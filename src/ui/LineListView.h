@@ -3,7 +3,7 @@
 #include <QTableView>
 #include <functional>
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 // The list of lines: whole rows, one at a time, and a selected row that no
 // click can take away (a click on the empty part, or with Ctrl on the
@@ -28,4 +28,4 @@ protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
 };
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

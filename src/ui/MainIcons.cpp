@@ -6,7 +6,7 @@ static void RegisterMainIcons() {
     Q_INIT_RESOURCE(main_icons);
 }
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 namespace {
 
@@ -34,4 +34,4 @@ QIcon ToolbarIcon(const QString& key) {
     return {};
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

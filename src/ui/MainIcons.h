@@ -3,7 +3,7 @@
 #include <QIcon>
 #include <QString>
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 // The window icon of the program.
 QIcon AppIcon();
@@ -14,4 +14,4 @@ QIcon AppIcon();
 // gives an empty icon.
 QIcon ToolbarIcon(const QString& key);
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -4,7 +4,7 @@
 
 #include "ui/Twips.h"
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 namespace {
 
@@ -57,4 +57,4 @@ MainLayout LayOutMainWindow(QSize area, bool colorsVisible) {
     return layout;
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -3,7 +3,7 @@
 #include <QRect>
 #include <QSize>
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 // Where the main window's controls stand for a given size of the area under
 // the toolbar. The pane and the strip keep their designed tops and heights;
@@ -28,4 +28,4 @@ int MinimumWindowWidth();
 
 MainLayout LayOutMainWindow(QSize area, bool colorsVisible);
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

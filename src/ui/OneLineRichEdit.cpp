@@ -6,7 +6,7 @@
 
 #include "ui/SingleLine.h"
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 PlainPasteEdit::PlainPasteEdit(QWidget* parent) : QTextEdit(parent) {
     setAcceptRichText(false);
@@ -43,4 +43,4 @@ QString OneLineRichEdit::Pasted(QString text) const {
     return OnOneLine(std::move(text));
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

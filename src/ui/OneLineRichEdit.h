@@ -2,7 +2,7 @@
 
 #include <QTextEdit>
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 // A rich text pane into which pasted and dropped text comes as plain text, in
 // the colour in force at the caret (the one chosen for what is typed next):
@@ -30,4 +30,4 @@ protected:
     QString Pasted(QString text) const override;
 };
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

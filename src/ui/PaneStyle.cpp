@@ -5,7 +5,7 @@
 
 #include "colour/Palette.h"
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 QFont BoldFont(const QString& family, qreal points, QFont::StyleHint fallback) {
     QFont font(family);
@@ -26,4 +26,4 @@ void StyleGreyPane(QTextEdit* pane, const QFont& font) {
     pane->document()->setDefaultFont(font);
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

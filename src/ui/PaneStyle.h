@@ -5,7 +5,7 @@
 
 class QTextEdit;
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 // A bold face of the given family and point size; when the family is missing,
 // Qt picks one by the style hint (a fixed-pitch face for TypeWriter).
@@ -15,4 +15,4 @@ QFont BoldFont(const QString& family, qreal points, QFont::StyleHint fallback);
 // pane has, black as the colour of text never painted, and `font`.
 void StyleGreyPane(QTextEdit* pane, const QFont& font);
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

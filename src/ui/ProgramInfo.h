@@ -9,7 +9,7 @@
 // What the information windows tell about the program: its title, version and
 // where its author can be found. Each value stands here once and is used both
 // where it is shown and where it is copied.
-namespace fs::ui::info {
+namespace flickerscribe::ui::info {
 
 inline const QString kProgramTitle = QStringLiteral("Flickerscribe");
 
@@ -26,4 +26,4 @@ inline const QString kClanWebSite = QStringLiteral("http://www.qzt-clan.example/
 inline const QString kEmail = ToQString(kContactAddress);
 inline const QString kChatNumber = QStringLiteral("123456789");
 
-}  // namespace fs::ui::info
+}  // namespace flickerscribe::ui::info

@@ -11,7 +11,7 @@
 
 #include "ui/SingleLine.h"
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 namespace {
 
@@ -151,4 +151,4 @@ std::optional<QString> QtDialogs::ClipboardText() {
     return data->hasText() ? data->text() : QString();
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -4,7 +4,7 @@
 
 #include "ui/Dialogs.h"
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 // The dialogs of a running program: Qt's message box, input dialog, file and
 // folder dialogs, and the system clipboard.
@@ -34,4 +34,4 @@ private:
 // blanks.
 QStringList QtNameFilters(const QString& filter);
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -13,7 +13,7 @@
 
 #include "ui/TextConv.h"
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 namespace {
 
@@ -107,7 +107,7 @@ void RichPane::SetSelLength(int length) {
     edit_->setTextCursor(cursor);
 }
 
-Colour RichPane::SelColor() const {
+Colour RichPane::SelColour() const {
     const QTextCursor cursor = edit_->textCursor();
     if (cursor.hasSelection()) return ColourAt(*edit_->document(), cursor.selectionStart());
     // The widget forgets a chosen colour when the caret moves; so do we.
@@ -117,7 +117,7 @@ Colour RichPane::SelColor() const {
     return kBlack;
 }
 
-void RichPane::SetSelColor(Colour colour) {
+void RichPane::SetSelColour(Colour colour) {
     QTextCursor cursor = edit_->textCursor();
     if (!cursor.hasSelection()) {
         pending_ = colour;
@@ -131,7 +131,7 @@ void RichPane::SetSelColor(Colour colour) {
 void RichPane::SetSelText(std::string_view text) {
     QTextCursor cursor = edit_->textCursor();
     if (text.empty() && !cursor.hasSelection()) return;
-    const Colour colour = SelColor();
+    const Colour colour = SelColour();
     pending_.reset();
     cursor.insertText(ToQString(text), FormatOf(colour));
     edit_->setTextCursor(cursor);
@@ -204,4 +204,4 @@ std::vector<ColouredRun> RichPane::Runs() const {
     return runs;
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

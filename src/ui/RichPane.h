@@ -6,7 +6,7 @@
 
 class QTextEdit;
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 // The pane operations over a QTextEdit, so that the core's render and encode
 // walks run on a real widget. Bulk reads and writes go by runs, in one edit
@@ -25,8 +25,8 @@ public:
     void SetSelStart(int position) override;
     int SelLength() const override;
     void SetSelLength(int length) override;
-    Colour SelColor() const override;
-    void SetSelColor(Colour colour) override;
+    Colour SelColour() const override;
+    void SetSelColour(Colour colour) override;
     void SetSelText(std::string_view text) override;
     bool Locked() const override;
     void SetLocked(bool locked) override;
@@ -35,10 +35,10 @@ public:
 
 private:
     QTextEdit* edit_;
-    // A colour given to SetSelColor with nothing selected, and where the caret
+    // A colour given to SetSelColour with nothing selected, and where the caret
     // stood then: it holds for the next insertion until the caret moves.
     std::optional<Colour> pending_;
     int pendingAt_ = 0;
 };
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

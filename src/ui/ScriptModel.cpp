@@ -2,7 +2,7 @@
 
 #include "ui/TextConv.h"
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 namespace {
 
@@ -106,7 +106,7 @@ void ScriptModel::ResetDone() {
 }
 
 void ScriptModel::SelectionChanged(int index) {
-    emit selectedLineChanged(index);
+    emit SelectedLineChanged(index);
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -4,7 +4,7 @@
 
 #include "document/AnimationScript.h"
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 // The list view's model of the one animation: rows are the script's lines
 // (row r is line r + 1), columns Text, Time and Action. It holds no copy of
@@ -40,11 +40,11 @@ public:
 
 signals:
     // The script's selected line is now `index` (0 for none).
-    void selectedLineChanged(int index);
+    void SelectedLineChanged(int index);
 
 private:
     AnimationScript& script_;
     int changing_ = 0;
 };
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

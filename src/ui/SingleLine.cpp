@@ -4,7 +4,7 @@
 #include <QValidator>
 #include <limits>
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 namespace {
 
 // Rewrites what the box is about to hold; QLineEdit takes the rewritten text.
@@ -41,4 +41,4 @@ void KeepOnOneLine(QLineEdit* box) {
     box->setValidator(new OneLineValidator(box));
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -4,7 +4,7 @@
 
 class QLineEdit;
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 // A line's text holds no line break: each break (CR LF, CR, LF, and Unicode's
 // line and paragraph separators) becomes one blank.
@@ -15,4 +15,4 @@ QString OnOneLine(QString text);
 // length, so a long text from a file is never cut.
 void KeepOnOneLine(QLineEdit* box);
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -2,7 +2,7 @@
 
 #include "document/Cp1252.h"
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 QString ToQString(std::string_view cp1252) {
     QString out;
@@ -27,4 +27,4 @@ std::string FromQString(const QString& text) {
     return out;
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

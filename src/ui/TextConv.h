@@ -6,10 +6,10 @@
 #include <string_view>
 
 // The one place where the core's Windows-1252 text meets Qt's Unicode text.
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 QString ToQString(std::string_view cp1252);
 // A character that has no Windows-1252 form becomes '?'.
 std::string FromQString(const QString& text);
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

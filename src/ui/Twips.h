@@ -2,7 +2,7 @@
 
 #include <QRect>
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 // Windows are laid out in twips, 1/1440 inch: 15 to a pixel at normal
 // density. Qt scales pixels for high-density screens by itself.
@@ -19,4 +19,4 @@ constexpr QRect TwipsRect(int left, int top, int width, int height) {
     return QRect(Twips(left), Twips(top), Twips(width), Twips(height));
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -13,11 +13,11 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 namespace {
 
 QColor GameColour(char digit) {
-    const Colour c = ColorFromDigit(std::string(1, digit));
+    const Colour c = ColourFromDigit(std::string(1, digit));
     return QColor(static_cast<int>(RedOf(c)), static_cast<int>(GreenOf(c)), static_cast<int>(BlueOf(c)));
 }
 
@@ -221,4 +221,4 @@ QPixmap WizardBandPicture(int page) {
     return pixmap;
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

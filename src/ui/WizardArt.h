@@ -2,7 +2,7 @@
 
 #include <QPixmap>
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 // The wizard's own pictures, painted in code in the colours of the game's
 // palette, at the screen's pixel density.
@@ -16,4 +16,4 @@ QPixmap WizardSidePicture();
 // for the effects.
 QPixmap WizardBandPicture(int page);
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

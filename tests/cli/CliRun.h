@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-namespace fs::test {
+namespace flickerscribe::test {
 
 struct CliResult {
     int status = -1;
@@ -59,4 +59,4 @@ private:
     std::filesystem::path dir_;
 };
 
-}  // namespace fs::test
+}  // namespace flickerscribe::test

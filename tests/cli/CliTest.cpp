@@ -11,7 +11,7 @@
 namespace {
 
 namespace stdfs = std::filesystem;
-using Cli = fs::test::CliRun;
+using Cli = flickerscribe::test::CliRun;
 
 void Put(const stdfs::path& path, const std::string& bytes) {
     std::ofstream out(path, std::ios::binary);
@@ -51,7 +51,7 @@ TEST_F(Cli, GenerateFromAFileOrStandardInput) {
     for (const auto& c : cases) {
         Put(Path("in.fsq"), c.input);
         for (const auto& input : {"in.fsq", "-"}) {
-            const fs::test::CliResult r = Run({"generate", input}, c.input);
+            const flickerscribe::test::CliResult r = Run({"generate", input}, c.input);
             EXPECT_EQ(r.status, 0) << r.err;
             EXPECT_EQ(r.out, c.script) << input;
             EXPECT_EQ(r.err, c.err) << input;
@@ -61,12 +61,12 @@ TEST_F(Cli, GenerateFromAFileOrStandardInput) {
 
 TEST_F(Cli, OutputFileIsWrittenAndItsNameMayBeginWithADash) {
     Put(Path("in.fsq"), "#v050#\r\nx\r\n15\r\n[none]\r\n");
-    const fs::test::CliResult r = Run({"generate", "--output", "-dash.cfg", "in.fsq"});
+    const flickerscribe::test::CliResult r = Run({"generate", "--output", "-dash.cfg", "in.fsq"});
     EXPECT_EQ(r.status, 0) << r.err;
     EXPECT_EQ(r.out, "");
     EXPECT_EQ(Slurp(Path("-dash.cfg")), kBanner + "\r\nset name \"x\"\r\nwait 15\r\n");
 
-    const fs::test::CliResult equals = Run({"import", "--output=back.fsq", "--", "-dash.cfg"});
+    const flickerscribe::test::CliResult equals = Run({"import", "--output=back.fsq", "--", "-dash.cfg"});
     EXPECT_EQ(equals.status, 0) << equals.err;
     EXPECT_EQ(Slurp(Path("back.fsq")), "#v050#\r\nx\r\n15\r\n[none]\r\n");
 }
@@ -81,7 +81,7 @@ TEST_F(Cli, ImportWritesTheAnimationFile) {
         Put(Path("in.cfg"), script);
         for (const auto& args :
              {std::vector<std::string>{"import", "in.cfg"}, std::vector<std::string>{"import", "-"}}) {
-            const fs::test::CliResult r = Run(args, script);
+            const flickerscribe::test::CliResult r = Run(args, script);
             EXPECT_EQ(r.status, 0) << r.err;
             EXPECT_EQ(r.out, fsq) << testing::PrintToString(end);
         }
@@ -100,14 +100,14 @@ TEST_F(Cli, RenderRunsListsEveryPaneCharacter) {
          "FFFFFF\tc\nFFFFFF\ta\nFFFFFF\tf\nFFFFFF\t\xE9\n"},  // UTF-8 in, one byte out to a pipe
     };
     for (const auto& c : cases) {
-        const fs::test::CliResult r = Run({"render", "--runs", c.text});
+        const flickerscribe::test::CliResult r = Run({"render", "--runs", c.text});
         EXPECT_EQ(r.status, 0) << c.text << r.err;
         EXPECT_EQ(r.out, c.listing) << c.text;
     }
 }
 
 TEST_F(Cli, RenderPaintsInTerminalColours) {
-    const fs::test::CliResult r = Run({"render", "--", "-^1x"});
+    const flickerscribe::test::CliResult r = Run({"render", "--", "-^1x"});
     EXPECT_EQ(r.status, 0) << r.err;
     EXPECT_EQ(r.out, "\x1b[48;2;128;128;128m\x1b[38;2;255;255;255m-\x1b[38;2;255;0;0mx\x1b[0m\n");
 }
@@ -125,7 +125,7 @@ TEST_F(Cli, UsageErrorsEndWithStatusTwo) {
         {"render", "-x"},
     };
     for (const auto& args : cases) {
-        const fs::test::CliResult r = Run(args);
+        const flickerscribe::test::CliResult r = Run(args);
         std::string shown;
         for (const auto& a : args) shown += a + " ";
         EXPECT_EQ(r.status, 2) << shown;
@@ -135,12 +135,12 @@ TEST_F(Cli, UsageErrorsEndWithStatusTwo) {
 }
 
 TEST_F(Cli, HelpGoesToStandardOutput) {
-    const fs::test::CliResult overview = Run({"--help"});
+    const flickerscribe::test::CliResult overview = Run({"--help"});
     EXPECT_EQ(overview.status, 0);
     for (const char* command : {"generate", "import", "render"}) {
         EXPECT_NE(overview.out.find(std::string("  ") + command), std::string::npos) << command;
     }
-    const fs::test::CliResult command = Run({"generate", "--help"});
+    const flickerscribe::test::CliResult command = Run({"generate", "--help"});
     EXPECT_EQ(command.status, 0);
     EXPECT_EQ(command.out.rfind("usage: flickerscribe-cli generate [--output FILE] INPUT\n", 0), 0u)
         << command.out;
@@ -157,7 +157,7 @@ TEST_F(Cli, FilesThatCantBeReadOrWrittenEndWithStatusOne) {
         {"import", "--output", "folder", "in.fsq"},
     };
     for (const auto& args : cases) {
-        const fs::test::CliResult r = Run(args);
+        const flickerscribe::test::CliResult r = Run(args);
         EXPECT_EQ(r.status, 1) << args[1];
         EXPECT_NE(r.err.find("flickerscribe-cli: cannot "), std::string::npos) << r.err;
         EXPECT_EQ(r.out, "");
@@ -168,7 +168,7 @@ TEST_F(Cli, FilesThatCantBeReadOrWrittenEndWithStatusOne) {
 TEST_F(Cli, TheLineLimitStopsTheWorkButTheLinesThatStoodAreWritten) {
     std::string list = "names\r\n";
     for (int i = 0; i <= 32767; ++i) list += "n\r\n";  // one name too many
-    const fs::test::CliResult generated = Run({"generate", "-"}, list);
+    const flickerscribe::test::CliResult generated = Run({"generate", "-"}, list);
     EXPECT_EQ(generated.status, 3);
     EXPECT_NE(generated.err.find("32767"), std::string::npos);
     std::size_t names = 0;
@@ -180,7 +180,7 @@ TEST_F(Cli, TheLineLimitStopsTheWorkButTheLinesThatStoodAreWritten) {
 
     std::string script;
     for (int i = 0; i <= 32767; ++i) script += "set name n\r\n";
-    const fs::test::CliResult imported = Run({"import", "--output", "out.fsq", "-"}, script);
+    const flickerscribe::test::CliResult imported = Run({"import", "--output", "out.fsq", "-"}, script);
     EXPECT_EQ(imported.status, 3);
     EXPECT_EQ(Slurp(Path("out.fsq")).size(), 8u + 32767u * 15u);  // "n", "15", "[none]" per line
 }

@@ -3,7 +3,7 @@
 
 #include "CliRun.h"
 
-namespace fs::test {
+namespace flickerscribe::test {
 namespace {
 
 using Args = std::vector<std::string>;
@@ -106,4 +106,4 @@ TEST_F(EffectsCommand, BadArgumentsAndUnwritableFiles) {
 }
 
 }  // namespace
-}  // namespace fs::test
+}  // namespace flickerscribe::test

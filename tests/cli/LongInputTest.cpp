@@ -8,7 +8,7 @@
 
 namespace {
 
-using LongInput = fs::test::CliRun;
+using LongInput = flickerscribe::test::CliRun;
 
 std::size_t Count(const std::string& haystack, const std::string& needle) {
     std::size_t n = 0;
@@ -35,7 +35,7 @@ TEST_F(LongInput, RenderListsEveryCharacterOfA32767CharacterText) {
     };
     for (const auto& c : cases) {
         ASSERT_LE(c.text.size(), 32767u) << c.name;
-        const fs::test::CliResult r = Run({"render", "--runs", c.text});
+        const flickerscribe::test::CliResult r = Run({"render", "--runs", c.text});
         EXPECT_EQ(r.status, 0) << c.name << r.err;
         EXPECT_EQ(r.out.size(), c.shown * c.line.size()) << c.name;
         EXPECT_EQ(Count(r.out, c.line), c.shown) << c.name;
@@ -45,7 +45,7 @@ TEST_F(LongInput, RenderListsEveryCharacterOfA32767CharacterText) {
 TEST_F(LongInput, GenerateWritesAll32767LinesWithoutAWord) {
     std::string list = "names\r\n";
     for (int i = 1; i <= 32767; ++i) list += "n" + std::to_string(i) + "\r\n";
-    const fs::test::CliResult r = Run({"generate", "-"}, list);
+    const flickerscribe::test::CliResult r = Run({"generate", "-"}, list);
     EXPECT_EQ(r.status, 0) << r.err;
     EXPECT_EQ(r.err, "");
     EXPECT_EQ(Count(r.out, "set name"), 32767u);

@@ -3,7 +3,7 @@
 #include "colour/ColouredText.h"
 #include "colour/MemoryPane.h"
 
-namespace fs {
+namespace flickerscribe {
 namespace {
 
 constexpr Colour kRed = 0x0000FF;
@@ -70,7 +70,7 @@ TEST(EncodeRuns, PutsACodeOnlyWhereTheColourChanges) {
         EXPECT_EQ(EncodeRuns(c.runs, c.start), c.coded) << c.name;
         MemoryPane pane;
         pane.SetRuns(c.runs);
-        EXPECT_EQ(EncodeColoredText(pane, c.start), c.coded) << c.name;
+        EXPECT_EQ(EncodeColouredText(pane, c.start), c.coded) << c.name;
     }
 }
 
@@ -90,9 +90,9 @@ TEST(RenderThenEncode, GivesTheShortestCodesForWhatIsShown) {
     for (const auto& c : cases) {
         MemoryPane pane;
         RenderCodedText(c.coded, pane);
-        EXPECT_EQ(EncodeColoredText(pane, c.start), c.again) << c.coded;
+        EXPECT_EQ(EncodeColouredText(pane, c.start), c.again) << c.coded;
     }
 }
 
 }  // namespace
-}  // namespace fs
+}  // namespace flickerscribe

@@ -4,7 +4,7 @@
 
 #include "colour/MemoryPane.h"
 
-namespace fs {
+namespace flickerscribe {
 namespace {
 
 constexpr Colour kRed = 0x0000FF;
@@ -12,7 +12,7 @@ constexpr Colour kGreen = 0x00FF00;
 constexpr Colour kBlue = 0xFF0000;
 
 // Runs a short program of pane operations, one word each: s<n> SelStart,
-// l<n> SelLength, c<r|g|b> SelColor, t<text> SelText (t alone: empty),
+// l<n> SelLength, c<r|g|b> SelColour, t<text> SelText (t alone: empty),
 // T<text> Text, R<text> runs of text in green.
 void Play(MemoryPane& pane, const std::string& program) {
     std::istringstream words(program);
@@ -27,7 +27,7 @@ void Play(MemoryPane& pane, const std::string& program) {
                 pane.SetSelLength(std::stoi(arg));
                 break;
             case 'c':
-                pane.SetSelColor(colour);
+                pane.SetSelColour(colour);
                 break;
             case 't':
                 pane.SetSelText(arg);
@@ -90,7 +90,7 @@ TEST(MemoryPane, BehavesLikeARichTextBox) {
         EXPECT_EQ(pane.Text(), text) << c.name;
         EXPECT_EQ(pane.SelStart(), c.selStart) << c.name;
         EXPECT_EQ(pane.SelLength(), c.selLength) << c.name;
-        EXPECT_EQ(pane.SelColor(), c.selColor) << c.name;
+        EXPECT_EQ(pane.SelColour(), c.selColor) << c.name;
     }
 }
 
@@ -103,4 +103,4 @@ TEST(MemoryPane, LockedIsOnlyAFlag) {
 }
 
 }  // namespace
-}  // namespace fs
+}  // namespace flickerscribe

@@ -5,7 +5,7 @@
 #include <clocale>
 #include <optional>
 
-namespace fs {
+namespace flickerscribe {
 namespace {
 
 struct Case {
@@ -55,4 +55,4 @@ TEST(NumberText, IgnoresTheLocale) {
 }
 
 }  // namespace
-}  // namespace fs
+}  // namespace flickerscribe

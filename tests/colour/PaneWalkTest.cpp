@@ -1,6 +1,6 @@
 // The bulk render and encode must give exactly what the character-by-character
 // walks over a pane give. The walks below are the literal ones: caret codes
-// read at 1-based positions, one SelStart/SelLength/SelColor/SelText round per
+// read at 1-based positions, one SelStart/SelLength/SelColour/SelText round per
 // character.
 #include <gtest/gtest.h>
 
@@ -10,40 +10,40 @@
 #include "colour/MemoryPane.h"
 #include "colour/NumberText.h"
 
-namespace fs {
+namespace flickerscribe {
 namespace {
 
 void RenderByCharacter(const std::string& text, Pane& pane) {
     pane.SetText("");
-    Colour inForce = ColorFromDigit("0");
+    Colour inForce = ColourFromDigit("0");
     const int n = static_cast<int>(text.size());
     auto at = [&](int i) { return i <= n ? text.substr(static_cast<std::size_t>(i - 1), 1) : std::string(); };
     int i = 1;
     while (i <= n) {
         if (at(i) == "^") {
             ++i;
-            if (IsNumberText(at(i))) inForce = ColorFromDigit(at(i));
+            if (IsNumberText(at(i))) inForce = ColourFromDigit(at(i));
             ++i;
         }
         pane.SetSelStart(i - 1);
         pane.SetSelLength(1);
-        pane.SetSelColor(inForce);
+        pane.SetSelColour(inForce);
         pane.SetSelText(at(i));
         ++i;
     }
 }
 
-std::string EncodeByCharacter(Pane& pane, Colour startColor) {
+std::string EncodeByCharacter(Pane& pane, Colour startColour) {
     std::string result;
-    Colour last = startColor;
+    Colour last = startColour;
     const std::string text = pane.Text();
     for (int p = 0; p < static_cast<int>(text.size()); ++p) {
         pane.SetSelStart(p);
         pane.SetSelLength(1);
-        const Colour colour = pane.SelColor();
+        const Colour colour = pane.SelColour();
         if (colour != last) {
             last = colour;
-            result += "^" + DigitFromColor(colour);
+            result += "^" + DigitFromColour(colour);
         }
         result += text[static_cast<std::size_t>(p)];
     }
@@ -87,10 +87,10 @@ TEST(PaneWalks, BulkEncodeEqualsTheCharacterWalk) {
         MemoryPane pane;
         RenderCodedText(text, pane);
         for (const Colour start : starts) {
-            ASSERT_EQ(EncodeColoredText(pane, start), EncodeByCharacter(pane, start)) << text;
+            ASSERT_EQ(EncodeColouredText(pane, start), EncodeByCharacter(pane, start)) << text;
         }
     }
 }
 
 }  // namespace
-}  // namespace fs
+}  // namespace flickerscribe

@@ -2,7 +2,7 @@
 
 #include "colour/SimpleEditWalk.h"
 
-namespace fs {
+namespace flickerscribe {
 namespace {
 
 constexpr Colour kRed = Rgb(255, 0, 0);
@@ -74,4 +74,4 @@ INSTANTIATE_TEST_SUITE_P(Cases, SimpleEditWalk, testing::ValuesIn(kCases),
                          });
 
 }  // namespace
-}  // namespace fs
+}  // namespace flickerscribe

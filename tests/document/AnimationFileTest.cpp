@@ -8,7 +8,7 @@
 #include "TempFolder.h"
 #include "document/AnimationFile.h"
 
-namespace fs {
+namespace flickerscribe {
 namespace {
 
 using TextTime = std::pair<std::string, std::string>;
@@ -223,4 +223,4 @@ TEST(AnimationFile, FailedSaveLeavesTheOldFileWhole) {
 }
 
 }  // namespace
-}  // namespace fs
+}  // namespace flickerscribe

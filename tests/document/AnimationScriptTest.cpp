@@ -5,7 +5,7 @@
 
 #include "document/AnimationScript.h"
 
-namespace fs {
+namespace flickerscribe {
 namespace {
 
 std::vector<std::string> Texts(const AnimationScript& s) {
@@ -162,4 +162,4 @@ TEST(AnimationScript, BatchIsOneReset) {
 }
 
 }  // namespace
-}  // namespace fs
+}  // namespace flickerscribe

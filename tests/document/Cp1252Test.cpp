@@ -2,7 +2,7 @@
 
 #include "document/Cp1252.h"
 
-namespace fs {
+namespace flickerscribe {
 namespace {
 
 TEST(Cp1252, EveryByteSurvivesTheRoundTrip) {
@@ -30,4 +30,4 @@ TEST(Cp1252, KnownCharacters) {
 }
 
 }  // namespace
-}  // namespace fs
+}  // namespace flickerscribe

@@ -23,7 +23,7 @@
 #include "document/TextFile.h"
 #include "script/ConfigImport.h"
 
-namespace fs {
+namespace flickerscribe {
 namespace {
 
 std::string RandomBytes(std::size_t size, unsigned seed) {
@@ -230,4 +230,4 @@ TEST(HostileFiles, AFullDiskRefusesTheSaveAndKeepsTheOldFile) {
 }
 
 }  // namespace
-}  // namespace fs
+}  // namespace flickerscribe

@@ -9,7 +9,7 @@
 #include "TempFolder.h"
 #include "document/SafeWrite.h"
 
-namespace fs {
+namespace flickerscribe {
 namespace {
 
 namespace stdfs = std::filesystem;
@@ -153,4 +153,4 @@ TEST(WriteFileSafely, WritesADeviceInPlace) {
 }
 
 }  // namespace
-}  // namespace fs
+}  // namespace flickerscribe

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace fs::test {
+namespace flickerscribe::test {
 
 // A fresh folder under the system's temporary folder, removed with all it
 // holds (write permission given back first) when the test ends.
@@ -50,4 +50,4 @@ inline std::string ReadBytes(const std::string& path) {
     return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
 }
 
-}  // namespace fs::test
+}  // namespace flickerscribe::test

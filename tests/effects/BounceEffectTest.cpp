@@ -5,7 +5,7 @@
 #include "EffectTestSupport.h"
 #include "effects/EffectRun.h"
 
-namespace fs::test {
+namespace flickerscribe::test {
 namespace {
 
 using L = std::vector<std::string>;
@@ -115,4 +115,4 @@ TEST(Bounce, LinesDoublePerRepetition) {
 }
 
 }  // namespace
-}  // namespace fs::test
+}  // namespace flickerscribe::test

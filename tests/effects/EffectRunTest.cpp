@@ -3,7 +3,7 @@
 #include "EffectTestSupport.h"
 #include "effects/EffectRun.h"
 
-namespace fs::test {
+namespace flickerscribe::test {
 namespace {
 
 using L = std::vector<std::string>;
@@ -160,4 +160,4 @@ TEST(EffectRun, TheViewIsUpToDateWhileTheQuestionIsOpen) {
 }
 
 }  // namespace
-}  // namespace fs::test
+}  // namespace flickerscribe::test

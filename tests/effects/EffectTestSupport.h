@@ -8,7 +8,7 @@
 #include "document/AnimationScript.h"
 #include "effects/EffectRun.h"
 
-namespace fs::test {
+namespace flickerscribe::test {
 
 // The Text of every line, in order. Every line an effect makes carries the
 // time "15" and the action "[none]"; anything else fails the test here.
@@ -54,4 +54,4 @@ inline void CheckEffect(const EffectCase& c) {
     EXPECT_EQ(tag, c.tagAfter);
 }
 
-}  // namespace fs::test
+}  // namespace flickerscribe::test

@@ -2,7 +2,7 @@
 
 #include "effects/TextWalk.h"
 
-namespace fs {
+namespace flickerscribe {
 namespace {
 
 TEST(TextWalk, MeasuresStripsAndColoursAlike) {
@@ -28,8 +28,8 @@ TEST(TextWalk, MeasuresStripsAndColoursAlike) {
     };
     for (const auto& c : cases) {
         EXPECT_EQ(VisibleLength(c.text), c.visible) << c.text;
-        EXPECT_EQ(StripColorCodes(c.text), c.stripped) << c.text;
-        EXPECT_EQ(ColorEachCharacter(c.text), c.coloured) << c.text;
+        EXPECT_EQ(StripColourCodes(c.text), c.stripped) << c.text;
+        EXPECT_EQ(ColourEachCharacter(c.text), c.coloured) << c.text;
     }
 }
 
@@ -59,4 +59,4 @@ TEST(TextWalk, ProtectClanTagOnlyWhereTheTagHasNoColourOfItsOwn) {
 }
 
 }  // namespace
-}  // namespace fs
+}  // namespace flickerscribe

@@ -3,7 +3,7 @@
 #include "EffectTestSupport.h"
 #include "effects/EffectRun.h"
 
-namespace fs::test {
+namespace flickerscribe::test {
 namespace {
 
 using L = std::vector<std::string>;
@@ -54,4 +54,4 @@ TEST(Wave2, TypesTheNameInOneCharacterAFrame) {
 }
 
 }  // namespace
-}  // namespace fs::test
+}  // namespace flickerscribe::test

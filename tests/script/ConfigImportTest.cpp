@@ -9,7 +9,7 @@
 #include "script/ConfigImport.h"
 #include "script/ScriptText.h"
 
-namespace fs {
+namespace flickerscribe {
 namespace {
 
 struct Line {
@@ -222,4 +222,4 @@ TEST(ConfigImport, FileRoutine) {
 }
 
 }  // namespace
-}  // namespace fs
+}  // namespace flickerscribe

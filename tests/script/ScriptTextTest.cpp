@@ -5,7 +5,7 @@
 
 #include "script/ScriptText.h"
 
-namespace fs {
+namespace flickerscribe {
 namespace {
 
 std::string Banner() {
@@ -119,4 +119,4 @@ TEST(ScriptText, ActionPlaysNoPartAndTwoRunsAgree) {
 }
 
 }  // namespace
-}  // namespace fs
+}  // namespace flickerscribe

@@ -10,7 +10,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace fs::settings {
+namespace flickerscribe::settings {
 namespace {
 
 // A store in a fresh folder of its own: the user's real settings are never
@@ -33,11 +33,11 @@ TEST_P(FileStoreValues, ComeBackExactlyAsWritten) {
     const QString path = PathIn(u"Flickerscribe.conf"_s);
     {
         QSettingsStore store(path);
-        store.WriteRegistryString(u"Name"_s, GetParam().value);
+        store.WriteValue(u"Name"_s, GetParam().value);
     }
     // Another store on the same file: a later run of the program.
     const QSettingsStore again(path);
-    EXPECT_EQ(again.ReadRegistryString(u"Name"_s, u"default"_s), GetParam().value);
+    EXPECT_EQ(again.ReadValue(u"Name"_s, u"default"_s), GetParam().value);
 }
 
 INSTANTIATE_TEST_SUITE_P(Tricky, FileStoreValues,
@@ -58,8 +58,8 @@ INSTANTIATE_TEST_SUITE_P(Tricky, FileStoreValues,
 TEST_F(FileStore, ReadingNeitherCreatesTheFileNorItsFolder) {
     const QString path = PathIn(u"sub/Flickerscribe.conf"_s);
     const QSettingsStore store(path);
-    EXPECT_EQ(store.ReadRegistryString(u"OpenDir"_s), QString());
-    EXPECT_EQ(store.ReadRegistryString(u"OpenDir"_s, u"fallback"_s), u"fallback"_s);
+    EXPECT_EQ(store.ReadValue(u"OpenDir"_s), QString());
+    EXPECT_EQ(store.ReadValue(u"OpenDir"_s, u"fallback"_s), u"fallback"_s);
     (void)LoadSettings(store);
     EXPECT_FALSE(QFileInfo::exists(path));
     EXPECT_FALSE(QFileInfo::exists(PathIn(u"sub"_s)));
@@ -68,25 +68,25 @@ TEST_F(FileStore, ReadingNeitherCreatesTheFileNorItsFolder) {
 TEST_F(FileStore, WritingCreatesFolderAndFile) {
     const QString path = PathIn(u"sub/Flickerscribe.conf"_s);
     QSettingsStore store(path);
-    store.WriteRegistryString(u"SaveDir"_s, u"/home/q"_s);
+    store.WriteValue(u"SaveDir"_s, u"/home/q"_s);
     EXPECT_TRUE(QFileInfo::exists(path));
 }
 
 TEST_F(FileStore, AnEmptyTextIsStoredNotDeleted) {
     QSettingsStore store(PathIn(u"s.conf"_s));
-    store.WriteRegistryString(u"Name"_s, u"x"_s);
-    store.WriteRegistryString(u"Name"_s, QString());
-    EXPECT_EQ(store.ReadRegistryString(u"Name"_s, u"default"_s), QString());
+    store.WriteValue(u"Name"_s, u"x"_s);
+    store.WriteValue(u"Name"_s, QString());
+    EXPECT_EQ(store.ReadValue(u"Name"_s, u"default"_s), QString());
 }
 
 TEST_F(FileStore, ValuesAreSeparate) {
     QSettingsStore store(PathIn(u"s.conf"_s));
-    store.WriteRegistryString(u"OpenDir"_s, u"/a"_s);
-    store.WriteRegistryString(u"SaveDir"_s, u"/b"_s);
-    store.WriteRegistryString(u"GenerateDir"_s, u"/b"_s);
-    store.WriteRegistryString(u"OpenDir"_s, u"/c"_s);
-    EXPECT_EQ(store.ReadRegistryString(u"OpenDir"_s), u"/c"_s);
-    EXPECT_EQ(store.ReadRegistryString(u"SaveDir"_s), u"/b"_s);
+    store.WriteValue(u"OpenDir"_s, u"/a"_s);
+    store.WriteValue(u"SaveDir"_s, u"/b"_s);
+    store.WriteValue(u"GenerateDir"_s, u"/b"_s);
+    store.WriteValue(u"OpenDir"_s, u"/c"_s);
+    EXPECT_EQ(store.ReadValue(u"OpenDir"_s), u"/c"_s);
+    EXPECT_EQ(store.ReadValue(u"SaveDir"_s), u"/b"_s);
 }
 
 struct HandEditedCase {
@@ -106,7 +106,7 @@ TEST_P(HandEditedFile, ReadsAsText) {
     file.write("[General]\n" + GetParam().line + "\n");
     file.close();
     const QSettingsStore store(path);
-    EXPECT_EQ(store.ReadRegistryString(u"Name"_s, u"default"_s), GetParam().expected);
+    EXPECT_EQ(store.ReadValue(u"Name"_s, u"default"_s), GetParam().expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(Cases, HandEditedFile,
@@ -180,4 +180,4 @@ TEST(LoadSettings, AFirstRunHasEmptyTextsAndFlagsOff) {
 }
 
 }  // namespace
-}  // namespace fs::settings
+}  // namespace flickerscribe::settings

@@ -6,7 +6,7 @@
 
 #include "settings/SettingsStore.h"
 
-namespace fs::settings {
+namespace flickerscribe::settings {
 
 // A settings store in memory for tests: starts empty (a first run) or with
 // the values given, and tells what was read and whether anything was written.
@@ -15,13 +15,13 @@ public:
     MemorySettingsStore() = default;
     explicit MemorySettingsStore(QMap<QString, QString> values) : values_(std::move(values)) {}
 
-    QString ReadRegistryString(const QString& valueName, const QString& defaultValue = {}) const override {
+    QString ReadValue(const QString& valueName, const QString& defaultValue = {}) const override {
         reads_.append(valueName);
         const auto it = values_.constFind(valueName);
         return it == values_.constEnd() ? defaultValue : *it;
     }
 
-    void WriteRegistryString(const QString& valueName, const QString& value) override {
+    void WriteValue(const QString& valueName, const QString& value) override {
         values_.insert(valueName, value);
         writes_.append(valueName);
     }
@@ -39,4 +39,4 @@ private:
     QStringList writes_;
 };
 
-}  // namespace fs::settings
+}  // namespace flickerscribe::settings

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 namespace {
 
@@ -164,4 +164,4 @@ std::optional<QString> ScriptedDialogs::ClipboardText() {
     return clipboard;
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

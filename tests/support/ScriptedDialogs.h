@@ -7,7 +7,7 @@
 
 #include "ui/Dialogs.h"
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 // One question the program asked, as the test sees it afterwards.
 struct DialogCall {
@@ -84,4 +84,4 @@ private:
     std::deque<QString> folderAnswers_;
 };
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

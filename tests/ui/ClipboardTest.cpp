@@ -4,23 +4,23 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace fs::ui::testing_support {
+namespace flickerscribe::ui::testing_support {
 namespace {
 
 TEST_F(LinesTest, CopyPasteCutWorkedExample) {
     Start({"^1A/20", "^2B/30"}, 1);
     window->SetPreview();
-    window->mnuEditCopy_Click();
+    window->CopyLine();
     EXPECT_EQ(dialogs.clipboard, u"^1A"_s);
     EXPECT_EQ(Lines(), TextTimes({"^1A/20", "^2B/30"}));
 
     dialogs.clipboard = u"^3Hi there"_s;
-    window->mnuEditPaste_Click();
+    window->PasteLine();
     EXPECT_EQ(Lines(), TextTimes({"^1A/20", "^3Hi there/15", "^2B/30"}));
     EXPECT_EQ(Script().SelectedIndex(), 1);
     EXPECT_EQ(PaneRuns(), (std::vector<ColouredRun>{{"A", kRed}}));
 
-    window->mnuEditCut_Click();
+    window->CutLine();
     EXPECT_EQ(dialogs.clipboard, u"^1A"_s);
     EXPECT_EQ(Lines(), TextTimes({"^3Hi there/15", "^2B/30"}));
     EXPECT_EQ(PaneRuns(), (std::vector<ColouredRun>{{"Hi there", Rgb(255, 255, 0)}}));
@@ -45,7 +45,7 @@ TEST_P(Paste, MakesOneLineOfTheClipboardsFirstLine) {
     MarkPane();
     dialogs.clipboardUnreadable = !GetParam().clipboard;
     dialogs.clipboard = GetParam().clipboard.value_or(QString());
-    window->mnuEditPaste_Click();
+    window->PasteLine();
     EXPECT_EQ(Lines(), GetParam().expected);
     EXPECT_EQ(Script().SelectedIndex(), GetParam().selected == 0 ? 1 : GetParam().selected);
     EXPECT_EQ(PaneText(), GetParam().shown);
@@ -86,7 +86,7 @@ TEST_P(CutCopy, TakeTheSelectedLinesTextOnly) {
     Start(GetParam().start, 1);
     window->SetPreview();
     dialogs.clipboard = u"kept"_s;
-    GetParam().cut ? window->mnuEditCut_Click() : window->mnuEditCopy_Click();
+    GetParam().cut ? window->CutLine() : window->CopyLine();
     EXPECT_EQ(Lines(), GetParam().expected);
     EXPECT_EQ(dialogs.clipboard, GetParam().clipboard);
     // Cut draws the pane anew; Copy leaves it.
@@ -103,4 +103,4 @@ INSTANTIATE_TEST_SUITE_P(Cases, CutCopy,
                          testing::PrintToStringParamName());
 
 }  // namespace
-}  // namespace fs::ui::testing_support
+}  // namespace flickerscribe::ui::testing_support

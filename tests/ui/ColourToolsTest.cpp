@@ -13,12 +13,12 @@
 #include "WindowChecks.h"
 #include "colour/Pane.h"
 #include "document/AnimationScript.h"
-#include "ui/frmColorEditor.h"
-#include "ui/frmSimpleEdit.h"
+#include "ui/ColourNameEditor.h"
+#include "ui/SimpleEditWindow.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 namespace {
 
 using testing_support::ExpectFixedDialog;
@@ -75,7 +75,7 @@ std::string CaseName(const char* text) {
 
 TEST(ColorEditor, WindowAsDesigned) {
     ScriptedDialogs dialogs;
-    frmColorEditor window(dialogs);
+    ColourNameEditor window(dialogs);
     EXPECT_EQ(window.windowTitle(), u"Color name editor"_s);
     ExpectFixedDialog(window, 4515, 2265);
     ExpectLayout(window, {
@@ -119,7 +119,7 @@ class ColorEditorClipboard : public testing::TestWithParam<ClipboardCase> {};
 
 TEST_P(ColorEditorClipboard, CopiesThePaneAsCodedText) {
     ScriptedDialogs dialogs;
-    frmColorEditor window(dialogs);
+    ColourNameEditor window(dialogs);
     window.show();
     Perform(window, window.PreviewPane(), GetParam().steps);
 
@@ -136,7 +136,7 @@ INSTANTIATE_TEST_SUITE_P(Table, ColorEditorClipboard, testing::ValuesIn(kClipboa
 
 TEST(ColorEditor, EscapeClosesTheWindow) {
     ScriptedDialogs dialogs;
-    frmColorEditor window(dialogs);
+    ColourNameEditor window(dialogs);
     window.show();
     QTest::keyClick(window.findChild<QTextEdit*>(u"txtPreview"_s), Qt::Key_Escape);
     EXPECT_FALSE(window.isVisible());
@@ -148,7 +148,7 @@ TEST(ColorEditor, EscapeClosesTheWindow) {
 TEST(SimpleEdit, WindowAsDesigned) {
     AnimationScript script;
     ScriptedDialogs dialogs;
-    frmSimpleEdit window(script, dialogs);
+    SimpleEditWindow window(script, dialogs);
     EXPECT_EQ(window.windowTitle(), u"Simple edit"_s);
     EXPECT_NE(window.minimumSize(), window.maximumSize()) << "the window can be resized";
     EXPECT_EQ(window.size(), QSize(Twips(6345), Twips(4590)));
@@ -197,7 +197,7 @@ TEST_P(SimpleEditSave, ReplacesTheListWithThePaneLines) {
     script.AppendLine("older", "abc", "[none]");
     script.SelectLine(2);
     ScriptedDialogs dialogs;
-    frmSimpleEdit window(script, dialogs);
+    SimpleEditWindow window(script, dialogs);
     window.show();
     Perform(window, window.PreviewPane(), GetParam().steps);
     const std::string paneText = window.PreviewPane().Text();
@@ -220,12 +220,12 @@ INSTANTIATE_TEST_SUITE_P(Table, SimpleEditSave, testing::ValuesIn(kSaveCases),
 TEST(SimpleEdit, FullListStopsTheSaveAndTellsTheUser) {
     AnimationScript script;
     ScriptedDialogs dialogs;
-    frmSimpleEdit window(script, dialogs);
+    SimpleEditWindow window(script, dialogs);
     std::string text;
     for (int i = 0; i < kMaxLines + 2; ++i) text += "x\n";
     window.PreviewPane().SetRuns({ColouredRun{text, Rgb(0, 255, 0)}});
 
-    window.cmdSave_Click();
+    window.SaveToList();
 
     EXPECT_EQ(script.Count(), kMaxLines);
     EXPECT_EQ(script.LineAt(1).Text, "^2x");
@@ -237,7 +237,7 @@ TEST(SimpleEdit, FullListStopsTheSaveAndTellsTheUser) {
 TEST(SimpleEdit, EscapeDoesNotThrowThePaneAway) {
     AnimationScript script;
     ScriptedDialogs dialogs;
-    frmSimpleEdit window(script, dialogs);
+    SimpleEditWindow window(script, dialogs);
     window.show();
     auto* edit = window.findChild<QTextEdit*>(u"txtPreview"_s);
     QTest::keyClicks(edit, u"abc"_s);
@@ -261,7 +261,7 @@ TEST_P(SimpleEditResize, PaneFillsTheWindowBelowTheStrip) {
     const ResizeCase& c = GetParam();
     AnimationScript script;
     ScriptedDialogs dialogs;
-    frmSimpleEdit window(script, dialogs);
+    SimpleEditWindow window(script, dialogs);
     window.show();
     const auto* strip = window.findChild<QWidget*>(u"picColors"_s);
     const auto* pane = window.findChild<QWidget*>(u"txtPreview"_s);
@@ -286,4 +286,4 @@ INSTANTIATE_TEST_SUITE_P(Sizes, SimpleEditResize,
                          testing::PrintToStringParamName());
 
 }  // namespace
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -13,7 +13,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 namespace {
 
 // --- the filter text of the file dialogs
@@ -148,4 +148,4 @@ TEST(ScriptedDialogs, OnCallRunsWhileTheQuestionStands) {
 }
 
 }  // namespace
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

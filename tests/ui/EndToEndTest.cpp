@@ -24,12 +24,12 @@
 #include "MainWindowFixture.h"
 #include "colour/ColouredText.h"
 #include "ui/LineListView.h"
-#include "ui/frmScript.h"
-#include "ui/frmWizard.h"
+#include "ui/ScriptWindow.h"
+#include "ui/WizardDialog.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace fs::ui::testing_support {
+namespace flickerscribe::ui::testing_support {
 namespace {
 
 std::vector<std::string> SplitCrLf(const std::string& bytes) {
@@ -72,7 +72,7 @@ protected:
 
     // A real mouse click on line `index` (1-based) of lvwMain.
     void ClickLine(int index) {
-        LineListView* list = window->ListView();
+        LineListView* list = window->LineList();
         const QModelIndex cell = list->model()->index(index - 1, 0);
         list->scrollTo(cell);
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(cell).center());
@@ -83,7 +83,7 @@ protected:
     QString GenerateAndSave(const QString& path) {
         QString shown;
         onModal = [&](QWidget* modal) {
-            if (auto* script = qobject_cast<frmScript*>(modal)) {
+            if (auto* script = qobject_cast<ScriptWindow*>(modal)) {
                 shown = script->ScriptBox()->toPlainText();
                 dialogs.QueueSave(path);
                 script->findChild<QAction*>(u"mnuSave"_s)->trigger();
@@ -97,8 +97,8 @@ protected:
     // In the open wizard: on to the names page, types each (box, text) in
     // turn, on to the effects page, and adds `effects` there. Gives back the
     // wizard, or null when it is not where it should be.
-    frmWizard* FillWizard(const std::vector<std::pair<QString, QString>>& typed, const QStringList& effects) {
-        auto* wizard = window->findChild<frmWizard*>();
+    WizardDialog* FillWizard(const std::vector<std::pair<QString, QString>>& typed, const QStringList& effects) {
+        auto* wizard = window->findChild<WizardDialog*>();
         if (wizard == nullptr) return nullptr;
         auto* next = wizard->findChild<QPushButton*>(u"cmdNext"_s);
         QTest::mouseClick(next, Qt::LeftButton);
@@ -163,12 +163,12 @@ protected:
 TEST_F(EndToEnd, FromTheWizardToTheSavedScript) {
     Give(u"btnwizard"_s);
     // Into the tag box first: that chooses "Clantag and Name".
-    QPointer<frmWizard> wizard = FillWizard({{u"txtClanTag"_s, u"[Q]"_s}, {u"txtNameOnly_1"_s, u"^1Kat"_s}},
+    QPointer<WizardDialog> wizard = FillWizard({{u"txtClanTag"_s, u"[Q]"_s}, {u"txtNameOnly_1"_s, u"^1Kat"_s}},
                                             {u"Wave 2"_s, u"Bounce"_s});
     ASSERT_FALSE(wizard.isNull());
     ASSERT_TRUE(wizard->findChild<QRadioButton*>(u"optNameOnly_1"_s)->isChecked());
     ASSERT_EQ(wizard->findChild<QTreeWidget*>(u"lvwEffects"_s)->topLevelItemCount(), 2);
-    wizard->lvwEffects_ItemClick(1);
+    wizard->LoadEffectRow(1);
     auto* repeat = wizard->findChild<QLineEdit*>(u"txtParam1"_s);
     repeat->selectAll();
     QTest::keyClicks(repeat, u"1"_s);
@@ -193,7 +193,7 @@ TEST_F(EndToEnd, FromTheWizardToTheSavedScript) {
     play->trigger();
     ASSERT_EQ(play->text(), u"Stop"_s);
     EXPECT_TRUE(QTest::qWaitFor([&] { return PaneRuns() == RenderRuns(Script().LineAt(1).Text); }, 2000));
-    for (int tick = 0; tick <= count && window->Playing(); ++tick) window->timAni_Timer();
+    for (int tick = 0; tick <= count && window->Playing(); ++tick) window->ShowNextFrame();
     EXPECT_EQ(play->text(), u"Play"_s);
     EXPECT_EQ(PaneRuns(), RenderRuns(Script().LineAt(count).Text)) << "the last frame stays";
     EXPECT_EQ(Script().SelectedIndex(), 3);
@@ -252,7 +252,7 @@ TEST_F(EndToEnd, AnEditInThePaneSurvivesSaveAndOpen) {
     ClickLine(2);
     ASSERT_EQ(PaneText(), "ab");
     window->PreviewPane().SetSelStart(2);
-    QTest::keyClicks(window->PreviewEdit(), u"cd"_s);
+    QTest::keyClicks(window->PaneEdit(), u"cd"_s);
     EXPECT_EQ(Script().LineAt(2).Text, "^2abcd");
     window->PreviewPane().SetSelStart(1);
     window->PreviewPane().SetSelLength(2);
@@ -291,20 +291,20 @@ TEST_F(EndToEnd, OneSessionGivesEveryCommand) {
 
     // The wizard makes the first animation: a name with "Wave 2".
     Give(u"btnwizard"_s);
-    QPointer<frmWizard> wizard = FillWizard({{u"txtNameOnly_0"_s, u"^1Kat^2ryn"_s}}, {u"Wave 2"_s});
+    QPointer<WizardDialog> wizard = FillWizard({{u"txtNameOnly_0"_s, u"^1Kat^2ryn"_s}}, {u"Wave 2"_s});
     ASSERT_FALSE(wizard.isNull());
     QTest::mouseClick(wizard->findChild<QPushButton*>(u"cmdNext"_s), Qt::LeftButton);
     ASSERT_TRUE(QTest::qWaitFor([&] { return wizard.isNull(); }, 2000));
     ASSERT_GT(Script().Count(), 4);
 
     // Play to the end, and stop a second run half way.
-    window->lvwMain_ItemClick(2);
+    window->ShowClickedLine(2);
     Give(u"btnpreview"_s);
-    for (int tick = 0; tick <= Script().Count() && window->Playing(); ++tick) window->timAni_Timer();
+    for (int tick = 0; tick <= Script().Count() && window->Playing(); ++tick) window->ShowNextFrame();
     EXPECT_FALSE(window->Playing());
     Give(u"btnpreview"_s);
     EXPECT_TRUE(window->Playing());
-    window->timAni_Timer();
+    window->ShowNextFrame();
     Give(u"btnpreview"_s);
     EXPECT_FALSE(window->Playing());
 
@@ -317,14 +317,14 @@ TEST_F(EndToEnd, OneSessionGivesEveryCommand) {
 
     // Editing in the pane with the colour strip shown, then hidden again.
     Give(u"mnuEditShowColors"_s);
-    EXPECT_TRUE(window->ColorsVisible());
+    EXPECT_TRUE(window->ColoursVisible());
     EXPECT_TRUE(Named(u"mnuEditShowColors"_s)->isChecked());
-    window->lvwMain_ItemClick(1);
-    window->PreviewEdit()->setFocus();
-    QTest::keyClicks(window->PreviewEdit(), u"abc"_s);
+    window->ShowClickedLine(1);
+    window->PaneEdit()->setFocus();
+    QTest::keyClicks(window->PaneEdit(), u"abc"_s);
     QTest::mouseClick(window->findChild<QPushButton*>(u"cmdColor_3"_s), Qt::LeftButton);
     Give(u"mnuEditShowColors"_s);
-    EXPECT_FALSE(window->ColorsVisible());
+    EXPECT_FALSE(window->ColoursVisible());
     EXPECT_FALSE(Named(u"mnuEditShowColors"_s)->isChecked());
     Give(u"btnedit"_s);
 
@@ -376,4 +376,4 @@ TEST_F(EndToEnd, OneSessionGivesEveryCommand) {
 }
 
 }  // namespace
-}  // namespace fs::ui::testing_support
+}  // namespace flickerscribe::ui::testing_support

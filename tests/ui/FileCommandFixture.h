@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "MainWindowFixture.h"
-#include "ui/frmScript.h"
+#include "ui/ScriptWindow.h"
 
-namespace fs::ui::testing_support {
+namespace flickerscribe::ui::testing_support {
 
 // The four commands that go through a file dialog.
 enum class Command { Open, SaveAs, Import, SaveScript };
@@ -22,10 +22,9 @@ inline void PrintTo(Command command, std::ostream* os) {
 // window's animation, made on first use.
 class FileCommandTest : public MainWindowTest {
 protected:
-    frmScript& ScriptWindow() {
+    ScriptWindow& GeneratedScript() {
         if (!scriptWindow) {
-            scriptWindow = std::make_unique<frmScript>(Script(), dialogs, window->Settings(), window.get());
-            scriptWindow->Form_Load();
+            scriptWindow = std::make_unique<ScriptWindow>(Script(), dialogs, window->Settings(), window.get());
         }
         return *scriptWindow;
     }
@@ -42,13 +41,13 @@ protected:
             case Command::Import:
                 return window->ImportScript();
             case Command::SaveScript:
-                return ScriptWindow().SaveScript();
+                return GeneratedScript().SaveScript();
         }
     }
     QString PathOf(const QString& name) const { return dir.filePath(name); }
 
     QTemporaryDir dir;
-    std::unique_ptr<frmScript> scriptWindow;
+    std::unique_ptr<ScriptWindow> scriptWindow;
 };
 
-}  // namespace fs::ui::testing_support
+}  // namespace flickerscribe::ui::testing_support

@@ -14,9 +14,9 @@
 #include "FileTestSupport.h"
 #include "document/SafeWrite.h"
 #include "ui/LineListView.h"
-#include "ui/frmScript.h"
+#include "ui/ScriptWindow.h"
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 // Readable names for the test tables.
 inline void PrintTo(MsgAnswer answer, std::ostream* os) {
@@ -58,14 +58,14 @@ TEST_P(FileDialogs, CancelChangesNothingAndTheFolderIsTheSettingOfTheMoment) {
     const DialogCase& c = GetParam();
     AddLines({"a", "b"});
     const auto useFolders = [this](const QString& open, const QString& save) {
-        store.WriteRegistryString(u"OpenDir"_s, open);
-        store.WriteRegistryString(u"SaveDir"_s, save);
+        store.WriteValue(u"OpenDir"_s, open);
+        store.WriteValue(u"SaveDir"_s, save);
         window->LoadSettings();
     };
     useFolders(u"/before"_s, u"/before"_s);
     Run(c.command, {std::nullopt});
     useFolders(c.openDir, c.saveDir);
-    (c.command == Command::SaveScript ? ScriptWindow().dlgFileOps : window->dlgFileOps).InitDir = u"/last"_s;
+    (c.command == Command::SaveScript ? GeneratedScript().SaveDialog() : window->FileDialog()).InitDir = u"/last"_s;
     dialogs.ClearCalls();
     Run(c.command, {std::nullopt});
 
@@ -173,7 +173,7 @@ TEST_P(FailedSave, KeepsTheOldFileAndTheTextAndTellsTheError) {
     const auto [command, readOnlyFolder] = GetParam();
     if (readOnlyFolder && ::geteuid() == 0) GTEST_SKIP() << "root writes into any folder";
     AddLines({"a"});
-    const QString shownText = ScriptWindow().ScriptBox()->toPlainText();
+    const QString shownText = GeneratedScript().ScriptBox()->toPlainText();
     const QByteArray locked = QFile::encodeName(PathOf(u"locked"_s));
     ASSERT_TRUE(QDir(dir.path()).mkdir(u"locked"_s) && ::chmod(locked.constData(), 0555) == 0);
     const QString path = PathOf(readOnlyFolder ? u"locked/new"_s : u"old"_s);
@@ -189,7 +189,7 @@ TEST_P(FailedSave, KeepsTheOldFileAndTheTextAndTellsTheError) {
     EXPECT_EQ(Asked(dialogs).last(), u"message Error [stop]: Error saving script!\n%1\n%2"_s.arg(error).arg(
                                          QString::fromLocal8Bit(std::strerror(error))));
     EXPECT_EQ(ReadBytes(path), readOnlyFolder ? "<no file>" : "old");
-    EXPECT_EQ(ScriptWindow().ScriptBox()->toPlainText(), shownText);
+    EXPECT_EQ(GeneratedScript().ScriptBox()->toPlainText(), shownText);
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, FailedSave,
@@ -204,7 +204,7 @@ TEST_F(FileCommands, SaveAsOpenAndImportOfASavedScriptGiveTheLinesBackAndShowThe
     window->NewAnimation();
     Run(Command::Open, {PathOf(u"anim.fsq"_s)});
     EXPECT_EQ(ScriptLines(), (Lines{{"^1Hi", "15"}, {"\xE9 x", "abc"}}));
-    EXPECT_EQ(window->ListView()->model()->rowCount(), 2);
+    EXPECT_EQ(window->LineList()->model()->rowCount(), 2);
     EXPECT_EQ(Script().SelectedIndex(), 1);
 
     Script().SetLineTime(2, "7");
@@ -233,4 +233,4 @@ INSTANTIATE_TEST_SUITE_P(Table, TooLong, testing::Values(Command::Open, Command:
                          testing::PrintToStringParamName());
 
 }  // namespace
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -8,7 +8,7 @@
 
 #include "ScriptedDialogs.h"
 
-namespace fs::ui::testing_support {
+namespace flickerscribe::ui::testing_support {
 
 inline std::string ReadBytes(const QString& path) {
     QFile file(path);
@@ -36,4 +36,4 @@ inline QStringList Asked(const ScriptedDialogs& dialogs) {
     return out;
 }
 
-}  // namespace fs::ui::testing_support
+}  // namespace flickerscribe::ui::testing_support

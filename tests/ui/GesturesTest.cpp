@@ -18,16 +18,16 @@
 
 #include "LineTestSupport.h"
 #include "ui/LineListView.h"
-#include "ui/frmColorEditor.h"
-#include "ui/frmEdit.h"
-#include "ui/frmHelp.h"
-#include "ui/frmOptions.h"
-#include "ui/frmSimpleEdit.h"
-#include "ui/frmWizard.h"
+#include "ui/ColourNameEditor.h"
+#include "ui/EditTimeDialog.h"
+#include "ui/HelpDialog.h"
+#include "ui/OptionsDialog.h"
+#include "ui/SimpleEditWindow.h"
+#include "ui/WizardDialog.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace fs::ui::testing_support {
+namespace flickerscribe::ui::testing_support {
 namespace {
 
 // A dialog of the program, made for one table row, with what the test looks
@@ -48,17 +48,17 @@ public:
 
     QDialog& Open(const QString& name) {
         if (name == u"frmWizard"_s) {
-            dialog = std::make_unique<frmWizard>(Script(), dialogs, window->Settings());
+            dialog = std::make_unique<WizardDialog>(Script(), dialogs, window->Settings());
         } else if (name == u"frmEdit"_s) {
-            dialog = std::make_unique<frmEdit>(Script());
+            dialog = std::make_unique<EditTimeDialog>(Script());
         } else if (name == u"frmOptions"_s) {
-            dialog = std::make_unique<frmOptions>(store, dialogs, [] {});
+            dialog = std::make_unique<OptionsDialog>(store, dialogs, [] {});
         } else if (name == u"frmHelp"_s) {
-            dialog = std::make_unique<frmHelp>(dialogs);
+            dialog = std::make_unique<HelpDialog>(dialogs);
         } else if (name == u"frmColorEditor"_s) {
-            dialog = std::make_unique<frmColorEditor>(dialogs);
+            dialog = std::make_unique<ColourNameEditor>(dialogs);
         } else {
-            dialog = std::make_unique<frmSimpleEdit>(Script(), dialogs);
+            dialog = std::make_unique<SimpleEditWindow>(Script(), dialogs);
         }
         dialog->show();
         return *dialog;
@@ -69,9 +69,9 @@ public:
         EXPECT_NE(found, nullptr) << name.toStdString();
         return found;
     }
-    frmWizard& Wizard() { return static_cast<frmWizard&>(*dialog); }
+    WizardDialog& Wizard() { return static_cast<WizardDialog&>(*dialog); }
     void ToWizardPage(int page) {
-        while (Wizard().CurrentPage() < page) Wizard().cmdNext_Click();
+        while (Wizard().CurrentPage() < page) Wizard().NextPage();
     }
 
     std::unique_ptr<QDialog> dialog;
@@ -148,7 +148,7 @@ INSTANTIATE_TEST_SUITE_P(
                       t.ToWizardPage(3);
                       editorShown = false;
                       QTimer::singleShot(0, [] {
-                          if (auto* editor = qobject_cast<frmColorEditor*>(QApplication::activeModalWidget())) {
+                          if (auto* editor = qobject_cast<ColourNameEditor*>(QApplication::activeModalWidget())) {
                               editorShown = true;
                               editor->close();
                           }
@@ -230,12 +230,12 @@ const BoxCase kBoxes[] = {
     {"ListInPlace",
      [](Gestures& g) -> QLineEdit* {
          Gestures& t = g;
-         t.store.WriteRegistryString(u"EditItem"_s, u"1"_s);
+         t.store.WriteValue(u"EditItem"_s, u"1"_s);
          t.MakeWindow();
          t.Start({"old/15"}, 1);
          t.window->show();
          if (!QTest::qWaitForWindowExposed(t.window.get())) return nullptr;
-         LineListView* list = t.window->ListView();
+         LineListView* list = t.window->LineList();
          QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
                            list->visualRect(list->model()->index(0, 0)).center());
          QLineEdit* editor = nullptr;
@@ -281,7 +281,7 @@ INSTANTIATE_TEST_SUITE_P(Boxes, PastedBreak,
 
 struct SelectCase {
     const char* name;
-    std::function<void(frmMain&, LineListView*)> gesture;
+    std::function<void(MainWindow&, LineListView*)> gesture;
     int selected;  // the line typed into
     friend void PrintTo(const SelectCase& c, std::ostream* os) { *os << c.name; }
 };
@@ -293,9 +293,9 @@ TEST_P(SelectThenType, EditsOnlyTheNewlySelectedLine) {
     Start(lines, 2);
     window->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
-    GetParam().gesture(*window, window->ListView());
+    GetParam().gesture(*window, window->LineList());
     ASSERT_EQ(Script().SelectedIndex(), GetParam().selected);
-    QTest::keyClicks(window->PreviewEdit(), u"!"_s);
+    QTest::keyClicks(window->PaneEdit(), u"!"_s);
 
     TextTimes expected = lines;
     if (GetParam().name == std::string("Remove")) expected.erase(expected.begin() + 1);
@@ -307,23 +307,23 @@ TEST_P(SelectThenType, EditsOnlyTheNewlySelectedLine) {
 QPoint Row(LineListView* list, int row) {
     return list->visualRect(list->model()->index(row, 0)).center();
 }
-std::function<void(frmMain&, LineListView*)> Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-    return [key, modifiers](frmMain&, LineListView* list) { QTest::keyClick(list, key, modifiers); };
+std::function<void(MainWindow&, LineListView*)> Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    return [key, modifiers](MainWindow&, LineListView* list) { QTest::keyClick(list, key, modifiers); };
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Gestures, SelectThenType,
     testing::Values(
         SelectCase{"LeftClick",
-                   [](frmMain&, LineListView* l) { QTest::mouseClick(l->viewport(), Qt::LeftButton, {}, Row(l, 3)); },
+                   [](MainWindow&, LineListView* l) { QTest::mouseClick(l->viewport(), Qt::LeftButton, {}, Row(l, 3)); },
                    4},
         SelectCase{"RightClick",
-                   [](frmMain&, LineListView* l) {
+                   [](MainWindow&, LineListView* l) {
                        QTest::mouseClick(l->viewport(), Qt::RightButton, {}, Row(l, 2));
                    },
                    3},
         SelectCase{"Drag",
-                   [](frmMain&, LineListView* l) {
+                   [](MainWindow&, LineListView* l) {
                        QTest::mousePress(l->viewport(), Qt::LeftButton, {}, Row(l, 1));
                        QTest::mouseMove(l->viewport(), Row(l, 2));
                        QTest::mouseMove(l->viewport(), Row(l, 3));
@@ -334,19 +334,19 @@ INSTANTIATE_TEST_SUITE_P(
         SelectCase{"PageUp", Key(Qt::Key_PageUp), 1}, SelectCase{"Home", Key(Qt::Key_Home), 1},
         SelectCase{"End", Key(Qt::Key_End), 4},
         // The toolbar's Remove selects the line behind the removed one.
-        SelectCase{"Remove", [](frmMain& w, LineListView*) { w.tlbMain_ButtonClick(u"btnremove"_s); }, 2}),
+        SelectCase{"Remove", [](MainWindow& w, LineListView*) { w.RunToolbarCommand(u"btnremove"_s); }, 2}),
     testing::PrintToStringParamName());
 
 // --- the main window by keyboard and at its edges
 
 TEST_F(LinesTest, InPlaceEditKeepsALongTextWholeAndWritesNothingUnchanged) {
-    store.WriteRegistryString(u"EditItem"_s, u"1"_s);
+    store.WriteValue(u"EditItem"_s, u"1"_s);
     MakeWindow();
     const std::string text(40000, 'x');
     Start({text + "/15", text + "/15"}, 1);
     window->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
-    LineListView* list = window->ListView();
+    LineListView* list = window->LineList();
     int writes = 0;
     QObject::connect(list->model(), &QAbstractItemModel::dataChanged, [&] { ++writes; });
     const auto editor = [list] { return list->viewport()->findChild<QLineEdit*>(); };
@@ -368,18 +368,18 @@ TEST_F(LinesTest, InPlaceEditKeepsALongTextWholeAndWritesNothingUnchanged) {
 
 TEST_F(LinesTest, TabReachesTheColourStripAndSpaceColoursThePanesSelection) {
     Start({"abcd/15"}, 1);
-    window->ToggleColors();
+    window->ToggleColours();
     window->show();
     window->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-    QTextEdit* pane = window->PreviewEdit();
+    QTextEdit* pane = window->PaneEdit();
     pane->setFocus();
     QTest::keyClick(pane, Qt::Key_Home);
     QTest::keyClick(pane, Qt::Key_Right);
     QTest::keyClick(pane, Qt::Key_Right, Qt::ShiftModifier);
     QTest::keyClick(pane, Qt::Key_Right, Qt::ShiftModifier);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    EXPECT_EQ(QApplication::focusWidget(), window->ListView());
+    EXPECT_EQ(QApplication::focusWidget(), window->LineList());
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     ASSERT_EQ(QApplication::focusWidget()->objectName(), u"cmdColor_1"_s);
@@ -391,7 +391,7 @@ TEST_F(LinesTest, NoControlMovesAndNoColumnHidesWhileTheWindowIsUsed) {
     FillTo(200);
     window->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
-    LineListView* list = window->ListView();
+    LineListView* list = window->LineList();
     ASSERT_TRUE(QTest::qWaitFor([&] { return list->verticalScrollBar()->isVisible(); }));
     EXPECT_FALSE(list->horizontalScrollBar()->isVisible()) << "the three columns fit beside the scroll bar";
 
@@ -433,4 +433,4 @@ TEST_F(Gestures, SimpleEditPastesPlainTextInTheColourChosen) {
 }
 
 }  // namespace
-}  // namespace fs::ui::testing_support
+}  // namespace flickerscribe::ui::testing_support

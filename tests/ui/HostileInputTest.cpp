@@ -18,9 +18,9 @@
 #include "document/TextFile.h"
 #include "script/ScriptText.h"
 #include "ui/LineListView.h"
-#include "ui/frmScript.h"
+#include "ui/ScriptWindow.h"
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 namespace {
 
 using namespace testing_support;
@@ -39,7 +39,7 @@ class FolderAsFile : public HostileInput, public testing::WithParamInterface<Com
 
 TEST_P(FolderAsFile, SavingIntoAFolderNameTellsTheErrorAndLosesNothing) {
     AddLines({"a", "b"});
-    const QString shownScript = ScriptWindow().ScriptBox()->toPlainText();
+    const QString shownScript = GeneratedScript().ScriptBox()->toPlainText();
     ASSERT_TRUE(QDir(dir.path()).mkdir(u"folder"_s));
     WriteBytes(dir.filePath(u"folder/inside.fsq"_s), "kept");
     Run(GetParam(), {dir.filePath(u"folder"_s)});
@@ -51,7 +51,7 @@ TEST_P(FolderAsFile, SavingIntoAFolderNameTellsTheErrorAndLosesNothing) {
     EXPECT_EQ(ReadBytes(dir.filePath(u"folder/inside.fsq"_s)), "kept");
     EXPECT_EQ(QDir(dir.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries), QStringList{u"folder"_s});
     EXPECT_EQ(Texts(), (std::vector<std::string>{"a", "b"}));
-    EXPECT_EQ(ScriptWindow().ScriptBox()->toPlainText(), shownScript);
+    EXPECT_EQ(GeneratedScript().ScriptBox()->toPlainText(), shownScript);
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, FolderAsFile, testing::Values(Command::SaveAs, Command::SaveScript));
@@ -80,7 +80,7 @@ TEST_P(RandomFile, OpensOrImportsWithoutAWord) {
     } else {
         EXPECT_TRUE(Texts().empty());
     }
-    EXPECT_EQ(window->ListView()->model()->rowCount(), Script().Count());
+    EXPECT_EQ(window->LineList()->model()->rowCount(), Script().Count());
     EXPECT_EQ(ReadBytes(path), bytes);
 }
 
@@ -107,10 +107,10 @@ TEST_P(LongPreview, ShowsA32767CharacterLineAndTakesTypingAtItsEnd) {
     Script().SelectLine(1);
     window->SetPreview();
     EXPECT_EQ(PaneText().size(), c.shown);
-    EXPECT_EQ(window->PreviewEdit()->toPlainText().size(), qsizetype(c.shown));
+    EXPECT_EQ(window->PaneEdit()->toPlainText().size(), qsizetype(c.shown));
     EXPECT_EQ(window->PreviewPane().SelStart(), int(c.shown));
 
-    QTest::keyClicks(window->PreviewEdit(), u"z"_s);
+    QTest::keyClicks(window->PaneEdit(), u"z"_s);
     const std::string& line = Script().LineAt(1).Text;
     EXPECT_EQ(RenderRuns(line), RenderRuns(c.text + "z"));
     EXPECT_EQ(PaneText().size(), c.shown + 1);
@@ -136,8 +136,8 @@ TEST_F(HostileInput, TheScriptWindowShowsAndSavesAFullList) {
     }
     // The file is what the box shows, ended by a line break.
     const std::string expected = BuildScriptText(Script(), nullptr) + "\r\n";
-    EXPECT_EQ(ScriptWindow().ScriptBox()->blockCount(), 1 + 7 + 2 * kMaxLines);
-    EXPECT_EQ(ScriptWindow().ScriptBox()->toPlainText().endsWith(u"set name \"n32767\"\nwait 7"_s), true);
+    EXPECT_EQ(GeneratedScript().ScriptBox()->blockCount(), 1 + 7 + 2 * kMaxLines);
+    EXPECT_EQ(GeneratedScript().ScriptBox()->toPlainText().endsWith(u"set name \"n32767\"\nwait 7"_s), true);
 
     Run(Command::SaveScript, {dir.filePath(u"full.cfg"_s)});
     // Compared whole: a failure shows where the file first differs, not a
@@ -152,4 +152,4 @@ TEST_F(HostileInput, TheScriptWindowShowsAndSavesAFullList) {
 }
 
 }  // namespace
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

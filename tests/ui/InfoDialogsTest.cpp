@@ -10,12 +10,12 @@
 #include "WindowChecks.h"
 #include "colour/Palette.h"
 #include "colour/Pane.h"
-#include "ui/frmAbout.h"
-#include "ui/frmHelp.h"
+#include "ui/AboutDialog.h"
+#include "ui/HelpDialog.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 namespace {
 
 using testing_support::ExpectFixedDialog;
@@ -28,7 +28,7 @@ constexpr Colour kGreen = Rgb(0, 255, 0);
 
 // Each address shows whole, on a line of its own, in the dialog's font.
 TEST(About, ShowsTheAddressesWhole) {
-    frmAbout window;
+    AboutDialog window;
     EXPECT_EQ(window.windowTitle(), u"About Flickerscribe"_s);
     const auto* label = window.findChild<QLabel*>(u"Label1"_s);
     EXPECT_EQ(label->font(), window.font());
@@ -45,7 +45,7 @@ TEST(About, CodedTextHasTheBuildVersion) {
 }
 
 TEST(About, PaneShowsNameVersionAndMakerInTheirColours) {
-    frmAbout window;
+    AboutDialog window;
     // A line break shows in the colour of the character in front of it.
     const std::vector<ColouredRun> expected = {
         {"Flicker", kRed}, {"scribe\n\nVersion ", kWhite}, {"0.5.0\nMade by ", kBlack},
@@ -64,7 +64,7 @@ struct AboutKey {
 class AboutCloses : public testing::TestWithParam<AboutKey> {};
 
 TEST_P(AboutCloses, ByKey) {
-    frmAbout window;
+    AboutDialog window;
     window.show();
     QTest::keyClick(&window, GetParam().key);
     EXPECT_FALSE(window.isVisible());
@@ -80,7 +80,7 @@ INSTANTIATE_TEST_SUITE_P(Keys, AboutCloses,
 
 TEST(Help, EveryBoxShowsItsWholeValue) {
     ScriptedDialogs dialogs;
-    frmHelp window(dialogs);
+    HelpDialog window(dialogs);
     EXPECT_EQ(window.windowTitle(), u"Help!!"_s);
     const QStringList values{u"http://www.qzt-clan.example/flickerscribe"_s,
                              u"http://www.qzt-clan.example/flickerscribe/forums/index.php"_s,
@@ -106,7 +106,7 @@ class HelpCopy : public testing::TestWithParam<CopyCase> {};
 TEST_P(HelpCopy, PutsTheFixedValueOnTheClipboard) {
     ScriptedDialogs dialogs;
     dialogs.clipboard = u"something else"_s;
-    frmHelp window(dialogs);
+    HelpDialog window(dialogs);
     window.show();
     // What the box shows doesn't matter: the button copies the constant.
     auto* box = window.findChild<QLineEdit*>(QString::fromLatin1(GetParam().box));
@@ -132,4 +132,4 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& info) { return std::string(info.param.button); });
 
 }  // namespace
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -6,10 +6,10 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace fs::ui::testing_support {
+namespace flickerscribe::ui::testing_support {
 namespace {
 
-using Run = std::function<void(frmMain&, ScriptedDialogs&)>;
+using Run = std::function<void(MainWindow&, ScriptedDialogs&)>;
 
 struct CommandCase {
     const char* name;
@@ -41,7 +41,7 @@ TEST_P(LineCommand, ChangesTheListAsTheCommandSays) {
     EXPECT_EQ(Lines(), c.expected);
     EXPECT_EQ(Script().SelectedIndex(), c.selectedAfter);
     if (c.selectedAfter > 0) {
-        EXPECT_EQ(window->ListView()->currentIndex().row(), c.selectedAfter - 1);
+        EXPECT_EQ(window->LineList()->currentIndex().row(), c.selectedAfter - 1);
     }
     EXPECT_EQ(PaneText(), selectedText() == before ? "marker" : selectedText());
     for (const DialogCall& input : dialogs.CallsOf(DialogCall::Kind::InputBox)) {
@@ -59,16 +59,16 @@ TEST_P(LineCommand, ChangesTheListAsTheCommandSays) {
     }
 }
 
-const Run kAfter = [](frmMain& w, ScriptedDialogs&) { w.AddLine(true); };
-const Run kBefore = [](frmMain& w, ScriptedDialogs&) { w.AddLine(false); };
-const Run kRemove = [](frmMain& w, ScriptedDialogs&) { w.RemoveSelectedLine(); };
-const Run kEdit = [](frmMain& w, ScriptedDialogs&) { w.EditSelectedLine(); };
+const Run kAfter = [](MainWindow& w, ScriptedDialogs&) { w.AddLine(true); };
+const Run kBefore = [](MainWindow& w, ScriptedDialogs&) { w.AddLine(false); };
+const Run kRemove = [](MainWindow& w, ScriptedDialogs&) { w.RemoveSelectedLine(); };
+const Run kEdit = [](MainWindow& w, ScriptedDialogs&) { w.EditSelectedLine(); };
 Run Copy(int mode) {
-    return [mode](frmMain& w, ScriptedDialogs&) { w.CopyLines(mode); };
+    return [mode](MainWindow& w, ScriptedDialogs&) { w.CopyLines(mode); };
 }
 // "Copy selected line x times" with this answer; nullopt is Cancel.
 Run Times(std::optional<QString> answer) {
-    return [answer](frmMain& w, ScriptedDialogs& d) {
+    return [answer](MainWindow& w, ScriptedDialogs& d) {
         d.QueueInput(answer);
         w.CopyLines(2);
     };
@@ -145,8 +145,8 @@ INSTANTIATE_TEST_SUITE_P(
                     LimitCase{"CopyTimes", kMaxLines - 2, Times(u"5"_s)},
                     LimitCase{"CopyAll", 20000, Copy(3)}, LimitCase{"CopyAllReversed", 20000, Copy(4)},
                     LimitCase{"Paste", kMaxLines,
-                              [](frmMain& w, ScriptedDialogs&) { w.mnuEditPaste_Click(); }}),
+                              [](MainWindow& w, ScriptedDialogs&) { w.PasteLine(); }}),
     testing::PrintToStringParamName());
 
 }  // namespace
-}  // namespace fs::ui::testing_support
+}  // namespace flickerscribe::ui::testing_support

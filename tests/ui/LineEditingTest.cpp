@@ -8,11 +8,11 @@
 
 #include "LineTestSupport.h"
 #include "ui/LineListView.h"
-#include "ui/frmEdit.h"
+#include "ui/EditTimeDialog.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace fs::ui::testing_support {
+namespace flickerscribe::ui::testing_support {
 namespace {
 
 struct TypedCase {
@@ -35,7 +35,7 @@ TEST_P(TypedInThePane, ReachesTheLineInNormalForm) {
     if (GetParam().caret >= 0) window->PreviewPane().SetSelStart(GetParam().caret);
     const int caret = window->PreviewPane().SelStart();
     const auto shownBefore = static_cast<int>(PaneText().size());
-    QTest::keyClicks(window->PreviewEdit(), QString::fromLatin1(GetParam().typed));
+    QTest::keyClicks(window->PaneEdit(), QString::fromLatin1(GetParam().typed));
     EXPECT_EQ(Lines(), TextTimes({std::string(GetParam().after) + "/30", "other/20"}));
     const int moved = static_cast<int>(PaneText().size()) - shownBefore;
     EXPECT_EQ(window->PreviewPane().SelStart(), caret + moved);
@@ -60,7 +60,7 @@ TEST_F(LinesTest, TextDroppedIntoThePaneArrivesPlainOnOneLine) {
     QMimeData mime;
     mime.setText(u"one\r\ntwo\nthree"_s);
     mime.setHtml(u"<p style=\"color:#ff0000\">one</p><p>two</p>"_s);
-    QWidget* viewport = window->PreviewEdit()->viewport();
+    QWidget* viewport = window->PaneEdit()->viewport();
     const QPoint at(viewport->width() - 2, viewport->height() / 2);
     QDragEnterEvent enter(at, Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(viewport, &enter);
@@ -90,7 +90,7 @@ TEST_P(ColourButton, ColoursTheSelectionOrWhatIsTypedNext) {
     Named<QPushButton>(u"cmdColor_%1"_s.arg(c.button))->click();
     EXPECT_EQ(window->PreviewPane().SelStart(), c.selStart) << "the caret at the start of the stretch";
     EXPECT_EQ(window->PreviewPane().SelLength(), 0);
-    QTest::keyClicks(window->PreviewEdit(), QString::fromLatin1(c.typedAfter));
+    QTest::keyClicks(window->PaneEdit(), QString::fromLatin1(c.typedAfter));
     EXPECT_EQ(Script().LineAt(1).Text, c.after);
 }
 
@@ -104,7 +104,7 @@ INSTANTIATE_TEST_SUITE_P(Cases, ColourButton,
 
 struct StateCase {
     const char* name;
-    std::function<void(frmMain&)> enter;
+    std::function<void(MainWindow&)> enter;
     bool reachesTheLine;
     friend void PrintTo(const StateCase& c, std::ostream* os) { *os << c.name; }
 };
@@ -117,8 +117,8 @@ TEST_P(PaneState, DecidesWhetherAChangeReachesTheLine) {
     Start(kABC, 2);
     window->SetPreview();
     GetParam().enter(*window);
-    window->PreviewEdit()->moveCursor(QTextCursor::End);
-    window->PreviewEdit()->insertPlainText(u"!"_s);
+    window->PaneEdit()->moveCursor(QTextCursor::End);
+    window->PaneEdit()->insertPlainText(u"!"_s);
     TextTimes expected = Script().Count() > 0 ? kABC : TextTimes{};
     if (GetParam().reachesTheLine) expected[Script().SelectedIndex() - 1].insert(1, "!");
     EXPECT_EQ(Lines(), expected);
@@ -127,16 +127,16 @@ TEST_P(PaneState, DecidesWhetherAChangeReachesTheLine) {
 
 INSTANTIATE_TEST_SUITE_P(
     States, PaneState,
-    testing::Values(StateCase{"Editing", [](frmMain&) {}, true},
+    testing::Values(StateCase{"Editing", [](MainWindow&) {}, true},
                     // The pane follows the selection: C is shown and edited.
-                    StateCase{"AnotherLineSelected", [](frmMain& w) { w.Script().SelectLine(3); }, true},
-                    StateCase{"AllRemoved", [](frmMain& w) { w.NewAnimation(); }, false},
-                    StateCase{"Drawing", [](frmMain& w) { w.PreviewBusy = true; }, false},
-                    StateCase{"Playing", [](frmMain& w) { w.TogglePlayback(); }, false},
+                    StateCase{"AnotherLineSelected", [](MainWindow& w) { w.Script().SelectLine(3); }, true},
+                    StateCase{"AllRemoved", [](MainWindow& w) { w.NewAnimation(); }, false},
+                    StateCase{"Drawing", [](MainWindow& w) { w.SetPreviewBusy(true); }, false},
+                    StateCase{"Playing", [](MainWindow& w) { w.TogglePlayback(); }, false},
                     StateCase{"PlayingAfterAClick",
-                              [](frmMain& w) {
+                              [](MainWindow& w) {
                                   w.TogglePlayback();
-                                  w.lvwMain_ItemClick(1);
+                                  w.ShowClickedLine(1);
                               },
                               false}),
     testing::PrintToStringParamName());
@@ -148,10 +148,10 @@ TEST_F(LinesTest, OnlyTheCtrlKeyTakesTheFocusFromThePaneToTheList) {
     window->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     for (Qt::Key key : {Qt::Key_Shift, Qt::Key_Alt, Qt::Key_Q, Qt::Key_Control}) {
-        window->PreviewEdit()->setFocus();
-        QTest::keyPress(window->PreviewEdit(), key);
+        window->PaneEdit()->setFocus();
+        QTest::keyPress(window->PaneEdit(), key);
         QTest::keyRelease(QApplication::focusWidget(), key);
-        EXPECT_EQ(QApplication::focusWidget() == window->ListView(), key == Qt::Key_Control) << key;
+        EXPECT_EQ(QApplication::focusWidget() == window->LineList(), key == Qt::Key_Control) << key;
     }
 }
 
@@ -173,7 +173,7 @@ class KeyInTheList : public LinesTest, public testing::WithParamInterface<ListKe
 TEST_P(KeyInTheList, ActsThenShowsTheSelectedLine) {
     Start(GetParam().start, GetParam().selected);
     MarkPane();
-    QTest::keyClick(window->ListView(), GetParam().key, GetParam().modifiers);
+    QTest::keyClick(window->LineList(), GetParam().key, GetParam().modifiers);
     EXPECT_EQ(Lines(), GetParam().expected);
     EXPECT_EQ(PaneText(), GetParam().shown);
     EXPECT_EQ(PaneLocked(), GetParam().expected.empty());
@@ -213,12 +213,12 @@ class InPlaceEdit : public LinesTest, public testing::WithParamInterface<InPlace
 // With the setting on, a click on the selected line's text opens an editor
 // whose text goes straight to the line; the pane isn't redrawn.
 TEST_P(InPlaceEdit, OpensOnlyOnTheSelectedLinesText) {
-    store.WriteRegistryString(u"EditItem"_s, QString::fromLatin1(GetParam().setting));
+    store.WriteValue(u"EditItem"_s, QString::fromLatin1(GetParam().setting));
     MakeWindow();
     Start(kABC, 2);
     window->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
-    LineListView* list = window->ListView();
+    LineListView* list = window->LineList();
     const QRect cell = list->visualRect(list->model()->index(1, GetParam().column));
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, cell.center());
     // The editor waits until the click can no longer become a double click.
@@ -247,7 +247,7 @@ TEST_F(LinesTest, EditButtonOpensTheEditDialogModallyOverTheMainWindow) {
     bool seen = false;
     QTimer::singleShot(0, window.get(), [&] {
         QWidget* modal = QApplication::activeModalWidget();
-        auto* edit = qobject_cast<frmEdit*>(modal);
+        auto* edit = qobject_cast<EditTimeDialog*>(modal);
         seen = edit != nullptr && edit->parentWidget() == window.get();
         if (!seen) {
             if (modal) modal->close();
@@ -256,10 +256,10 @@ TEST_F(LinesTest, EditButtonOpensTheEditDialogModallyOverTheMainWindow) {
         edit->findChild<QLineEdit*>(u"txtTime"_s)->setText(u"25"_s);
         edit->findChild<QPushButton*>(u"cmdOK"_s)->click();
     });
-    window->tlbMain_ButtonClick(u"btnedit"_s);
+    window->RunToolbarCommand(u"btnedit"_s);
     EXPECT_TRUE(seen);
     EXPECT_EQ(Lines(), TextTimes({"A/10", "B/25", "C/30"}));
 }
 
 }  // namespace
-}  // namespace fs::ui::testing_support
+}  // namespace flickerscribe::ui::testing_support

@@ -6,7 +6,7 @@
 #include "MainWindowFixture.h"
 #include "colour/ColouredText.h"
 
-namespace fs::ui::testing_support {
+namespace flickerscribe::ui::testing_support {
 
 // Lines written "text/time", all with the action "[none]".
 using TextTimes = std::vector<std::string>;
@@ -34,9 +34,9 @@ protected:
     // Draws a text into the pane without touching the list: a later look at
     // the pane tells whether SetPreview ran since.
     void MarkPane() {
-        window->PreviewBusy = true;
+        window->SetPreviewBusy(true);
         RenderCodedText("marker", window->PreviewPane());
-        window->PreviewBusy = false;
+        window->SetPreviewBusy(false);
     }
 
     void FillTo(int count) {
@@ -47,4 +47,4 @@ protected:
 
 inline const TextTimes kABC = {"A/10", "B/20", "C/30"};
 
-}  // namespace fs::ui::testing_support
+}  // namespace flickerscribe::ui::testing_support

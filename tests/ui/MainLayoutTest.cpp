@@ -8,7 +8,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace fs::ui::testing_support {
+namespace flickerscribe::ui::testing_support {
 namespace {
 
 // --- the rule on its own, in pixels under the toolbar
@@ -71,9 +71,9 @@ protected:
     }
 
     QWidget* Client() const { return window->centralWidget(); }
-    QWidget* Pane() const { return window->PreviewEdit(); }
+    QWidget* Pane() const { return window->PaneEdit(); }
     QWidget* Strip() const { return Named<QWidget>(u"picColors"_s); }
-    QWidget* List() const { return window->ListView(); }
+    QWidget* List() const { return window->LineList(); }
 };
 
 TEST_F(MainWindowLayout, OpensAtItsDesignedClientSize) {
@@ -91,7 +91,7 @@ TEST_F(MainWindowLayout, WithoutColoursThePaneTakesTheWholeWidth) {
 
 TEST_F(MainWindowLayout, ColoursNarrowThePaneAndStandFlushRight) {
     ResizeClient(700, 500);
-    window->ToggleColors();
+    window->ToggleColours();
     const int width = Client()->width();
     EXPECT_TRUE(Strip()->isVisible());
     EXPECT_EQ(Pane()->geometry(), QRect(0, 2, width - 249, 33));
@@ -102,7 +102,7 @@ TEST_F(MainWindowLayout, ColoursNarrowThePaneAndStandFlushRight) {
     ResizeClient(800, 500);
     EXPECT_EQ(Strip()->geometry().right(), Client()->width() - 1);
 
-    window->ToggleColors();
+    window->ToggleColours();
     EXPECT_FALSE(Strip()->isVisible());
     EXPECT_EQ(Pane()->width(), Client()->width());
 }
@@ -111,7 +111,7 @@ TEST_F(MainWindowLayout, TheWindowGoesNoNarrowerThanItsMinimum) {
     EXPECT_EQ(window->minimumWidth(), Twips(7500));
     ResizeClient(300, 500);
     EXPECT_EQ(window->width(), Twips(7500));
-    window->ToggleColors();
+    window->ToggleColours();
     EXPECT_EQ(Pane()->width(), Twips(7500) - 249);
 }
 
@@ -127,7 +127,7 @@ TEST_F(MainWindowLayout, AVeryLowWindowKeepsTheListsLastHeight) {
 
 TEST_F(MainWindowLayout, MinimizingAndRestoringChangesNothing) {
     ResizeClient(650, 450);
-    window->ToggleColors();
+    window->ToggleColours();
     const QRect pane = Pane()->geometry(), strip = Strip()->geometry(), list = List()->geometry();
     window->showMinimized();
     QCoreApplication::processEvents();
@@ -139,4 +139,4 @@ TEST_F(MainWindowLayout, MinimizingAndRestoringChangesNothing) {
 }
 
 }  // namespace
-}  // namespace fs::ui::testing_support
+}  // namespace flickerscribe::ui::testing_support

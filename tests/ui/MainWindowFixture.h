@@ -11,9 +11,9 @@
 #include "MemorySettingsStore.h"
 #include "ScriptedDialogs.h"
 #include "colour/Pane.h"
-#include "ui/frmMain.h"
+#include "ui/MainWindow.h"
 
-namespace fs::ui::testing_support {
+namespace flickerscribe::ui::testing_support {
 
 constexpr Colour kRed = Rgb(255, 0, 0);
 constexpr Colour kGreen = Rgb(0, 255, 0);
@@ -27,7 +27,7 @@ protected:
 
     void MakeWindow() {
         window.reset();
-        window = std::make_unique<frmMain>(dialogs, store);
+        window = std::make_unique<MainWindow>(dialogs, store);
     }
 
     AnimationScript& Script() { return window->Script(); }
@@ -49,7 +49,7 @@ protected:
 
     ScriptedDialogs dialogs;
     settings::MemorySettingsStore store;
-    std::unique_ptr<frmMain> window;
+    std::unique_ptr<MainWindow> window;
 };
 
-}  // namespace fs::ui::testing_support
+}  // namespace flickerscribe::ui::testing_support

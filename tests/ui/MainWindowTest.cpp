@@ -14,7 +14,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace fs::ui::testing_support {
+namespace flickerscribe::ui::testing_support {
 namespace {
 
 using MainWindow = MainWindowTest;
@@ -25,11 +25,11 @@ TEST_F(MainWindow, StartsEmptyWithALockedPaneAndNoColours) {
     EXPECT_EQ(Script().Count(), 0);
     EXPECT_TRUE(PaneLocked());
     EXPECT_EQ(PaneText(), "Preview");
-    EXPECT_FALSE(window->ColorsVisible());
+    EXPECT_FALSE(window->ColoursVisible());
     EXPECT_FALSE(Named<QWidget>(u"picColors"_s)->isVisibleTo(window.get()));
     EXPECT_FALSE(Named(u"mnuEditShowColors"_s)->isChecked());
     EXPECT_FALSE(Named(u"mnuFileSave"_s)->isEnabled());
-    EXPECT_FALSE(window->PreviewBusy);
+    EXPECT_FALSE(window->PreviewBusy());
     EXPECT_EQ(Named(u"btnpreview"_s)->text(), u"Play"_s);
     EXPECT_FALSE(Named<QTimer>(u"timAni"_s)->isActive());
     EXPECT_EQ(Named<QTimer>(u"timAni"_s)->interval(), 100);
@@ -211,18 +211,18 @@ TEST_F(MainWindow, TheAddButtonDropsDownItsEightEntries) {
 
 TEST_F(MainWindow, ButtonKeysReachTheirCommands) {
     AddLines({"a", "b"});
-    window->tlbMain_ButtonClick(u"btnnew"_s);
+    window->RunToolbarCommand(u"btnnew"_s);
     EXPECT_EQ(Script().Count(), 0) << "btnnew is New";
 
     dialogs.QueueMessageAnswer(MsgAnswer::Ok);
-    window->tlbMain_ButtonClick(u"btnpreview"_s);
+    window->RunToolbarCommand(u"btnpreview"_s);
     EXPECT_EQ(dialogs.Messages().size(), 1u) << "btnpreview is Play, which has nothing to play";
 
     AddLines({"a"});
     for (const QString& key : {u"BTNNEW"_s, u"btnnew "_s, u"btnaddbefore"_s, QString()})
-        window->tlbMain_ButtonClick(key);
+        window->RunToolbarCommand(key);
     EXPECT_EQ(Script().Count(), 1) << "only the exact key text counts";
-    for (const QString& key : {u"btnnew"_s, u"btnpreview"_s, QString()}) window->tlbMain_ButtonMenuClick(key);
+    for (const QString& key : {u"btnnew"_s, u"btnpreview"_s, QString()}) window->RunAddMenuCommand(key);
     EXPECT_EQ(Script().Count(), 1) << "toolbar keys are no menu keys";
     EXPECT_FALSE(window->Playing());
 }
@@ -266,14 +266,14 @@ class SetPreviewBusy : public MainWindowTest, public testing::WithParamInterface
 // PreviewBusy set, and PreviewBusy is given back its old value.
 TEST_P(SetPreviewBusy, DrawsBusyAndRestoresTheFlag) {
     if (GetParam().withLines) AddLines({"^3x", "y"});
-    window->PreviewBusy = GetParam().busyBefore;
+    window->SetPreviewBusy(GetParam().busyBefore);
     std::vector<bool> seen;
-    QObject::connect(window->PreviewEdit(), &QTextEdit::textChanged, window.get(),
-                     [&] { seen.push_back(window->PreviewBusy); });
+    QObject::connect(window->PaneEdit(), &QTextEdit::textChanged, window.get(),
+                     [&] { seen.push_back(window->PreviewBusy()); });
     window->SetPreview();
     ASSERT_FALSE(seen.empty());
     for (bool busy : seen) EXPECT_TRUE(busy);
-    EXPECT_EQ(window->PreviewBusy, GetParam().busyBefore);
+    EXPECT_EQ(window->PreviewBusy(), GetParam().busyBefore);
 }
 
 INSTANTIATE_TEST_SUITE_P(Cases, SetPreviewBusy,
@@ -334,7 +334,7 @@ TEST_F(MainWindow, TheEditItemSettingDecidesWhetherTheTextCanBeEditedInPlace) {
     };
     for (const auto& [stored, expected] : cases) {
         SCOPED_TRACE(stored.toStdString());
-        store.WriteRegistryString(u"EditItem"_s, stored);
+        store.WriteValue(u"EditItem"_s, stored);
         MakeWindow();
         EXPECT_EQ(Named<LineListView>(u"lvwMain"_s)->editTriggers(), expected);
     }
@@ -343,15 +343,15 @@ TEST_F(MainWindow, TheEditItemSettingDecidesWhetherTheTextCanBeEditedInPlace) {
 TEST_F(MainWindow, LoadSettingsAgainAppliesAChangedSetting) {
     auto* list = Named<LineListView>(u"lvwMain"_s);
     EXPECT_EQ(list->editTriggers(), QAbstractItemView::NoEditTriggers);
-    store.WriteRegistryString(u"EditItem"_s, u"1"_s);
-    store.WriteRegistryString(u"Name"_s, u"Quillon"_s);
+    store.WriteValue(u"EditItem"_s, u"1"_s);
+    store.WriteValue(u"Name"_s, u"Quillon"_s);
     window->LoadSettings();
     EXPECT_EQ(list->editTriggers(), QAbstractItemView::SelectedClicked);
     EXPECT_EQ(window->Settings().Name, u"Quillon"_s);
 }
 
 TEST_F(MainWindow, AnInPlaceEditWritesTheTextAndNothingElse) {
-    store.WriteRegistryString(u"EditItem"_s, u"1"_s);
+    store.WriteValue(u"EditItem"_s, u"1"_s);
     MakeWindow();
     AddLines({"^1old"});
     window->SetPreview();
@@ -378,7 +378,7 @@ TEST_F(MainWindow, CutCopyPasteKeysReachTheMenuFromThePaneAndTheList) {
     QSignalSpy copy(Named(u"mnuEditCopy"_s), &QAction::triggered);
     QSignalSpy paste(Named(u"mnuEditPaste"_s), &QAction::triggered);
     for (QWidget* target :
-         {static_cast<QWidget*>(window->PreviewEdit()), static_cast<QWidget*>(window->ListView())}) {
+         {static_cast<QWidget*>(window->PaneEdit()), static_cast<QWidget*>(window->LineList())}) {
         target->setFocus();
         QTest::keyClick(target, Qt::Key_X, Qt::ControlModifier);
         QTest::keyClick(target, Qt::Key_C, Qt::ControlModifier);
@@ -400,4 +400,4 @@ TEST_F(MainWindow, ExitClosesTheWindowWithoutAQuestion) {
 }
 
 }  // namespace
-}  // namespace fs::ui::testing_support
+}  // namespace flickerscribe::ui::testing_support

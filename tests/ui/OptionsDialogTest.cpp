@@ -8,11 +8,11 @@
 #include "MemorySettingsStore.h"
 #include "ScriptedDialogs.h"
 #include "WindowChecks.h"
-#include "ui/frmOptions.h"
+#include "ui/OptionsDialog.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 namespace {
 
 using settings::MemorySettingsStore;
@@ -30,7 +30,7 @@ struct Fixture {
     MemorySettingsStore store;
     ScriptedDialogs dialogs;
     QList<qsizetype> writesAtReload;
-    frmOptions window{store, dialogs, [this] { writesAtReload.append(store.Writes().size()); }};
+    OptionsDialog window{store, dialogs, [this] { writesAtReload.append(store.Writes().size()); }};
 
     template <typename T>
     T* Get(const char* name) {
@@ -126,7 +126,7 @@ TEST(Options, OkStoresWhatTheUserChose) {
     f.Get<QCheckBox>("chkReverse")->click();
     f.Get<QPushButton>("cmdBrowse2")->click();
 
-    f.window.cmdOK_Click();
+    f.window.StoreSettings();
 
     const QMap<QString, QString> expected = {
         {u"EditItem"_s, u"1"_s},           {u"Name"_s, u"Quillon"_s},
@@ -169,7 +169,7 @@ TEST_P(OptionsBrowse, AnswerFillsTheBoxAndCancelEmptiesIt) {
     }
     EXPECT_FALSE(f.store.Written()) << "browsing alone writes nothing";
 
-    f.window.cmdOK_Click();  // the emptied box clears the stored folder
+    f.window.StoreSettings();  // the emptied box clears the stored folder
     EXPECT_EQ(f.store.Values().value(QString::fromLatin1(GetParam().value), u"missing"_s), QString());
 }
 
@@ -184,7 +184,7 @@ TEST(Options, CancelAfterBrowsingChangesNothing) {
     Fixture f(stored);
     f.window.show();
     f.dialogs.QueueFolder(u"/elsewhere"_s);
-    f.window.cmdBrowse1_Click();
+    f.window.BrowseOpenFolder();
     QTest::keyClicks(f.Get<QLineEdit>("txtName"), u"X"_s);
 
     QTest::mouseClick(f.Get<QPushButton>("Command2"), Qt::LeftButton);
@@ -224,4 +224,4 @@ INSTANTIATE_TEST_SUITE_P(Keys, OptionsKeys,
                          testing::PrintToStringParamName());
 
 }  // namespace
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

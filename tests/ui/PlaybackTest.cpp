@@ -5,10 +5,10 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace fs::ui::testing_support {
+namespace flickerscribe::ui::testing_support {
 namespace {
 
-// Playback driven tick by tick: timAni_Timer is called directly, so the test
+// Playback driven tick by tick: ShowNextFrame is called directly, so the test
 // decides when a tick comes.
 class Playback : public MainWindowTest {
 protected:
@@ -20,7 +20,7 @@ protected:
         EXPECT_TRUE(Named(u"btnadd"_s)->isEnabled());
         EXPECT_TRUE(Named(u"btnremove"_s)->isEnabled());
         EXPECT_FALSE(window->Playing());
-        EXPECT_FALSE(window->PreviewBusy);
+        EXPECT_FALSE(window->PreviewBusy());
     }
 
     void ExpectRunning() {
@@ -30,7 +30,7 @@ protected:
         EXPECT_FALSE(Named(u"btnadd"_s)->isEnabled());
         EXPECT_FALSE(Named(u"btnremove"_s)->isEnabled());
         EXPECT_TRUE(window->Playing());
-        EXPECT_TRUE(window->PreviewBusy);
+        EXPECT_TRUE(window->PreviewBusy());
         // Every other entry stays live.
         for (const QString& name : {u"btnnew"_s, u"btnopen"_s, u"btnsave"_s, u"btnedit"_s, u"btnwizard"_s,
                                     u"btngenerate"_s, u"mnuEditCut"_s, u"mnuEditPaste"_s, u"mnuFileNew"_s})
@@ -82,7 +82,7 @@ TEST_F(Playback, ShowsOneLinePerTickAndStopsWithTheLast) {
     for (int tick = 0; tick < 3; ++tick) {
         SCOPED_TRACE(tick);
         if (tick > 0) ExpectRunning();
-        window->timAni_Timer();
+        window->ShowNextFrame();
         EXPECT_EQ(PaneText(), frames[tick]);
     }
     ExpectStopped();
@@ -93,7 +93,7 @@ TEST_F(Playback, ShowsOneLinePerTickAndStopsWithTheLast) {
 TEST_F(Playback, ALineOfItsOwnStopsInTheTickThatShowsIt) {
     AddLines({"^4solo"});
     window->TogglePlayback();
-    window->timAni_Timer();
+    window->ShowNextFrame();
     EXPECT_EQ(PaneRuns(), (std::vector<ColouredRun>{{"solo", Rgb(0, 0, 255)}}));
     ExpectStopped();
 }
@@ -101,13 +101,13 @@ TEST_F(Playback, ALineOfItsOwnStopsInTheTickThatShowsIt) {
 TEST_F(Playback, StopMidwayKeepsTheFrameAndTheNextPlayStartsAtTheTop) {
     AddLines({"1", "2", "3", "4", "5"});
     window->TogglePlayback();
-    window->timAni_Timer();
-    window->timAni_Timer();
+    window->ShowNextFrame();
+    window->ShowNextFrame();
     window->TogglePlayback();
     ExpectStopped();
     EXPECT_EQ(PaneText(), "2");
     window->TogglePlayback();
-    window->timAni_Timer();
+    window->ShowNextFrame();
     EXPECT_EQ(PaneText(), "1");
 }
 
@@ -115,9 +115,9 @@ TEST_F(Playback, FramesShowInTheirColoursAndTimeDoesNotMatter) {
     ASSERT_TRUE(Script().AppendLine("^1a^2b", "5", "[none]"));
     ASSERT_TRUE(Script().AppendLine("^2c", "99", "[none]"));
     window->TogglePlayback();
-    window->timAni_Timer();
+    window->ShowNextFrame();
     EXPECT_EQ(PaneRuns(), (std::vector<ColouredRun>{{"a", kRed}, {"b", kGreen}}));
-    window->timAni_Timer();
+    window->ShowNextFrame();
     EXPECT_EQ(PaneRuns(), (std::vector<ColouredRun>{{"c", kGreen}}));
     ExpectStopped();
 }
@@ -133,15 +133,15 @@ class PlaybackOfAShrinkingList : public Playback, public testing::WithParamInter
 TEST_P(PlaybackOfAShrinkingList, StopsAtTheNextTickWithoutAWord) {
     AddLines({"1", "2", "3", "4"});
     window->TogglePlayback();
-    window->timAni_Timer();
-    window->timAni_Timer();
+    window->ShowNextFrame();
+    window->ShowNextFrame();
     if (GetParam().removeFromEnd < 0) {
         window->NewAnimation();
     } else {
         for (int i = 0; i < GetParam().removeFromEnd; ++i) Script().RemoveLine(Script().Count());
     }
     ExpectRunning();
-    window->timAni_Timer();
+    window->ShowNextFrame();
     ExpectStopped();
     EXPECT_EQ(PaneText(), "2") << "a stop draws nothing";
     EXPECT_TRUE(dialogs.Calls().empty());
@@ -154,11 +154,11 @@ INSTANTIATE_TEST_SUITE_P(Cases, PlaybackOfAShrinkingList,
 TEST_F(Playback, AListThatGrowsPlaysOnToItsNewEnd) {
     AddLines({"1", "2"});
     window->TogglePlayback();
-    window->timAni_Timer();
+    window->ShowNextFrame();
     AddLines({"3"});
-    window->timAni_Timer();
+    window->ShowNextFrame();
     ExpectRunning();
-    window->timAni_Timer();
+    window->ShowNextFrame();
     EXPECT_EQ(PaneText(), "3");
     ExpectStopped();
 }
@@ -168,13 +168,13 @@ TEST_F(Playback, SetPreviewWhilePlayingStaysBusyAndLeavesTheLinesAlone) {
     Script().SelectLine(2);
     const std::vector<AnimationLine> before{Script().LineAt(1), Script().LineAt(2), Script().LineAt(3)};
     window->TogglePlayback();
-    window->timAni_Timer();
-    window->lvwMain_ItemClick(3);
-    EXPECT_TRUE(window->PreviewBusy);
+    window->ShowNextFrame();
+    window->ShowClickedLine(3);
+    EXPECT_TRUE(window->PreviewBusy());
     EXPECT_EQ(PaneText(), "three") << "the clicked line shows until the next tick";
-    window->timAni_Timer();
+    window->ShowNextFrame();
     EXPECT_EQ(PaneText(), "two");
-    window->timAni_Timer();
+    window->ShowNextFrame();
     ExpectStopped();
     EXPECT_EQ(Script().SelectedIndex(), 3) << "playback neither moves nor reads the selection";
     EXPECT_EQ((std::vector<AnimationLine>{Script().LineAt(1), Script().LineAt(2), Script().LineAt(3)}),
@@ -183,9 +183,9 @@ TEST_F(Playback, SetPreviewWhilePlayingStaysBusyAndLeavesTheLinesAlone) {
 
 TEST_F(Playback, TheToolbarButtonStartsAndStops) {
     AddLines({"a", "b"});
-    window->tlbMain_ButtonClick(u"btnpreview"_s);
+    window->RunToolbarCommand(u"btnpreview"_s);
     ExpectRunning();
-    window->tlbMain_ButtonClick(u"btnpreview"_s);
+    window->RunToolbarCommand(u"btnpreview"_s);
     ExpectStopped();
 }
 
@@ -193,7 +193,7 @@ TEST_F(Playback, TheToolbarButtonStartsAndStops) {
 TEST_F(Playback, TheTimerPlaysTheWholeListOnce) {
     AddLines({"1", "2", "3"});
     std::vector<std::string> frames;
-    QObject::connect(window->PreviewEdit(), &QTextEdit::textChanged, window.get(), [&] {
+    QObject::connect(window->PaneEdit(), &QTextEdit::textChanged, window.get(), [&] {
         if (window->Playing()) frames.push_back(PaneText());
     });
     window->TogglePlayback();
@@ -203,4 +203,4 @@ TEST_F(Playback, TheTimerPlaysTheWholeListOnce) {
 }
 
 }  // namespace
-}  // namespace fs::ui::testing_support
+}  // namespace flickerscribe::ui::testing_support

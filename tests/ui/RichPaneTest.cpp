@@ -7,7 +7,7 @@
 #include "colour/Palette.h"
 #include "ui/RichPane.h"
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 namespace {
 
 constexpr Colour kRed = Rgb(255, 0, 0);
@@ -32,7 +32,7 @@ void PaintCharByChar(Pane& pane, const Runs& runs) {
     for (const auto& [c, colour] : Flatten(runs)) {
         pane.SetSelStart(position);
         pane.SetSelLength(1);
-        pane.SetSelColor(colour);
+        pane.SetSelColour(colour);
         pane.SetSelText(std::string(1, c));
         ++position;
     }
@@ -74,7 +74,7 @@ TEST_P(RichPaneRuns, BulkAndCharacterWalkGiveTheSamePane) {
     for (int p = 0; p < static_cast<int>(chars.size()); ++p) {
         bulk.SetSelStart(p);
         bulk.SetSelLength(1);
-        EXPECT_EQ(bulk.SelColor(), chars[static_cast<std::size_t>(p)].second) << "at " << p;
+        EXPECT_EQ(bulk.SelColour(), chars[static_cast<std::size_t>(p)].second) << "at " << p;
     }
 }
 
@@ -115,7 +115,7 @@ TEST_F(RichPaneTest, TextTypedWithoutAColourReadsBlack) {
     edit.insertPlainText(QStringLiteral("typed"));
     EXPECT_EQ(pane.Runs(), (Runs{{"typed", kBlack}}));
     pane.SetSelStart(0);
-    EXPECT_EQ(pane.SelColor(), kBlack);
+    EXPECT_EQ(pane.SelColour(), kBlack);
 }
 
 TEST_F(RichPaneTest, ASoftLineBreakFromPastedRichTextIsABreak) {
@@ -176,9 +176,9 @@ TEST_F(RichPaneTest, ColouringASelectionChangesOnlyThoseCharacters) {
     pane.SetSelStart(1);
     pane.SetSelLength(2);
     QSignalSpy spy(&edit, &QTextEdit::textChanged);
-    pane.SetSelColor(kRed);
+    pane.SetSelColour(kRed);
     EXPECT_EQ(pane.Runs(), (Runs{{"a", kWhite}, {"bc", kRed}, {"d", kWhite}}));
-    EXPECT_EQ(pane.SelColor(), kRed);
+    EXPECT_EQ(pane.SelColour(), kRed);
     EXPECT_EQ(spy.count(), 1) << "a change of colour alone is a change of the pane";
     EXPECT_EQ(pane.Text(), "abcd");
 }
@@ -186,8 +186,8 @@ TEST_F(RichPaneTest, ColouringASelectionChangesOnlyThoseCharacters) {
 TEST_F(RichPaneTest, AColourChosenWithNothingSelectedColoursWhatIsTypedNext) {
     pane.SetRuns({{"ab", kWhite}});
     pane.SetSelStart(2);
-    pane.SetSelColor(kGreen);
-    EXPECT_EQ(pane.SelColor(), kGreen);
+    pane.SetSelColour(kGreen);
+    EXPECT_EQ(pane.SelColour(), kGreen);
     EXPECT_EQ(pane.Runs(), (Runs{{"ab", kWhite}})) << "nothing is inserted";
     QTest::keyClicks(&edit, QStringLiteral("xy"));
     EXPECT_EQ(pane.Runs(), (Runs{{"ab", kWhite}, {"xy", kGreen}}));
@@ -196,7 +196,7 @@ TEST_F(RichPaneTest, AColourChosenWithNothingSelectedColoursWhatIsTypedNext) {
 TEST_F(RichPaneTest, TypingTakesTheColourOfTheCharacterInFront) {
     pane.SetRuns({{"ab", kRed}, {"cd", kGreen}});
     pane.SetSelStart(2);
-    EXPECT_EQ(pane.SelColor(), kRed);
+    EXPECT_EQ(pane.SelColour(), kRed);
     QTest::keyClicks(&edit, QStringLiteral("x"));
     EXPECT_EQ(pane.Runs(), (Runs{{"abx", kRed}, {"cd", kGreen}}));
 }
@@ -205,7 +205,7 @@ TEST_F(RichPaneTest, SelTextReplacesTheSelectionInTheColourJustGiven) {
     pane.SetRuns({{"abcd", kWhite}});
     pane.SetSelStart(1);
     pane.SetSelLength(2);
-    pane.SetSelColor(kRed);
+    pane.SetSelColour(kRed);
     pane.SetSelText("XYZ");
     EXPECT_EQ(pane.Runs(), (Runs{{"a", kWhite}, {"XYZ", kRed}, {"d", kWhite}}));
     EXPECT_EQ(pane.SelStart(), 4);
@@ -215,7 +215,7 @@ TEST_F(RichPaneTest, SelTextReplacesTheSelectionInTheColourJustGiven) {
 struct CaretColourCase {
     const char* name;
     int caret;
-    bool choose;    // SetSelColor(green) at the caret before reading
+    bool choose;    // SetSelColour(green) at the caret before reading
     bool moveAway;  // then the caret moves and comes back
     Colour expected;
     friend void PrintTo(const CaretColourCase& c, std::ostream* os) { *os << c.name; }
@@ -229,16 +229,16 @@ TEST_P(RichPaneCaretColour, ReadAndInsertedAlike) {
     const CaretColourCase& c = GetParam();
     pane.SetRuns({{"ab", kRed}, {"cd", kWhite}});
     pane.SetSelStart(c.caret);
-    if (c.choose) pane.SetSelColor(kGreen);
+    if (c.choose) pane.SetSelColour(kGreen);
     if (c.moveAway) {
         pane.SetSelStart(c.caret == 0 ? 1 : 0);
         pane.SetSelStart(c.caret);
     }
-    EXPECT_EQ(pane.SelColor(), c.expected);
+    EXPECT_EQ(pane.SelColour(), c.expected);
     pane.SetSelText("x");
     pane.SetSelStart(c.caret);
     pane.SetSelLength(1);
-    EXPECT_EQ(pane.SelColor(), c.expected);
+    EXPECT_EQ(pane.SelColour(), c.expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(Cases, RichPaneCaretColour,
@@ -283,4 +283,4 @@ TEST_F(RichPaneTest, AReplacementOfTheWholeContentLeavesNoHistory) {
 }
 
 }  // namespace
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

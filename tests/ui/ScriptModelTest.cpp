@@ -7,7 +7,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 namespace {
 
 // Collects what the model tester complains about.
@@ -127,7 +127,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::PrintToStringParamName());
 
 TEST_F(ScriptModelTest, TellsOfTheScriptsSelection) {
-    QSignalSpy selected(&model, &ScriptModel::selectedLineChanged);
+    QSignalSpy selected(&model, &ScriptModel::SelectedLineChanged);
     script.AppendLine("a", "15", "[none]");
     script.AppendLine("b", "15", "[none]");
     script.SelectLine(2);
@@ -164,4 +164,4 @@ TEST(ScriptModel, LetsGoOfTheScriptWhenDestroyed) {
 }
 
 }  // namespace
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

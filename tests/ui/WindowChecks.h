@@ -10,7 +10,7 @@
 
 #include "ui/Twips.h"
 
-namespace fs::ui::testing_support {
+namespace flickerscribe::ui::testing_support {
 
 // One named control of a window as designed: caption (nullptr: not checked)
 // and place in twips, relative to its parent.
@@ -50,4 +50,4 @@ inline void ExpectFixedDialog(const QWidget& window, int clientWidth, int client
     EXPECT_EQ(window.windowType(), Qt::Dialog);
 }
 
-}  // namespace fs::ui::testing_support
+}  // namespace flickerscribe::ui::testing_support

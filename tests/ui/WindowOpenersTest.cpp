@@ -10,7 +10,7 @@
 #include "MainWindowFixture.h"
 #include "ui/LineListView.h"
 
-namespace fs::ui::testing_support {
+namespace flickerscribe::ui::testing_support {
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -37,7 +37,7 @@ TEST_F(WindowOpeners, F1OpensAboutNotHelp) {
     window->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     QSignalSpy help(Named(u"mnuHelpHelp"_s), &QAction::triggered);
-    EXPECT_EQ(OpenedBy([this] { QTest::keyClick(window->ListView(), Qt::Key_F1); }), u"frmAbout"_s);
+    EXPECT_EQ(OpenedBy([this] { QTest::keyClick(window->LineList(), Qt::Key_F1); }), u"frmAbout"_s);
     EXPECT_EQ(help.count(), 0);
 }
 
@@ -48,11 +48,11 @@ TEST_F(WindowOpeners, OptionsOkAppliesTheSettingsAtOnce) {
         ASSERT_NE(modal, nullptr);
         if (auto* ok = modal->findChild<QAbstractButton*>(u"cmdOK"_s)) ok->click();
     });
-    store.WriteRegistryString(u"Name"_s, u"Quillon"_s);
+    store.WriteValue(u"Name"_s, u"Quillon"_s);
     Named(u"mnuEditOptions"_s)->trigger();
     EXPECT_EQ(window->Settings().Name, u"Quillon"_s);
-    EXPECT_EQ(store.ReadRegistryString(u"GenerateDir"_s, u"missing"_s), QString());
+    EXPECT_EQ(store.ReadValue(u"GenerateDir"_s, u"missing"_s), QString());
 }
 
 }  // namespace
-}  // namespace fs::ui::testing_support
+}  // namespace flickerscribe::ui::testing_support

@@ -19,14 +19,14 @@
 #include "WindowChecks.h"
 #include "document/AnimationScript.h"
 #include "settings/Settings.h"
-#include "ui/frmWizard.h"
+#include "ui/WizardDialog.h"
 
 using namespace Qt::Literals::StringLiterals;
 using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
 using ::testing::IsEmpty;
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 namespace {
 
 class WizardTest : public ::testing::Test {
@@ -35,8 +35,8 @@ protected:
         if (wizard) wizard->close();
     }
 
-    frmWizard& Open() {
-        wizard = std::make_unique<frmWizard>(script, dialogs, settings);
+    WizardDialog& Open() {
+        wizard = std::make_unique<WizardDialog>(script, dialogs, settings);
         wizard->show();
         return *wizard;
     }
@@ -114,13 +114,13 @@ protected:
     AnimationScript script;
     ScriptedDialogs dialogs;
     settings::Settings settings;
-    std::unique_ptr<frmWizard> wizard;
+    std::unique_ptr<WizardDialog> wizard;
 };
 
 TEST_F(WizardTest, OpensAsAFixedWindowWithItsCaptions) {
     Open();
     EXPECT_EQ(wizard->windowTitle(), u"Animation Script Wizard"_s);
-    testing_support::ExpectFixedDialog(*wizard, frmWizard::kClientWidth, frmWizard::kClientHeight);
+    testing_support::ExpectFixedDialog(*wizard, WizardDialog::kClientWidth, WizardDialog::kClientHeight);
     EXPECT_FALSE(wizard->isModal());
 
     const std::vector<std::pair<QString, QString>> captions = {
@@ -193,7 +193,7 @@ TEST_F(WizardTest, PagesFollowNextAndBack) {
             Click(QString::fromLatin1(step.press));
         }
         EXPECT_EQ(wizard->CurrentPage(), step.page);
-        for (int page = 1; page <= frmWizard::kPageCount; ++page) {
+        for (int page = 1; page <= WizardDialog::kPageCount; ++page) {
             EXPECT_EQ(Find(u"picPage%1"_s.arg(page)).isVisible(), page == step.page) << "page " << page;
         }
         EXPECT_EQ(Find(u"imgPage1"_s).isVisible(), step.page == 1);
@@ -545,4 +545,4 @@ TEST_F(WizardTest, ColorEditorOpensModallyOverTheWizard) {
 }
 
 }  // namespace
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

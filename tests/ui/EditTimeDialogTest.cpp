@@ -5,11 +5,11 @@
 
 #include "WindowChecks.h"
 #include "document/AnimationScript.h"
-#include "ui/frmEdit.h"
+#include "ui/EditTimeDialog.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 namespace {
 
 using testing_support::ExpectFixedDialog;
@@ -33,7 +33,7 @@ struct Fixture {
     QLineEdit* Time() { return Get<QLineEdit>("txtTime"); }
 
     AnimationScript script;
-    frmEdit window{script};
+    EditTimeDialog window{script};
 };
 
 TEST(EditDialog, WindowAsDesigned) {
@@ -133,4 +133,4 @@ INSTANTIATE_TEST_SUITE_P(
     testing::PrintToStringParamName());
 
 }  // namespace
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -16,14 +16,14 @@ class QTextEdit;
 class QTimer;
 class QToolBar;
 
-namespace fs {
+namespace flickerscribe {
 class Pane;
 }
-namespace fs::settings {
+namespace flickerscribe::settings {
 class SettingsStore;
 }
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 class LineListView;
 class RichPane;
@@ -32,31 +32,32 @@ class ScriptModel;
 // The main window: the line list, the preview pane, the colour strip, menus
 // and toolbar. It owns the one animation for the life of the program.
 //
-// The commands live in files by concern: frmMain.cpp (the shell),
-// frmMain_Playback.cpp, frmMain_LineCommands.cpp, frmMain_Clipboard.cpp,
-// frmMain_Editing.cpp, frmMain_Files.cpp and frmMain_Windows.cpp.
-class frmMain : public QMainWindow {
+// The commands live in files by concern: MainWindow.cpp (the shell),
+// MainWindow_Playback.cpp, MainWindow_LineCommands.cpp, MainWindow_Clipboard.cpp,
+// MainWindow_Editing.cpp, MainWindow_Files.cpp and MainWindow_Windows.cpp.
+class MainWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    frmMain(Dialogs& dialogs, settings::SettingsStore& store, QWidget* parent = nullptr);
-    ~frmMain() override;
+    MainWindow(Dialogs& dialogs, settings::SettingsStore& store, QWidget* parent = nullptr);
+    ~MainWindow() override;
 
     AnimationScript& Script() { return script_; }
     const AnimationScript& Script() const { return script_; }
     // The settings in memory, as LoadSettings last read them.
     const settings::Settings& Settings() const { return settings_; }
-    // The preview pane txtPreview as the core's walks see it.
+    // The preview pane as the core's walks see it, and as a widget.
     Pane& PreviewPane();
-    QTextEdit* PreviewEdit() const { return txtPreview_; }
-    LineListView* ListView() const { return lvwMain_; }
-    bool ColorsVisible() const { return colorsVisible_; }
+    QTextEdit* PaneEdit() const { return paneEdit_; }
+    LineListView* LineList() const { return lineList_; }
+    bool ColoursVisible() const { return coloursVisible_; }
 
-    // While true, nothing that happens in the pane reaches a line: the
-    // program's own drawing, and playback for as long as it runs.
-    bool PreviewBusy = false;
+    // While the preview is busy, nothing that happens in the pane reaches a
+    // line: the program's own drawing, and playback for as long as it runs.
+    bool PreviewBusy() const { return previewBusy_; }
+    void SetPreviewBusy(bool busy) { previewBusy_ = busy; }
 
-    // --- the shell (frmMain.cpp)
+    // --- the shell (MainWindow.cpp)
     // Draws the selected line into the pane, or locks it with "Preview" when
     // the list is empty.
     void SetPreview();
@@ -65,51 +66,51 @@ public:
     // text changed elsewhere than in the pane. Playback keeps its frames.
     void KeepPaneOnSelectedLine();
     void NewAnimation();
-    void ToggleColors();
+    void ToggleColours();
     // Reads the settings store into memory and applies the in-place edit mode.
     void LoadSettings();
-    void tlbMain_ButtonClick(const QString& key);
-    void tlbMain_ButtonMenuClick(const QString& key);
+    void RunToolbarCommand(const QString& key);
+    void RunAddMenuCommand(const QString& key);
     // A click on the line with this 1-based index.
-    void lvwMain_ItemClick(int index);
-    void mnuFileExit_Click();
+    void ShowClickedLine(int index);
+    void Exit();
     // The layout rule: pane and strip on top, the list filling the rest.
-    void Form_Resize();
+    void LayOutControls();
 
-    // --- playback (frmMain_Playback.cpp)
+    // --- playback (MainWindow_Playback.cpp)
     void TogglePlayback();
-    void timAni_Timer();
+    void ShowNextFrame();
     bool Playing() const;
 
-    // --- line commands (frmMain_LineCommands.cpp)
+    // --- line commands (MainWindow_LineCommands.cpp)
     void AddLine(bool after);
     void RemoveSelectedLine();
     void CopyLines(int mode);
 
-    // --- clipboard (frmMain_Clipboard.cpp)
-    void mnuEditCut_Click();
-    void mnuEditCopy_Click();
-    void mnuEditPaste_Click();
+    // --- clipboard (MainWindow_Clipboard.cpp)
+    void CutLine();
+    void CopyLine();
+    void PasteLine();
 
-    // --- editing in the pane and the list (frmMain_Editing.cpp)
-    void txtPreview_Change();
-    void cmdColor_Click(int index);
-    void txtPreview_KeyDown(int key, Qt::KeyboardModifiers modifiers);
-    void lvwMain_KeyDown(int key, Qt::KeyboardModifiers modifiers);
+    // --- editing in the pane and the list (MainWindow_Editing.cpp)
+    void OnPaneEdited();
+    void PaintSelection(int index);
+    void OnPaneKeyPress(int key, Qt::KeyboardModifiers modifiers);
+    void OnListKeyPress(int key, Qt::KeyboardModifiers modifiers);
     void EditSelectedLine();
 
-    // --- files (frmMain_Files.cpp)
+    // --- files (MainWindow_Files.cpp)
     void OpenAnimation();
     void SaveAnimationAs();
     void ImportScript();
     void GenerateScript();
     // The one file dialog of Open, Save As and Import: it keeps its file name
     // and folder between uses.
-    FileDialogState dlgFileOps;
+    FileDialogState& FileDialog() { return fileDialog_; }
 
-    // --- other windows (frmMain_Windows.cpp)
+    // --- other windows (MainWindow_Windows.cpp)
     void ShowWizard();
-    void ShowColorEditor();
+    void ShowColourNameEditor();
     void ShowSimpleEdit();
     void ShowOptions();
     void ShowHelp();
@@ -122,14 +123,15 @@ private:
     void BuildMenus();
     void BuildToolbar();
     void BuildControls();
-    void Form_Load();
     QAction* ToolbarAction(const QString& key) const;
 
     Dialogs& dialogs_;
     settings::SettingsStore& store_;
     AnimationScript script_;
     settings::Settings settings_;
-    bool colorsVisible_ = false;
+    bool coloursVisible_ = false;
+    bool previewBusy_ = false;
+    FileDialogState fileDialog_;
     // What the pane shows: "Preview", the selected line as `shownText_`
     // (drawn by SetPreview or typed in the pane), or a frame of playback.
     enum class PaneShows { Placeholder, Line, Frame };
@@ -138,22 +140,22 @@ private:
     // Set while the pane writes its text to the line, which is no change to follow.
     bool writingFromPane_ = false;
     // The 1-based index of the next line that playback shows.
-    int PlayIndex = 1;
+    int playIndex_ = 1;
     // The wizard, the one window shown beside this one, while it is open.
     QPointer<QWidget> wizard_;
 
-    QToolBar* tlbMain_ = nullptr;
+    QToolBar* toolbar_ = nullptr;
     QWidget* client_ = nullptr;
-    QTextEdit* txtPreview_ = nullptr;
+    QTextEdit* paneEdit_ = nullptr;
     std::unique_ptr<RichPane> preview_;
-    QWidget* picColors_ = nullptr;
-    std::vector<QPushButton*> cmdColor_;
-    LineListView* lvwMain_ = nullptr;
+    QWidget* colourStrip_ = nullptr;
+    std::vector<QPushButton*> colourButtons_;
+    LineListView* lineList_ = nullptr;
     ScriptModel* model_ = nullptr;
-    QTimer* timAni_ = nullptr;
-    QAction* mnuEditShowColors_ = nullptr;
-    QIcon imgplay_;
-    QIcon imgstop_;
+    QTimer* playTimer_ = nullptr;
+    QAction* showColoursAction_ = nullptr;
+    QIcon playIcon_;
+    QIcon stopIcon_;
 };
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -4,7 +4,7 @@
 #include "colour/NumberText.h"
 #include "ui/LineLimit.h"
 #include "ui/TextConv.h"
-#include "ui/frmMain.h"
+#include "ui/MainWindow.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -12,7 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 // button with its drop-down menu, and Remove. None of them moves the
 // selection or redraws the pane: the pane goes on showing what it showed.
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 namespace {
 
@@ -22,7 +22,7 @@ const std::string kNewAction = "[none]";
 
 }  // namespace
 
-void frmMain::AddLine(bool after) {
+void MainWindow::AddLine(bool after) {
     bool added = false;
     if (script_.Count() == 0) {
         // Before or after makes no difference in an empty list; the new line
@@ -35,12 +35,12 @@ void frmMain::AddLine(bool after) {
     if (!added) ShowLineLimitMessage(dialogs_, this);
 }
 
-void frmMain::RemoveSelectedLine() {
+void MainWindow::RemoveSelectedLine() {
     if (!script_.RemoveLine(script_.SelectedIndex()))
         dialogs_.Message(this, u"Can't remove line."_s, QString(), MsgIcon::Information, MsgButtons::Ok);
 }
 
-void frmMain::CopyLines(int mode) {
+void MainWindow::CopyLines(int mode) {
     if (script_.Count() < 1) {
         // The same title in all four modes, although they copy.
         dialogs_.Message(this, u"There are no lines to copy"_s, u"Add line"_s, MsgIcon::Exclamation,
@@ -99,4 +99,4 @@ void frmMain::CopyLines(int mode) {
     if (full) ShowLineLimitMessage(dialogs_, this);
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -10,9 +10,9 @@
 #include "FileTestSupport.h"
 #include "MainWindowFixture.h"
 #include "settings/Settings.h"
-#include "ui/frmScript.h"
+#include "ui/ScriptWindow.h"
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 namespace {
 
 using namespace testing_support;
@@ -38,12 +38,11 @@ void TypeText(QWidget* widget, const QString& text) {
     }
 }
 
-class ScriptWindow : public testing::Test {
+class ScriptWindowTest : public testing::Test {
 protected:
-    frmScript& Open(const std::vector<std::pair<const char*, const char*>>& lines) {
+    ScriptWindow& Open(const std::vector<std::pair<const char*, const char*>>& lines) {
         for (const auto& [text, time] : lines) EXPECT_TRUE(script.AppendLine(text, time, "[none]"));
-        window = std::make_unique<frmScript>(script, dialogs, settings, &owner);
-        window->Form_Load();
+        window = std::make_unique<ScriptWindow>(script, dialogs, settings, &owner);
         return *window;
     }
 
@@ -51,13 +50,13 @@ protected:
     ScriptedDialogs dialogs;
     settings::Settings settings;
     QWidget owner;
-    std::unique_ptr<frmScript> window;
+    std::unique_ptr<ScriptWindow> window;
 };
 
-TEST_F(ScriptWindow, IsASizableWindowCentredOnTheScreenWithTheBoxFillingIt) {
+TEST_F(ScriptWindowTest, IsASizableWindowCentredOnTheScreenWithTheBoxFillingIt) {
     owner.setGeometry(0, 0, 200, 200);
     owner.show();
-    frmScript& w = Open({});
+    ScriptWindow& w = Open({});
     EXPECT_EQ(w.windowTitle(), u"Generate Brennock Script"_s);
     EXPECT_LT(w.minimumSize().width(), w.maximumSize().width());
     auto* bar = w.findChild<QMenuBar*>();
@@ -87,7 +86,7 @@ struct TextCase {
 void PrintTo(const TextCase& c, std::ostream* os) {
     *os << c.name;
 }
-class ScriptText : public ScriptWindow, public testing::WithParamInterface<TextCase> {};
+class ScriptText : public ScriptWindowTest, public testing::WithParamInterface<TextCase> {};
 
 TEST_P(ScriptText, IsShownWithAnEmptyFirstLineAndWrittenWithCrLf) {
     EXPECT_EQ(Open(GetParam().lines).ScriptFileBytes(), GetParam().script + "\r\n");
@@ -105,12 +104,12 @@ INSTANTIATE_TEST_SUITE_P(
                              kBanner + "\r\nset name \"\x80\xE9\xA0x\"\r\nwait 1.5"}),
     testing::PrintToStringParamName());
 
-class TypedText : public ScriptWindow,
+class TypedText : public ScriptWindowTest,
                   public testing::WithParamInterface<std::pair<std::u16string, std::string>> {};
 
 TEST_P(TypedText, IsSavedAsWindows1252WithCrLfBreaks) {
     QTemporaryDir dir;
-    frmScript& w = Open({});
+    ScriptWindow& w = Open({});
     w.ScriptBox()->clear();
     TypeText(w.ScriptBox(), QString::fromStdU16String(GetParam().first));
     dialogs.QueueSave(dir.filePath(u"typed.cfg"_s));
@@ -127,9 +126,9 @@ INSTANTIATE_TEST_SUITE_P(
 
 // Runs `inspect` on the modal window once it is up, then closes it, so that
 // the command that opened it with exec() returns.
-void WhenModalShows(const std::function<void(frmScript&)>& inspect, int tries = 100) {
+void WhenModalShows(const std::function<void(ScriptWindow&)>& inspect, int tries = 100) {
     QTimer::singleShot(0, [inspect, tries] {
-        auto* w = qobject_cast<frmScript*>(QApplication::activeModalWidget());
+        auto* w = qobject_cast<ScriptWindow*>(QApplication::activeModalWidget());
         if (w == nullptr && tries > 0) WhenModalShows(inspect, tries - 1);
         if (w == nullptr) return;
         inspect(*w);
@@ -147,11 +146,11 @@ TEST_F(Generate, TellsBadTimesBeforeTheWindowAndOpensItAnewEachTime) {
     dialogs.onCall = [&](const DialogCall& call) {
         for (QWidget* w : QApplication::topLevelWidgets())
             windowUpAtAMessage |=
-                call.kind == DialogCall::Kind::Message && qobject_cast<frmScript*>(w) && w->isVisible();
+                call.kind == DialogCall::Kind::Message && qobject_cast<ScriptWindow*>(w) && w->isVisible();
     };
     QTemporaryDir dir;
     QString first, second;
-    WhenModalShows([&](frmScript& w) {
+    WhenModalShows([&](ScriptWindow& w) {
         first = w.ScriptBox()->toPlainText();
         w.ScriptBox()->moveCursor(QTextCursor::End);
         TypeText(w.ScriptBox(), u" \u6F22"_s);
@@ -160,7 +159,7 @@ TEST_F(Generate, TellsBadTimesBeforeTheWindowAndOpensItAnewEachTime) {
         EXPECT_TRUE(w.isModal() && w.isVisible()) << "the window stays open after a save";
     });
     window->GenerateScript();
-    WhenModalShows([&](frmScript& w) { second = w.ScriptBox()->toPlainText(); });
+    WhenModalShows([&](ScriptWindow& w) { second = w.ScriptBox()->toPlainText(); });
     window->GenerateScript();
 
     const QString abc = u"message  [none]: no number _abc_"_s, empty = u"message  [none]: no number __"_s;
@@ -172,4 +171,4 @@ TEST_F(Generate, TellsBadTimesBeforeTheWindowAndOpensItAnewEachTime) {
 }
 
 }  // namespace
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

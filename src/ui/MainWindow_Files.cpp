@@ -2,32 +2,32 @@
 #include "script/ConfigImport.h"
 #include "ui/FileCommands.h"
 #include "ui/LineLimit.h"
-#include "ui/frmMain.h"
-#include "ui/frmScript.h"
+#include "ui/MainWindow.h"
+#include "ui/ScriptWindow.h"
 
 // The commands through the file dialog: Open and Save As of the animation,
 // Import of a script, and the generated script.
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 namespace {
 
 const QString kAnimationFilter = u"Brennock Animation Script (*.fsq)|*.fsq"_s;
 
 }  // namespace
 
-void frmMain::OpenAnimation() {
-    dlgFileOps.DialogTitle = u"Open Brennock Animation"_s;
-    dlgFileOps.Filter = kAnimationFilter;
-    if (!settings_.OpenDir.isEmpty()) dlgFileOps.InitDir = settings_.OpenDir;
-    if (!dialogs_.ShowOpen(this, dlgFileOps)) return;
+void MainWindow::OpenAnimation() {
+    fileDialog_.DialogTitle = u"Open Brennock Animation"_s;
+    fileDialog_.Filter = kAnimationFilter;
+    if (!settings_.OpenDir.isEmpty()) fileDialog_.InitDir = settings_.OpenDir;
+    if (!dialogs_.ShowOpen(this, fileDialog_)) return;
 
     // The whole file is read before the list is touched: a file that can't be
     // read to its end (gone, a folder, a pipe, an I/O error) changes nothing.
-    switch (LoadAnimationFile(NativePath(dlgFileOps.FileName), script_)) {
+    switch (LoadAnimationFile(NativePath(fileDialog_.FileName), script_)) {
         case LoadStatus::ReadFailed:
-            dialogs_.Message(this, u"File not found!\n"_s + dlgFileOps.FileName, u"Error"_s, MsgIcon::Critical,
+            dialogs_.Message(this, u"File not found!\n"_s + fileDialog_.FileName, u"Error"_s, MsgIcon::Critical,
                              MsgButtons::Ok);
             break;
         case LoadStatus::Truncated:
@@ -38,28 +38,28 @@ void frmMain::OpenAnimation() {
     }
 }
 
-void frmMain::SaveAnimationAs() {
-    const auto path = ChooseSavePath(dialogs_, this, dlgFileOps,
+void MainWindow::SaveAnimationAs() {
+    const auto path = ChooseSavePath(dialogs_, this, fileDialog_,
                                      [this] {
-                                         dlgFileOps.DialogTitle = u"Save Brennock Animation"_s;
-                                         dlgFileOps.Filter = kAnimationFilter;
+                                         fileDialog_.DialogTitle = u"Save Brennock Animation"_s;
+                                         fileDialog_.Filter = kAnimationFilter;
                                          if (!settings_.SaveDir.isEmpty())
-                                             dlgFileOps.InitDir = settings_.SaveDir;
+                                             fileDialog_.InitDir = settings_.SaveDir;
                                      },
                                      {u"File exists! Overwrite?"_s, u"Save Brennock Animation"_s});
     if (!path) return;
     if (const auto error = SaveAnimationFile(*path, script_)) ShowSaveError(dialogs_, this, *error);
 }
 
-void frmMain::ImportScript() {
+void MainWindow::ImportScript() {
     dialogs_.Message(this, u"Note: Currently only .cfg files can be imported!"_s, u"Import note"_s,
                      MsgIcon::Information, MsgButtons::Ok);
     // The folder is left as it is: the dialog opens where it was last.
-    dlgFileOps.DialogTitle = u"Import file"_s;
-    dlgFileOps.Filter = u"Brennock Scripts (*.cfg)|*.cfg"_s;
-    if (!dialogs_.ShowOpen(this, dlgFileOps)) return;
+    fileDialog_.DialogTitle = u"Import file"_s;
+    fileDialog_.Filter = u"Brennock Scripts (*.cfg)|*.cfg"_s;
+    if (!dialogs_.ShowOpen(this, fileDialog_)) return;
 
-    switch (ImportFile(NativePath(dlgFileOps.FileName), script_)) {
+    switch (ImportFile(NativePath(fileDialog_.FileName), script_)) {
         case LoadStatus::ReadFailed:
             dialogs_.Message(this, u"File not found!"_s, u"Import error"_s, MsgIcon::Critical, MsgButtons::Ok);
             break;
@@ -71,10 +71,9 @@ void frmMain::ImportScript() {
     }
 }
 
-void frmMain::GenerateScript() {
-    frmScript window(script_, dialogs_, settings_, this);
-    window.Form_Load();
+void MainWindow::GenerateScript() {
+    ScriptWindow window(script_, dialogs_, settings_, this);
     window.exec();
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

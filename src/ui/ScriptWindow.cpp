@@ -1,4 +1,4 @@
-#include "ui/frmScript.h"
+#include "ui/ScriptWindow.h"
 
 #include <QAction>
 #include <QKeyEvent>
@@ -17,7 +17,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 namespace {
 
 // The size the window opens with, in twips.
@@ -36,39 +36,41 @@ QFont ScriptFont() {
 
 }  // namespace
 
-frmScript::frmScript(const AnimationScript& script, Dialogs& dialogs, const settings::Settings& settings,
+ScriptWindow::ScriptWindow(const AnimationScript& script, Dialogs& dialogs, const settings::Settings& settings,
                      QWidget* parent)
     : QDialog(parent), script_(script), dialogs_(dialogs), settings_(settings) {
     MakeSizableDialog(*this, u"frmScript"_s, u"Generate Brennock Script"_s, kOpeningWidth, kOpeningHeight);
 
     auto* menu = new QMenuBar(this);
     menu->setNativeMenuBar(false);
-    mnuSave_ = menu->addAction(u"Save"_s);
-    mnuSave_->setObjectName(u"mnuSave"_s);
-    connect(mnuSave_, &QAction::triggered, this, &frmScript::SaveScript);
+    saveAction_ = menu->addAction(u"Save"_s);
+    saveAction_->setObjectName(u"mnuSave"_s);
+    connect(saveAction_, &QAction::triggered, this, &ScriptWindow::SaveScript);
 
-    txtScript_ = new QPlainTextEdit(this);
-    txtScript_->setObjectName(u"txtScript"_s);
-    txtScript_->setLineWrapMode(QPlainTextEdit::NoWrap);
-    txtScript_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    txtScript_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    txtScript_->setFont(ScriptFont());
+    scriptBox_ = new QPlainTextEdit(this);
+    scriptBox_->setObjectName(u"txtScript"_s);
+    scriptBox_->setLineWrapMode(QPlainTextEdit::NoWrap);
+    scriptBox_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    scriptBox_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    scriptBox_->setFont(ScriptFont());
 
     // The box fills the whole client area under the menu, whatever its size.
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->setMenuBar(menu);
-    layout->addWidget(txtScript_);
+    layout->addWidget(scriptBox_);
 
-    dlgFileOps.DialogTitle = u"Save Script"_s;
-    dlgFileOps.Filter = u"Brennock Script (*.cfg)|*.cfg|All Files(*.*)|*.*"_s;
+    saveDialog_.DialogTitle = u"Save Script"_s;
+    saveDialog_.Filter = u"Brennock Script (*.cfg)|*.cfg|All Files(*.*)|*.*"_s;
+
+    BuildScript();
 }
 
-frmScript::~frmScript() = default;
+ScriptWindow::~ScriptWindow() = default;
 
-void frmScript::Form_Load() {
-    txtScript_->clear();
+void ScriptWindow::BuildScript() {
+    scriptBox_->clear();
     // The window isn't shown yet: the messages stand over its owner.
     QWidget* owner = parentWidget();
     const std::string text = BuildScriptText(script_, [this, owner](const std::string& message) {
@@ -77,13 +79,13 @@ void frmScript::Form_Load() {
     QString shown = ToQString(text);
     shown.replace(u"\r\n"_s, u"\n"_s);
     // One call for the whole text: tens of thousands of lines go in at once.
-    txtScript_->setPlainText(shown);
+    scriptBox_->setPlainText(shown);
 }
 
-std::string frmScript::ScriptFileBytes() const {
+std::string ScriptWindow::ScriptFileBytes() const {
     // The raw text keeps no-break spaces as they are; every line break of the
     // box, a soft one too, becomes CR LF.
-    QString text = txtScript_->document()->toRawText();
+    QString text = scriptBox_->document()->toRawText();
     text.replace(QChar::ParagraphSeparator, u"\r\n"_s);
     text.replace(QChar::LineSeparator, u"\r\n"_s);
     std::string bytes = FromQString(text);
@@ -91,11 +93,11 @@ std::string frmScript::ScriptFileBytes() const {
     return bytes;
 }
 
-void frmScript::SaveScript() {
-    const auto path = ChooseSavePath(dialogs_, this, dlgFileOps,
+void ScriptWindow::SaveScript() {
+    const auto path = ChooseSavePath(dialogs_, this, saveDialog_,
                                      [this] {
                                          if (!settings_.SaveDir.isEmpty())
-                                             dlgFileOps.InitDir = settings_.SaveDir;
+                                             saveDialog_.InitDir = settings_.SaveDir;
                                      },
                                      {u"File Exists! Overwrite?"_s, u"Save script"_s});
     if (!path) return;
@@ -104,7 +106,7 @@ void frmScript::SaveScript() {
     if (const auto error = WriteFileSafely(*path, ScriptFileBytes())) ShowSaveError(dialogs_, this, *error);
 }
 
-void frmScript::showEvent(QShowEvent* event) {
+void ScriptWindow::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     if (placed_) return;
     placed_ = true;
@@ -116,7 +118,7 @@ void frmScript::showEvent(QShowEvent* event) {
     }
 }
 
-void frmScript::keyPressEvent(QKeyEvent* event) {
+void ScriptWindow::keyPressEvent(QKeyEvent* event) {
     // Escape would close the window and lose the edits in the box: the close
     // box is the way out.
     if (event->key() == Qt::Key_Escape) {
@@ -126,4 +128,4 @@ void frmScript::keyPressEvent(QKeyEvent* event) {
     QDialog::keyPressEvent(event);
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -3,13 +3,13 @@
 
 #include "ui/LineLimit.h"
 #include "ui/TextConv.h"
-#include "ui/frmMain.h"
+#include "ui/MainWindow.h"
 
 // The Edit menu's Cut, Copy and Paste: one line's coded text to and from the
 // clipboard, as plain text with its caret codes in view. Time and Action
 // never travel: a pasted line gets "15" and "[none]".
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 namespace {
 
@@ -24,19 +24,19 @@ QString FirstLine(const QString& text) {
 
 }  // namespace
 
-void frmMain::mnuEditCut_Click() {
+void MainWindow::CutLine() {
     if (script_.Count() == 0) return;
     dialogs_.SetClipboardText(ToQString(script_.LineAt(script_.SelectedIndex()).Text));
     script_.RemoveLine(script_.SelectedIndex());
     SetPreview();
 }
 
-void frmMain::mnuEditCopy_Click() {
+void MainWindow::CopyLine() {
     if (script_.Count() == 0) return;
     dialogs_.SetClipboardText(ToQString(script_.LineAt(script_.SelectedIndex()).Text));
 }
 
-void frmMain::mnuEditPaste_Click() {
+void MainWindow::PasteLine() {
     // A clipboard that can't be read now leaves the list as it was.
     const std::optional<QString> clipboard = dialogs_.ClipboardText();
     if (!clipboard) return;
@@ -53,4 +53,4 @@ void frmMain::mnuEditPaste_Click() {
     SetPreview();
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

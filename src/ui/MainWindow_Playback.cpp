@@ -3,22 +3,22 @@
 
 #include "colour/ColouredText.h"
 #include "ui/RichPane.h"
-#include "ui/frmMain.h"
+#include "ui/MainWindow.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 // Playback: the toolbar's Play button shows the lines in the preview pane one
 // per tick of timAni, from the first to the last, once.
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
-bool frmMain::Playing() const {
-    return timAni_->isActive();
+bool MainWindow::Playing() const {
+    return playTimer_->isActive();
 }
 
-void frmMain::TogglePlayback() {
+void MainWindow::TogglePlayback() {
     // Every press starts again from the first line; a stop forgets the place.
-    PlayIndex = 1;
+    playIndex_ = 1;
     QAction* play = ToolbarAction(u"btnpreview"_s);
     if (play->text() == u"Play"_s) {
         if (script_.Count() == 0) {
@@ -28,33 +28,33 @@ void frmMain::TogglePlayback() {
             return;
         }
         play->setText(u"Stop"_s);
-        play->setIcon(imgstop_);
+        play->setIcon(stopIcon_);
         ToolbarAction(u"btnadd"_s)->setEnabled(false);
         ToolbarAction(u"btnremove"_s)->setEnabled(false);
-        PreviewBusy = true;
-        timAni_->start();
+        previewBusy_ = true;
+        playTimer_->start();
     } else {
         play->setText(u"Play"_s);
-        play->setIcon(imgplay_);
+        play->setIcon(playIcon_);
         ToolbarAction(u"btnadd"_s)->setEnabled(true);
         ToolbarAction(u"btnremove"_s)->setEnabled(true);
-        PreviewBusy = false;
-        timAni_->stop();
+        previewBusy_ = false;
+        playTimer_->stop();
     }
 }
 
-void frmMain::timAni_Timer() {
+void MainWindow::ShowNextFrame() {
     // The list is asked anew at each tick: a list that became shorter or
     // empty meanwhile ends playback here, without a word.
-    if (script_.Count() == 0 || PlayIndex > script_.Count()) {
+    if (script_.Count() == 0 || playIndex_ > script_.Count()) {
         TogglePlayback();
         return;
     }
-    RenderCodedText(script_.LineAt(PlayIndex).Text, *preview_);
+    RenderCodedText(script_.LineAt(playIndex_).Text, *preview_);
     paneShows_ = PaneShows::Frame;
-    ++PlayIndex;
+    ++playIndex_;
     // The tick that shows the last line also stops; the frame stays.
-    if (PlayIndex > script_.Count()) TogglePlayback();
+    if (playIndex_ > script_.Count()) TogglePlayback();
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

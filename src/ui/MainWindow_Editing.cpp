@@ -6,25 +6,25 @@
 #include "colour/Palette.h"
 #include "ui/LineListView.h"
 #include "ui/RichPane.h"
-#include "ui/frmEdit.h"
-#include "ui/frmMain.h"
+#include "ui/EditTimeDialog.h"
+#include "ui/MainWindow.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 // Editing the selected line: in the coloured pane with the colour strip, by
 // keys in the list, and its time in the Edit dialog.
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
-void frmMain::txtPreview_Change() {
+void MainWindow::OnPaneEdited() {
     Pane& pane = *preview_;
     const int caret = pane.SelStart();
     // Every change of the pane goes back to the selected line as coded text,
     // with a code only where the colour changes (white counting as the colour
     // before the first character). The program's own drawing, and playback,
     // reach no line; with an empty list there is no line to reach.
-    if (!PreviewBusy && script_.Count() >= 1) {
-        shownText_ = EncodeColoredText(pane, kWhite);
+    if (!previewBusy_ && script_.Count() >= 1) {
+        shownText_ = EncodeColouredText(pane, kWhite);
         paneShows_ = PaneShows::Line;
         writingFromPane_ = true;
         script_.SetLineText(script_.SelectedIndex(), shownText_);
@@ -40,7 +40,7 @@ void frmMain::txtPreview_Change() {
     }
 }
 
-void frmMain::cmdColor_Click(int index) {
+void MainWindow::PaintSelection(int index) {
     Pane& pane = *preview_;
     // An empty pane takes no colour: a new text can't start with one.
     if (pane.Text().empty()) return;
@@ -48,22 +48,22 @@ void frmMain::cmdColor_Click(int index) {
     {
         // Whether or not the widget reports a change of colour alone, the line
         // hears of it exactly once, below.
-        const QSignalBlocker quiet(txtPreview_);
-        pane.SetSelColor(ColorFromDigit(std::string(1, static_cast<char>('1' + index))));
+        const QSignalBlocker quiet(paneEdit_);
+        pane.SetSelColour(ColourFromDigit(std::string(1, static_cast<char>('1' + index))));
     }
     // With nothing selected no character changed: the colour waits for what
     // is typed next, and typing writes the line.
-    if (stretch) txtPreview_Change();
+    if (stretch) OnPaneEdited();
 }
 
-void frmMain::txtPreview_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
+void MainWindow::OnPaneKeyPress(int key, Qt::KeyboardModifiers modifiers) {
     (void)modifiers;
     // The Ctrl key alone takes the focus to the list, so that every Ctrl
     // combination begun in the pane works on lines, not on characters.
-    if (key == Qt::Key_Control) lvwMain_->setFocus();
+    if (key == Qt::Key_Control) lineList_->setFocus();
 }
 
-void frmMain::lvwMain_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
+void MainWindow::OnListKeyPress(int key, Qt::KeyboardModifiers modifiers) {
     (void)modifiers;  // Shift+Delete and Ctrl+Delete remove as well
     // The list has already moved its selection for this key, so the pane
     // shows the line an arrow key led to.
@@ -71,13 +71,13 @@ void frmMain::lvwMain_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
     SetPreview();
 }
 
-void frmMain::EditSelectedLine() {
+void MainWindow::EditSelectedLine() {
     if (script_.Count() > 0) {
-        frmEdit window(script_, this);
+        EditTimeDialog window(script_, this);
         window.exec();
     } else {
         dialogs_.Message(this, u"No items to edit"_s, u"Edit"_s, MsgIcon::Exclamation, MsgButtons::Ok);
     }
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

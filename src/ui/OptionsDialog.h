@@ -9,11 +9,11 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 
-namespace fs::settings {
+namespace flickerscribe::settings {
 class SettingsStore;
 }
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 class Dialogs;
 
@@ -21,22 +21,22 @@ class Dialogs;
 // the store holds (not the copies in memory), and OK writes every value back
 // and has them take effect at once through `loadSettings`. Enter and Escape do
 // nothing special here: only the buttons close it.
-class frmOptions : public QDialog {
+class OptionsDialog : public QDialog {
     Q_OBJECT
 
 public:
-    frmOptions(settings::SettingsStore& store, Dialogs& dialogs, std::function<void()> loadSettings,
+    OptionsDialog(settings::SettingsStore& store, Dialogs& dialogs, std::function<void()> loadSettings,
                QWidget* parent = nullptr);
 
     // Fills the controls from the store.
-    void Form_Load();
+    void ShowStoredSettings();
     // The folder browser fills the box as it answers: Cancel empties it.
-    void cmdBrowse1_Click();
-    void cmdBrowse2_Click();
+    void BrowseOpenFolder();
+    void BrowseSaveFolder();
     // Writes all seven values, then reloads the settings and closes.
-    void cmdOK_Click();
+    void StoreSettings();
     // Closes with nothing written.
-    void Command2_Click();
+    void Cancel();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -46,22 +46,22 @@ private:
     Dialogs& dialogs_;
     std::function<void()> loadSettings_;
 
-    QGroupBox* fraMain_;
-    QCheckBox* chkEditItem_;
-    QLabel* lblOpenDir_;
-    QLineEdit* txtOpen_;
-    QPushButton* cmdBrowse1_;
-    QLabel* lblSave_;
-    QLineEdit* txtSave_;
-    QPushButton* cmdBrowse2_;
-    QGroupBox* fraWizardDefaults_;
-    QLabel* lblClanTag_;
-    QLineEdit* txtClan_;
-    QLabel* lblName_;
-    QLineEdit* txtName_;
-    QCheckBox* chkReverse_;
-    QPushButton* cmdOK_;
-    QPushButton* Command2_;
+    QGroupBox* editorFrame_;
+    QCheckBox* editInPlaceCheck_;
+    QLabel* openFolderLabel_;
+    QLineEdit* openFolderBox_;
+    QPushButton* browseOpenFolderButton_;
+    QLabel* saveFolderLabel_;
+    QLineEdit* saveFolderBox_;
+    QPushButton* browseSaveFolderButton_;
+    QGroupBox* wizardFrame_;
+    QLabel* clanTagLabel_;
+    QLineEdit* clanTagBox_;
+    QLabel* nameLabel_;
+    QLineEdit* nameBox_;
+    QCheckBox* reverseCheck_;
+    QPushButton* okButton_;
+    QPushButton* cancelButton_;
 };
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -1,4 +1,4 @@
-#include "ui/frmMain.h"
+#include "ui/MainWindow.h"
 
 #include <QAction>
 #include <QApplication>
@@ -28,7 +28,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 namespace {
 
@@ -67,22 +67,22 @@ bool IsLineShortcut(const QKeyEvent* event) {
 
 }  // namespace
 
-frmMain::frmMain(Dialogs& dialogs, settings::SettingsStore& store, QWidget* parent)
+MainWindow::MainWindow(Dialogs& dialogs, settings::SettingsStore& store, QWidget* parent)
     : QMainWindow(parent), dialogs_(dialogs), store_(store) {
     setObjectName(u"frmMain"_s);
     setWindowTitle(u"Flickerscribe - by [QZT]Quillon"_s);
     setWindowIcon(AppIcon());
-    imgplay_ = ToolbarIcon(u"imgplay"_s);
-    imgstop_ = ToolbarIcon(u"imgstop"_s);
+    playIcon_ = ToolbarIcon(u"imgplay"_s);
+    stopIcon_ = ToolbarIcon(u"imgstop"_s);
 
     BuildMenus();
     BuildToolbar();
     BuildControls();
 
-    timAni_ = new QTimer(this);
-    timAni_->setObjectName(u"timAni"_s);
-    timAni_->setInterval(100);
-    connect(timAni_, &QTimer::timeout, this, [this] { timAni_Timer(); });
+    playTimer_ = new QTimer(this);
+    playTimer_->setObjectName(u"timAni"_s);
+    playTimer_->setInterval(100);
+    connect(playTimer_, &QTimer::timeout, this, [this] { ShowNextFrame(); });
 
     setMinimumWidth(MinimumWindowWidth());
     resize(Twips(kClientWidth), Twips(kClientHeight) + menuBar()->sizeHint().height());
@@ -91,20 +91,24 @@ frmMain::frmMain(Dialogs& dialogs, settings::SettingsStore& store, QWidget* pare
 
     // Enter on a focused colour button presses it.
     PressFocusedButtonOnEnter(*this);
-    Form_Load();
+    // The strip starts hidden; the settings apply, and the empty list shows
+    // "Preview" in a locked pane.
+    coloursVisible_ = false;
+    LoadSettings();
+    SetPreview();
 }
 
-frmMain::~frmMain() {
+MainWindow::~MainWindow() {
     // The model listens to the script, which goes before the widgets do.
-    lvwMain_->setModel(nullptr);
+    lineList_->setModel(nullptr);
     delete model_;
 }
 
-Pane& frmMain::PreviewPane() {
+Pane& MainWindow::PreviewPane() {
     return *preview_;
 }
 
-void frmMain::BuildMenus() {
+void MainWindow::BuildMenus() {
     QMenu* file = menuBar()->addMenu(u"File"_s);
     file->setObjectName(u"mnuFile"_s);
     connect(AddEntry(file, u"mnuFileNew"_s, u"New"_s), &QAction::triggered, this, [this] { NewAnimation(); });
@@ -118,22 +122,22 @@ void frmMain::BuildMenus() {
             [this] { SaveAnimationAs(); });
     AddSeparator(file, u"mnuFileLine2"_s);
     connect(AddEntry(file, u"mnuFileExit"_s, u"Exit"_s), &QAction::triggered, this,
-            [this] { mnuFileExit_Click(); });
+            [this] { Exit(); });
 
     QMenu* edit = menuBar()->addMenu(u"Edit"_s);
     edit->setObjectName(u"mnuEdit"_s);
     connect(AddEntry(edit, u"mnuEditCut"_s, u"Cut"_s, QKeySequence(Qt::CTRL | Qt::Key_X)),
-            &QAction::triggered, this, [this] { mnuEditCut_Click(); });
+            &QAction::triggered, this, [this] { CutLine(); });
     connect(AddEntry(edit, u"mnuEditCopy"_s, u"Copy"_s, QKeySequence(Qt::CTRL | Qt::Key_C)),
-            &QAction::triggered, this, [this] { mnuEditCopy_Click(); });
+            &QAction::triggered, this, [this] { CopyLine(); });
     connect(AddEntry(edit, u"mnuEditPaste"_s, u"Paste"_s, QKeySequence(Qt::CTRL | Qt::Key_V)),
-            &QAction::triggered, this, [this] { mnuEditPaste_Click(); });
+            &QAction::triggered, this, [this] { PasteLine(); });
     AddSeparator(edit, u"mnuEditLine"_s);
-    mnuEditShowColors_ = AddEntry(edit, u"mnuEditShowColors"_s, u"Show colors"_s);
-    mnuEditShowColors_->setCheckable(true);
-    connect(mnuEditShowColors_, &QAction::triggered, this, [this] { ToggleColors(); });
+    showColoursAction_ = AddEntry(edit, u"mnuEditShowColors"_s, u"Show colors"_s);
+    showColoursAction_->setCheckable(true);
+    connect(showColoursAction_, &QAction::triggered, this, [this] { ToggleColours(); });
     connect(AddEntry(edit, u"mnuHelpColor"_s, u"Color name editor"_s), &QAction::triggered, this,
-            [this] { ShowColorEditor(); });
+            [this] { ShowColourNameEditor(); });
     connect(AddEntry(edit, u"mnuEditSimple"_s, u"Simple Edit"_s), &QAction::triggered, this,
             [this] { ShowSimpleEdit(); });
     AddSeparator(edit, u"mnuEditLine3"_s);
@@ -148,15 +152,15 @@ void frmMain::BuildMenus() {
             this, [this] { ShowAbout(); });
 }
 
-void frmMain::BuildToolbar() {
-    tlbMain_ = addToolBar(u"Toolbar"_s);
-    tlbMain_->setObjectName(u"tlbMain"_s);
-    tlbMain_->setMovable(false);
-    tlbMain_->setFloatable(false);
-    tlbMain_->toggleViewAction()->setEnabled(false);
-    tlbMain_->setContextMenuPolicy(Qt::PreventContextMenu);
-    tlbMain_->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    tlbMain_->setIconSize(QSize(27, 32));
+void MainWindow::BuildToolbar() {
+    toolbar_ = addToolBar(u"Toolbar"_s);
+    toolbar_->setObjectName(u"tlbMain"_s);
+    toolbar_->setMovable(false);
+    toolbar_->setFloatable(false);
+    toolbar_->toggleViewAction()->setEnabled(false);
+    toolbar_->setContextMenuPolicy(Qt::PreventContextMenu);
+    toolbar_->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    toolbar_->setIconSize(QSize(27, 32));
 
     struct Button {
         const char16_t* key;
@@ -179,15 +183,15 @@ void frmMain::BuildToolbar() {
     };
     for (const Button& b : kButtons) {
         if (b.key == nullptr) {
-            tlbMain_->addSeparator();
+            toolbar_->addSeparator();
             continue;
         }
         const QString key = QString::fromUtf16(b.key);
         QAction* action =
-            tlbMain_->addAction(ToolbarIcon(QString::fromUtf16(b.image)), QString::fromUtf16(b.caption));
+            toolbar_->addAction(ToolbarIcon(QString::fromUtf16(b.image)), QString::fromUtf16(b.caption));
         action->setObjectName(key);
         action->setToolTip(QString::fromUtf16(b.tip));
-        connect(action, &QAction::triggered, this, [this, key] { tlbMain_ButtonClick(key); });
+        connect(action, &QAction::triggered, this, [this, key] { RunToolbarCommand(key); });
     }
 
     // The Add button's drop-down menu.
@@ -211,13 +215,13 @@ void frmMain::BuildToolbar() {
         const QString key = QString::fromUtf16(keyText);
         QAction* entry = addMenu->addAction(QString::fromUtf16(caption));
         entry->setObjectName(key);
-        connect(entry, &QAction::triggered, this, [this, key] { tlbMain_ButtonMenuClick(key); });
+        connect(entry, &QAction::triggered, this, [this, key] { RunAddMenuCommand(key); });
     }
     // Playback swaps these two images on its button.
-    ToolbarAction(u"btnpreview"_s)->setIcon(imgplay_);
+    ToolbarAction(u"btnpreview"_s)->setIcon(playIcon_);
 
     QAction* add = ToolbarAction(u"btnadd"_s);
-    if (auto* button = qobject_cast<QToolButton*>(tlbMain_->widgetForAction(add))) {
+    if (auto* button = qobject_cast<QToolButton*>(toolbar_->widgetForAction(add))) {
         // The button's own menu: through it the entries reach the
         // accessibility tree, as the menu bar's entries do. It has to come
         // before the action's menu, which would otherwise stand in for the
@@ -229,7 +233,7 @@ void frmMain::BuildToolbar() {
 
     // One width for "Play" and "Stop": no button moves when playback starts.
     QAction* play = ToolbarAction(u"btnpreview"_s);
-    if (auto* button = qobject_cast<QToolButton*>(tlbMain_->widgetForAction(play))) {
+    if (auto* button = qobject_cast<QToolButton*>(toolbar_->widgetForAction(play))) {
         int width = button->sizeHint().width();
         play->setText(u"Stop"_s);
         width = std::max(width, button->sizeHint().width());
@@ -238,7 +242,7 @@ void frmMain::BuildToolbar() {
     }
 }
 
-void frmMain::BuildControls() {
+void MainWindow::BuildControls() {
     client_ = new QWidget(this);
     client_->setObjectName(u"client"_s);
     setCentralWidget(client_);
@@ -252,49 +256,49 @@ void frmMain::BuildControls() {
     paneFont.setKerning(false);
     StyleGreyPane(pane, paneFont);
     pane->document()->setDocumentMargin(2);
-    txtPreview_ = pane;
-    preview_ = std::make_unique<RichPane>(txtPreview_);
-    connect(txtPreview_, &QTextEdit::textChanged, this, [this] { txtPreview_Change(); });
-    txtPreview_->installEventFilter(this);
+    paneEdit_ = pane;
+    preview_ = std::make_unique<RichPane>(paneEdit_);
+    connect(paneEdit_, &QTextEdit::textChanged, this, [this] { OnPaneEdited(); });
+    paneEdit_->installEventFilter(this);
 
-    lvwMain_ = new LineListView(client_);
-    lvwMain_->setObjectName(u"lvwMain"_s);
-    lvwMain_->setFont(ListFont());
+    lineList_ = new LineListView(client_);
+    lineList_->setObjectName(u"lvwMain"_s);
+    lineList_->setFont(ListFont());
     model_ = new ScriptModel(script_, this);
-    lvwMain_->setModel(model_);
-    lvwMain_->verticalHeader()->hide();
-    lvwMain_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    lvwMain_->verticalHeader()->setDefaultSectionSize(QFontMetrics(lvwMain_->font()).height() + 4);
-    lvwMain_->horizontalHeader()->setHighlightSections(false);
-    lvwMain_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    lvwMain_->horizontalHeader()->setSectionsClickable(false);
-    lvwMain_->setColumnWidth(0, Twips(5000));
-    lvwMain_->setColumnWidth(1, Twips(1440));
-    lvwMain_->setColumnWidth(2, Twips(1440));
+    lineList_->setModel(model_);
+    lineList_->verticalHeader()->hide();
+    lineList_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    lineList_->verticalHeader()->setDefaultSectionSize(QFontMetrics(lineList_->font()).height() + 4);
+    lineList_->horizontalHeader()->setHighlightSections(false);
+    lineList_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    lineList_->horizontalHeader()->setSectionsClickable(false);
+    lineList_->setColumnWidth(0, Twips(5000));
+    lineList_->setColumnWidth(1, Twips(1440));
+    lineList_->setColumnWidth(2, Twips(1440));
     // Tab leaves the list for the colour strip rather than walking its cells.
-    lvwMain_->setTabKeyNavigation(false);
-    lvwMain_->setShowGrid(false);
-    lvwMain_->setWordWrap(false);
-    lvwMain_->setGeometry(0, ListTop(), Twips(5415), Twips(4335));
-    lvwMain_->installEventFilter(this);
-    lvwMain_->onKeyDown = [this](int key, Qt::KeyboardModifiers modifiers) {
-        lvwMain_KeyDown(key, modifiers);
+    lineList_->setTabKeyNavigation(false);
+    lineList_->setShowGrid(false);
+    lineList_->setWordWrap(false);
+    lineList_->setGeometry(0, ListTop(), Twips(5415), Twips(4335));
+    lineList_->installEventFilter(this);
+    lineList_->onKeyDown = [this](int key, Qt::KeyboardModifiers modifiers) {
+        OnListKeyPress(key, modifiers);
     };
-    connect(lvwMain_, &QAbstractItemView::clicked, this, [this](const QModelIndex& index) {
-        if (index.isValid()) lvwMain_ItemClick(index.row() + 1);
+    connect(lineList_, &QAbstractItemView::clicked, this, [this](const QModelIndex& index) {
+        if (index.isValid()) ShowClickedLine(index.row() + 1);
     });
     // The user's move of the current row selects that line; the script's own
     // changes of its selection move the current row.
-    connect(lvwMain_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+    connect(lineList_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& current) {
                 if (model_->Changing() || !current.isValid()) return;
                 if (current.row() + 1 != script_.SelectedIndex()) script_.SelectLine(current.row() + 1);
             });
-    connect(model_, &ScriptModel::selectedLineChanged, this, [this](int index) {
+    connect(model_, &ScriptModel::SelectedLineChanged, this, [this](int index) {
         if (index == 0) {
-            lvwMain_->selectionModel()->clear();
+            lineList_->selectionModel()->clear();
         } else {
-            lvwMain_->selectionModel()->setCurrentIndex(
+            lineList_->selectionModel()->setCurrentIndex(
                 model_->index(index - 1, 0), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
         }
         KeepPaneOnSelectedLine();
@@ -302,63 +306,58 @@ void frmMain::BuildControls() {
     connect(model_, &QAbstractItemModel::dataChanged, this, [this] { KeepPaneOnSelectedLine(); });
     connect(model_, &QAbstractItemModel::modelReset, this, [this] { KeepPaneOnSelectedLine(); });
 
-    picColors_ = new QWidget(client_);
-    picColors_->setObjectName(u"picColors"_s);
-    picColors_->setGeometry(QRect(0, PaneTop(), StripWidth(), PaneHeight()));
-    cmdColor_ = AddColourButtons(picColors_, kColourButtons, 0, kColourButtonsTop);
+    colourStrip_ = new QWidget(client_);
+    colourStrip_->setObjectName(u"picColors"_s);
+    colourStrip_->setGeometry(QRect(0, PaneTop(), StripWidth(), PaneHeight()));
+    colourButtons_ = AddColourButtons(colourStrip_, kColourButtons, 0, kColourButtonsTop);
     for (int index = 0; index < kColourButtons; ++index)
-        connect(cmdColor_[static_cast<std::size_t>(index)], &QPushButton::clicked, this,
-                [this, index] { cmdColor_Click(index); });
-    picColors_->hide();
+        connect(colourButtons_[static_cast<std::size_t>(index)], &QPushButton::clicked, this,
+                [this, index] { PaintSelection(index); });
+    colourStrip_->hide();
 
-    setTabOrder(txtPreview_, lvwMain_);
+    setTabOrder(paneEdit_, lineList_);
     client_->installEventFilter(this);
 }
 
-void frmMain::Form_Load() {
-    colorsVisible_ = false;
-    LoadSettings();
-    SetPreview();
+
+QAction* MainWindow::ToolbarAction(const QString& key) const {
+    return toolbar_->findChild<QAction*>(key);
 }
 
-QAction* frmMain::ToolbarAction(const QString& key) const {
-    return tlbMain_->findChild<QAction*>(key);
-}
-
-bool frmMain::eventFilter(QObject* watched, QEvent* event) {
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == client_ && event->type() == QEvent::Resize) {
-        Form_Resize();
-    } else if (watched == txtPreview_ || watched == lvwMain_) {
+        LayOutControls();
+    } else if (watched == paneEdit_ || watched == lineList_) {
         if (event->type() == QEvent::ShortcutOverride && IsLineShortcut(static_cast<QKeyEvent*>(event))) {
             // Not the widget's own cut, copy and paste of characters: the
             // Edit menu's commands on lines.
             return true;
         }
-        if (watched == txtPreview_ && event->type() == QEvent::KeyPress) {
+        if (watched == paneEdit_ && event->type() == QEvent::KeyPress) {
             const auto* key = static_cast<QKeyEvent*>(event);
-            txtPreview_KeyDown(key->key(), key->modifiers());
+            OnPaneKeyPress(key->key(), key->modifiers());
         }
     }
     return QMainWindow::eventFilter(watched, event);
 }
 
-void frmMain::Form_Resize() {
+void MainWindow::LayOutControls() {
     if (isMinimized() || client_ == nullptr) return;
-    const MainLayout layout = LayOutMainWindow(client_->size(), colorsVisible_);
-    txtPreview_->setGeometry(layout.pane);
+    const MainLayout layout = LayOutMainWindow(client_->size(), coloursVisible_);
+    paneEdit_->setGeometry(layout.pane);
     if (layout.stripVisible) {
-        picColors_->setGeometry(layout.strip);
-        picColors_->show();
+        colourStrip_->setGeometry(layout.strip);
+        colourStrip_->show();
     } else {
-        picColors_->hide();
+        colourStrip_->hide();
     }
-    const int listHeight = layout.listHeight > 0 ? layout.listHeight : lvwMain_->height();
-    lvwMain_->setGeometry(0, ListTop(), layout.listWidth, listHeight);
+    const int listHeight = layout.listHeight > 0 ? layout.listHeight : lineList_->height();
+    lineList_->setGeometry(0, ListTop(), layout.listWidth, listHeight);
 }
 
-void frmMain::SetPreview() {
-    const bool wasBusy = PreviewBusy;
-    PreviewBusy = true;
+void MainWindow::SetPreview() {
+    const bool wasBusy = previewBusy_;
+    previewBusy_ = true;
     if (script_.Count() > 0) {
         preview_->SetLocked(false);
         shownText_ = script_.LineAt(script_.SelectedIndex()).Text;
@@ -369,10 +368,10 @@ void frmMain::SetPreview() {
         preview_->SetText("Preview");
         paneShows_ = PaneShows::Placeholder;
     }
-    PreviewBusy = wasBusy;
+    previewBusy_ = wasBusy;
 }
 
-void frmMain::KeepPaneOnSelectedLine() {
+void MainWindow::KeepPaneOnSelectedLine() {
     if (writingFromPane_ || Playing()) return;
     const int selected = script_.SelectedIndex();
     const bool shown = selected == 0 ? paneShows_ == PaneShows::Placeholder
@@ -380,25 +379,25 @@ void frmMain::KeepPaneOnSelectedLine() {
     if (!shown) SetPreview();
 }
 
-void frmMain::NewAnimation() {
+void MainWindow::NewAnimation() {
     script_.ClearLines();
 }
 
-void frmMain::ToggleColors() {
-    colorsVisible_ = !colorsVisible_;
-    mnuEditShowColors_->setChecked(colorsVisible_);
-    Form_Resize();
+void MainWindow::ToggleColours() {
+    coloursVisible_ = !coloursVisible_;
+    showColoursAction_->setChecked(coloursVisible_);
+    LayOutControls();
 }
 
-void frmMain::LoadSettings() {
+void MainWindow::LoadSettings() {
     settings_ = settings::LoadSettings(store_);
     // Only the Text column can be edited in place, by a click on the line
     // that is already selected, and only when the setting is on.
-    lvwMain_->setEditTriggers(settings_.EditItem ? QAbstractItemView::SelectedClicked
+    lineList_->setEditTriggers(settings_.EditItem ? QAbstractItemView::SelectedClicked
                                                  : QAbstractItemView::NoEditTriggers);
 }
 
-void frmMain::tlbMain_ButtonClick(const QString& key) {
+void MainWindow::RunToolbarCommand(const QString& key) {
     if (key == u"btnnew"_s) {
         NewAnimation();
     } else if (key == u"btnopen"_s) {
@@ -420,7 +419,7 @@ void frmMain::tlbMain_ButtonClick(const QString& key) {
     }
 }
 
-void frmMain::tlbMain_ButtonMenuClick(const QString& key) {
+void MainWindow::RunAddMenuCommand(const QString& key) {
     if (key == u"btnaddbefore"_s) {
         AddLine(false);
     } else if (key == u"btnaddafter"_s) {
@@ -436,15 +435,15 @@ void frmMain::tlbMain_ButtonMenuClick(const QString& key) {
     }
 }
 
-void frmMain::lvwMain_ItemClick(int index) {
+void MainWindow::ShowClickedLine(int index) {
     script_.SelectLine(index);
     SetPreview();
 }
 
-void frmMain::mnuFileExit_Click() {
+void MainWindow::Exit() {
     // No question and nothing written: every window goes at once.
     close();
     QCoreApplication::quit();
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -7,12 +7,12 @@
 class QPushButton;
 class QTextEdit;
 
-namespace fs {
+namespace flickerscribe {
 class AnimationScript;
 class Pane;
-}  // namespace fs
+}  // namespace flickerscribe
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 class Dialogs;
 class RichPane;
@@ -20,22 +20,22 @@ class RichPane;
 // Simple edit: the whole animation typed into one multi-line pane, one frame
 // a text line, painted with the colour buttons. Save replaces the line list by
 // the pane's lines; the window stays open and never shows the list.
-class frmSimpleEdit : public QDialog {
+class SimpleEditWindow : public QDialog {
     Q_OBJECT
 
 public:
-    frmSimpleEdit(AnimationScript& script, Dialogs& dialogs, QWidget* parent = nullptr);
-    ~frmSimpleEdit() override;
+    SimpleEditWindow(AnimationScript& script, Dialogs& dialogs, QWidget* parent = nullptr);
+    ~SimpleEditWindow() override;
 
-    void cmdColor_Click(int index);
+    void PaintSelection(int index);
     // Empties the list and appends one line (Time "15", Action "[none]") for
     // each text line of the pane that holds more than blanks. Asks nothing;
     // only a full list stops it, and then the user is told.
-    void cmdSave_Click();
-    void cmdClose_Click();
+    void SaveToList();
+    void Dismiss();
     // The pane fills the window below the colour strip; the strip is as wide
     // as the window.
-    void Form_Resize();
+    void LayOutControls();
 
     Pane& PreviewPane();
 
@@ -47,12 +47,12 @@ protected:
 private:
     AnimationScript& script_;
     Dialogs& dialogs_;
-    QWidget* picColors_;
-    std::vector<QPushButton*> cmdColor_;
-    QPushButton* cmdSave_;
-    QPushButton* cmdClose_;
-    QTextEdit* txtPreview_;
+    QWidget* colourStrip_;
+    std::vector<QPushButton*> colourButtons_;
+    QPushButton* saveButton_;
+    QPushButton* closeButton_;
+    QTextEdit* paneEdit_;
     std::unique_ptr<RichPane> pane_;
 };
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -8,11 +8,11 @@ class QLabel;
 class QPushButton;
 class QTextEdit;
 
-namespace fs {
+namespace flickerscribe {
 class Pane;
 }
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 class RichPane;
 
@@ -22,25 +22,25 @@ std::string AboutText();
 
 // The About window: name, version and maker in colour, and the web addresses.
 // OK is both the default and the cancel button, so Enter and Escape close it.
-class frmAbout : public QDialog {
+class AboutDialog : public QDialog {
     Q_OBJECT
 
 public:
-    explicit frmAbout(QWidget* parent = nullptr);
-    ~frmAbout() override;
+    explicit AboutDialog(QWidget* parent = nullptr);
+    ~AboutDialog() override;
 
     // Sets the caption and renders AboutText() into the pane.
-    void Form_Load();
-    void cmdOK_Click();
+    void ShowProgramInfo();
+    void Dismiss();
 
     Pane& PreviewPane();
 
 private:
-    QTextEdit* txtPreview_;
+    QTextEdit* paneEdit_;
     std::unique_ptr<RichPane> pane_;
-    QWidget* Line1_[2];
-    QLabel* Label1_;
-    QPushButton* cmdOK_;
+    QWidget* separator_[2];
+    QLabel* addressLabel_;
+    QPushButton* okButton_;
 };
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

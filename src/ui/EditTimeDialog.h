@@ -7,40 +7,40 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 
-namespace fs {
+namespace flickerscribe {
 class AnimationScript;
 }
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 // The small Edit dialog: a new Time for the selected line. It always opens
 // with "15", whatever the line holds, and only OK writes. The Action box is a
 // placeholder that nothing reads.
-class frmEdit : public QDialog {
+class EditTimeDialog : public QDialog {
     Q_OBJECT
 
 public:
-    explicit frmEdit(AnimationScript& script, QWidget* parent = nullptr);
+    explicit EditTimeDialog(AnimationScript& script, QWidget* parent = nullptr);
 
     // Writes the guide to Time values into lblSpeed, and nothing else.
-    void Form_Load();
+    void ShowSpeedGuide();
     // A text that is no number never stands in the box: it becomes "20".
-    void txtTime_Change();
+    void CheckTime();
     // Stores the box's text as the selected line's Time and closes.
-    void cmdOK_Click();
+    void StoreTime();
     // Closes with nothing changed.
-    void cmdCancel_Click();
+    void Cancel();
 
 private:
     AnimationScript& script_;
 
-    QLabel* Label1_;
-    QLineEdit* txtTime_;
-    QLabel* Label2_;
-    QComboBox* cmbAction_;
-    QPushButton* cmdOK_;
-    QPushButton* cmdCancel_;
-    QLabel* lblSpeed_;
+    QLabel* timeLabel_;
+    QLineEdit* timeBox_;
+    QLabel* actionLabel_;
+    QComboBox* actionBox_;
+    QPushButton* okButton_;
+    QPushButton* cancelButton_;
+    QLabel* speedGuide_;
 };
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -16,15 +16,15 @@ class QRadioButton;
 class QTreeWidget;
 class QTreeWidgetItem;
 
-namespace fs {
+namespace flickerscribe {
 class AnimationScript;
 }
 
-namespace fs::settings {
+namespace flickerscribe::settings {
 struct Settings;
 }
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 
 class Dialogs;
 
@@ -34,7 +34,7 @@ class Dialogs;
 // the main window, not over it, and touches the script only at Finish.
 // Every opening is a new window: it starts on page 1 with an empty effect list
 // and the name, tag and reverse flag of the settings.
-class frmWizard : public QDialog {
+class WizardDialog : public QDialog {
     Q_OBJECT
 
 public:
@@ -44,24 +44,24 @@ public:
     static constexpr int kClientWidth = 7440;
     static constexpr int kClientHeight = 5385;
 
-    frmWizard(AnimationScript& script, Dialogs& dialogs, const settings::Settings& settings,
+    WizardDialog(AnimationScript& script, Dialogs& dialogs, const settings::Settings& settings,
               QWidget* parent = nullptr);
-    ~frmWizard() override;
+    ~WizardDialog() override;
 
-    int CurrentPage() const { return CurrentPage_; }
+    int CurrentPage() const { return currentPage_; }
 
     // One page on; on the last page, Finish.
-    void cmdNext_Click();
-    void cmdBack_Click();
+    void NextPage();
+    void PreviousPage();
     // Asks whether to leave; Yes closes the window and leaves the script alone.
-    void cmdCancel_Click();
+    void AskToLeave();
     // Adds the effect chosen in the drop-down list as a new last row.
-    void cmdAddEffect_Click();
-    void cmdPreview_Click();
+    void AddEffect();
+    void ShowEffectPreview();
     // Opens the colour name editor over the wizard and waits for it.
-    void cmdColor_Click();
+    void ShowColourNameEditor();
     // Loads the parameters and their labels from `row` (0-based).
-    void lvwEffects_ItemClick(int row);
+    void LoadEffectRow(int row);
 
     // The rows of the effect list, first to last.
     std::vector<EffectRow> EffectRows() const;
@@ -81,48 +81,48 @@ private:
     void BuildPage4();
     QWidget* AddBandPage(int page, const QString& heading, const QString& line);
 
-    void Form_Load(const settings::Settings& settings);
+    void LoadDefaults(const settings::Settings& settings);
     void ShowPage();
     void Finish();
-    void txtParam_Change(int column, const QString& text);
+    void StoreParameter(int column, const QString& text);
     QTreeWidgetItem* SelectedRow() const;
 
     AnimationScript& script_;
     Dialogs& dialogs_;
-    int CurrentPage_ = 1;
-    int PageCount_ = kPageCount;
+    int currentPage_ = 1;
+    int pageCount_ = kPageCount;
     // Set while "Add" makes the first row current, which must not load it.
     bool adding_ = false;
 
-    QLabel* imgPage1_ = nullptr;
-    std::array<QWidget*, kPageCount> picPage_{};
-    QLabel* lblWelcome_ = nullptr;
-    QLabel* lblText_ = nullptr;
+    QLabel* sidePicture_ = nullptr;
+    std::array<QWidget*, kPageCount> pages_{};
+    QLabel* welcomeHeading_ = nullptr;
+    QLabel* welcomeText_ = nullptr;
 
-    QGroupBox* fraWizStyle_ = nullptr;
-    std::array<QRadioButton*, 2> optWizStyle_{};
+    QGroupBox* styleFrame_ = nullptr;
+    std::array<QRadioButton*, 2> styleOptions_{};
 
-    QGroupBox* fraName_ = nullptr;
-    std::array<QRadioButton*, 2> optNameOnly_{};
-    std::array<QLineEdit*, 2> txtNameOnly_{};
-    QLineEdit* txtClanTag_ = nullptr;
-    QCheckBox* chkClanTag_ = nullptr;
-    QPushButton* cmdColor_ = nullptr;
+    QGroupBox* nameFrame_ = nullptr;
+    std::array<QRadioButton*, 2> nameOptions_{};
+    std::array<QLineEdit*, 2> nameBoxes_{};
+    QLineEdit* clanTagBox_ = nullptr;
+    QCheckBox* tagBehindNameCheck_ = nullptr;
+    QPushButton* colourEditorButton_ = nullptr;
 
-    QGroupBox* fraEffects_ = nullptr;
+    QGroupBox* effectsFrame_ = nullptr;
     QComboBox* cmbEffects_ = nullptr;
-    QPushButton* cmdAddEffect_ = nullptr;
-    QPushButton* cmdPreview_ = nullptr;
-    QLabel* lblEffectList_ = nullptr;
-    QTreeWidget* lvwEffects_ = nullptr;
-    QLabel* lblParam1_ = nullptr;
-    QLineEdit* txtParam1_ = nullptr;
-    QLabel* lblParam2_ = nullptr;
-    QLineEdit* txtParam2_ = nullptr;
+    QPushButton* addEffectButton_ = nullptr;
+    QPushButton* effectPreviewButton_ = nullptr;
+    QLabel* effectListLabel_ = nullptr;
+    QTreeWidget* effectList_ = nullptr;
+    QLabel* parameter1Label_ = nullptr;
+    QLineEdit* parameter1Box_ = nullptr;
+    QLabel* parameter2Label_ = nullptr;
+    QLineEdit* parameter2Box_ = nullptr;
 
-    QPushButton* cmdBack_ = nullptr;
-    QPushButton* cmdNext_ = nullptr;
-    QPushButton* cmdCancel_ = nullptr;
+    QPushButton* backButton_ = nullptr;
+    QPushButton* nextButton_ = nullptr;
+    QPushButton* cancelButton_ = nullptr;
 };
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

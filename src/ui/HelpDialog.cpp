@@ -1,4 +1,4 @@
-#include "ui/frmHelp.h"
+#include "ui/HelpDialog.h"
 
 #include <QFontMetrics>
 #include <QGroupBox>
@@ -15,7 +15,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 namespace {
 
 // How much wider than designed the boxes are, in pixels, so that each shows
@@ -66,59 +66,59 @@ QLabel* AddLabel(QWidget* frame, const QString& name, const QString& caption, in
 
 }  // namespace
 
-frmHelp::frmHelp(Dialogs& dialogs, QWidget* parent) : QDialog(parent), dialogs_(dialogs) {
+HelpDialog::HelpDialog(Dialogs& dialogs, QWidget* parent) : QDialog(parent), dialogs_(dialogs) {
     MakeFixedDialog(*this, u"frmHelp"_s, u"Help!!"_s, 4470, 4620);
     const int w = Widening();
     setFixedSize(width() + w, height());
 
-    fraFAQ_ = AddFrame(this, u"fraFAQ"_s, u"Help + FAQ + Tutorial"_s, 120, 855, w);
-    Text1_ = AddValueBox(fraFAQ_, u"Text1"_s, info::kWebSite, 360, w);
-    Command2_ = AddCopyButton(fraFAQ_, u"Command2"_s, 360, u"Copy the web site address"_s, w);
-    connect(Command2_, &QPushButton::clicked, this, &frmHelp::Command2_Click);
+    helpFrame_ = AddFrame(this, u"fraFAQ"_s, u"Help + FAQ + Tutorial"_s, 120, 855, w);
+    webSiteBox_ = AddValueBox(helpFrame_, u"Text1"_s, info::kWebSite, 360, w);
+    copyWebSiteButton_ = AddCopyButton(helpFrame_, u"Command2"_s, 360, u"Copy the web site address"_s, w);
+    connect(copyWebSiteButton_, &QPushButton::clicked, this, &HelpDialog::CopyWebSite);
 
-    Frame1_ = AddFrame(this, u"Frame1"_s, u"Forums"_s, 1080, 855, w);
-    Text2_ = AddValueBox(Frame1_, u"Text2"_s, info::kForums, 360, w);
-    Command3_ = AddCopyButton(Frame1_, u"Command3"_s, 360, u"Copy the forums address"_s, w);
-    connect(Command3_, &QPushButton::clicked, this, &frmHelp::Command3_Click);
+    forumsFrame_ = AddFrame(this, u"Frame1"_s, u"Forums"_s, 1080, 855, w);
+    forumsBox_ = AddValueBox(forumsFrame_, u"Text2"_s, info::kForums, 360, w);
+    copyForumsButton_ = AddCopyButton(forumsFrame_, u"Command3"_s, 360, u"Copy the forums address"_s, w);
+    connect(copyForumsButton_, &QPushButton::clicked, this, &HelpDialog::CopyForums);
 
-    Frame2_ = AddFrame(this, u"Frame2"_s, u"Contact me"_s, 2160, 1695, w);
-    Label1_ = AddLabel(Frame2_, u"Label1"_s, u"Email"_s, 240);
-    Text3_ = AddValueBox(Frame2_, u"Text3"_s, info::kEmail, 480, w);
-    Label1_->setBuddy(Text3_);
-    Command4_ = AddCopyButton(Frame2_, u"Command4"_s, 480, u"Copy the e-mail address"_s, w);
-    connect(Command4_, &QPushButton::clicked, this, &frmHelp::Command4_Click);
-    Label2_ = AddLabel(Frame2_, u"Label2"_s, u"ICQ"_s, 960);
-    Text4_ = AddValueBox(Frame2_, u"Text4"_s, info::kChatNumber, 1200, w);
-    Label2_->setBuddy(Text4_);
-    Command5_ = AddCopyButton(Frame2_, u"Command5"_s, 1200, u"Copy the chat number"_s, w);
-    connect(Command5_, &QPushButton::clicked, this, &frmHelp::Command5_Click);
+    contactFrame_ = AddFrame(this, u"Frame2"_s, u"Contact me"_s, 2160, 1695, w);
+    emailLabel_ = AddLabel(contactFrame_, u"Label1"_s, u"Email"_s, 240);
+    emailBox_ = AddValueBox(contactFrame_, u"Text3"_s, info::kEmail, 480, w);
+    emailLabel_->setBuddy(emailBox_);
+    copyEmailButton_ = AddCopyButton(contactFrame_, u"Command4"_s, 480, u"Copy the e-mail address"_s, w);
+    connect(copyEmailButton_, &QPushButton::clicked, this, &HelpDialog::CopyEmail);
+    chatLabel_ = AddLabel(contactFrame_, u"Label2"_s, u"ICQ"_s, 960);
+    chatNumberBox_ = AddValueBox(contactFrame_, u"Text4"_s, info::kChatNumber, 1200, w);
+    chatLabel_->setBuddy(chatNumberBox_);
+    copyChatNumberButton_ = AddCopyButton(contactFrame_, u"Command5"_s, 1200, u"Copy the chat number"_s, w);
+    connect(copyChatNumberButton_, &QPushButton::clicked, this, &HelpDialog::CopyChatNumber);
 
-    Command1_ = new QPushButton(u"Close"_s, this);
-    Command1_->setObjectName(u"Command1"_s);
-    Command1_->setGeometry(TwipsRect(2880, 4080, 1455, 375).translated(w, 0));
-    Command1_->setAutoDefault(false);
-    connect(Command1_, &QPushButton::clicked, this, &frmHelp::Command1_Click);
-    Command1_->setFocus();
+    closeButton_ = new QPushButton(u"Close"_s, this);
+    closeButton_->setObjectName(u"Command1"_s);
+    closeButton_->setGeometry(TwipsRect(2880, 4080, 1455, 375).translated(w, 0));
+    closeButton_->setAutoDefault(false);
+    connect(closeButton_, &QPushButton::clicked, this, &HelpDialog::Dismiss);
+    closeButton_->setFocus();
 }
 
-void frmHelp::Command2_Click() {
+void HelpDialog::CopyWebSite() {
     dialogs_.SetClipboardText(info::kWebSite);
 }
 
-void frmHelp::Command3_Click() {
+void HelpDialog::CopyForums() {
     dialogs_.SetClipboardText(info::kForums);
 }
 
-void frmHelp::Command4_Click() {
+void HelpDialog::CopyEmail() {
     dialogs_.SetClipboardText(info::kEmail);
 }
 
-void frmHelp::Command5_Click() {
+void HelpDialog::CopyChatNumber() {
     dialogs_.SetClipboardText(info::kChatNumber);
 }
 
-void frmHelp::Command1_Click() {
+void HelpDialog::Dismiss() {
     reject();
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -1,4 +1,4 @@
-#include "ui/frmWizard.h"
+#include "ui/WizardDialog.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -16,11 +16,11 @@
 #include "ui/Dialogs.h"
 #include "ui/LineLimit.h"
 #include "ui/TextConv.h"
-#include "ui/frmColorEditor.h"
+#include "ui/ColourNameEditor.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 namespace {
 
 // Columns of lvwEffects.
@@ -28,7 +28,7 @@ constexpr int kNameColumn = 0;
 
 }  // namespace
 
-frmWizard::frmWizard(AnimationScript& script, Dialogs& dialogs, const settings::Settings& settings,
+WizardDialog::WizardDialog(AnimationScript& script, Dialogs& dialogs, const settings::Settings& settings,
                      QWidget* parent)
     : QDialog(parent), script_(script), dialogs_(dialogs) {
     MakeFixedDialog(*this, u"frmWizard"_s, u"Animation Script Wizard"_s, kClientWidth, kClientHeight);
@@ -39,26 +39,26 @@ frmWizard::frmWizard(AnimationScript& script, Dialogs& dialogs, const settings::
     BuildPage3();
     BuildPage4();
     BuildFrame();
-    Form_Load(settings);
+    LoadDefaults(settings);
 }
 
-frmWizard::~frmWizard() = default;
+WizardDialog::~WizardDialog() = default;
 
-void frmWizard::Form_Load(const settings::Settings& settings) {
+void WizardDialog::LoadDefaults(const settings::Settings& settings) {
     cmbEffects_->clear();
     cmbEffects_->addItem(u"Wave 2"_s);
     cmbEffects_->addItem(u"Bounce"_s);
     cmbEffects_->setCurrentIndex(-1);
 
-    txtClanTag_->setText(settings.Clantag);
-    const int option = txtClanTag_->text().isEmpty() ? 0 : 1;
-    txtNameOnly_[static_cast<std::size_t>(option)]->setText(settings.Name);
-    optNameOnly_[static_cast<std::size_t>(option)]->setChecked(true);
-    chkClanTag_->setChecked(settings.Reverse);
+    clanTagBox_->setText(settings.Clantag);
+    const int option = clanTagBox_->text().isEmpty() ? 0 : 1;
+    nameBoxes_[static_cast<std::size_t>(option)]->setText(settings.Name);
+    nameOptions_[static_cast<std::size_t>(option)]->setChecked(true);
+    tagBehindNameCheck_->setChecked(settings.Reverse);
 
-    PageCount_ = kPageCount;
-    CurrentPage_ = 1;
-    lblText_->setText(
+    pageCount_ = kPageCount;
+    currentPage_ = 1;
+    welcomeText_->setText(
         u"With this wizard, you can create cool animation effects in just a few minutes.\n\n"
         "Click Next to continue or Cancel to exit."_s);
     ShowPage();
@@ -66,19 +66,19 @@ void frmWizard::Form_Load(const settings::Settings& settings) {
 
 // Shows the current page and hides its neighbours; paging moves one step at
 // a time, so no other page can be on show.
-void frmWizard::ShowPage() {
-    const auto page = [this](int number) { return picPage_[static_cast<std::size_t>(number - 1)]; };
-    switch (CurrentPage_) {
+void WizardDialog::ShowPage() {
+    const auto page = [this](int number) { return pages_[static_cast<std::size_t>(number - 1)]; };
+    switch (currentPage_) {
         case 1:
-            cmdBack_->setEnabled(false);
-            imgPage1_->show();
+            backButton_->setEnabled(false);
+            sidePicture_->show();
             page(1)->show();
             page(2)->hide();
             break;
         case 2:
-            cmdBack_->setEnabled(true);
+            backButton_->setEnabled(true);
             page(2)->show();
-            imgPage1_->hide();
+            sidePicture_->hide();
             page(1)->hide();
             page(3)->hide();
             break;
@@ -94,48 +94,48 @@ void frmWizard::ShowPage() {
         default:
             break;
     }
-    cmdNext_->setText(CurrentPage_ == PageCount_ ? u"Finish"_s : u"Next >"_s);
+    nextButton_->setText(currentPage_ == pageCount_ ? u"Finish"_s : u"Next >"_s);
 }
 
-void frmWizard::cmdNext_Click() {
-    if (CurrentPage_ < PageCount_) {
-        ++CurrentPage_;
+void WizardDialog::NextPage() {
+    if (currentPage_ < pageCount_) {
+        ++currentPage_;
         ShowPage();
     } else {
         Finish();
     }
 }
 
-void frmWizard::cmdBack_Click() {
-    if (CurrentPage_ > 1) {
-        --CurrentPage_;
+void WizardDialog::PreviousPage() {
+    if (currentPage_ > 1) {
+        --currentPage_;
         ShowPage();
     }
 }
 
-void frmWizard::cmdCancel_Click() {
+void WizardDialog::AskToLeave() {
     if (dialogs_.Message(this, u"Are you sure you want to exit the wizard?"_s, u"Exit wizard?"_s,
                          MsgIcon::Question, MsgButtons::YesNo) == MsgAnswer::Yes) {
         close();
     }
 }
 
-void frmWizard::reject() {
-    cmdCancel_Click();
+void WizardDialog::reject() {
+    AskToLeave();
 }
 
-void frmWizard::closeEvent(QCloseEvent* event) {
+void WizardDialog::closeEvent(QCloseEvent* event) {
     // Leaving by the close box asks nothing. QDialog's own handling would
     // route it through reject(), which asks.
     event->accept();
 }
 
-void frmWizard::Finish() {
+void WizardDialog::Finish() {
     // The boxes of the selected option count; the other option's text is ignored.
-    const bool nameOnly = optNameOnly_[0]->isChecked();
-    const std::string name = FromQString(txtNameOnly_[nameOnly ? 0 : 1]->text());
-    const std::string clanTag = nameOnly ? std::string() : FromQString(txtClanTag_->text());
-    const bool reverse = chkClanTag_->isChecked();
+    const bool nameOnly = nameOptions_[0]->isChecked();
+    const std::string name = FromQString(nameBoxes_[nameOnly ? 0 : 1]->text());
+    const std::string clanTag = nameOnly ? std::string() : FromQString(clanTagBox_->text());
+    const bool reverse = tagBehindNameCheck_->isChecked();
 
     const YesNoQuestion ask = [this](const std::string& title, const std::string& text) {
         return dialogs_.Message(this, ToQString(text), ToQString(title), MsgIcon::Question,
@@ -154,80 +154,80 @@ void frmWizard::Finish() {
     close();
 }
 
-void frmWizard::cmdAddEffect_Click() {
+void WizardDialog::AddEffect() {
     const int chosen = cmbEffects_->currentIndex();
     if (chosen < 0) return;
     auto* row = new QTreeWidgetItem({cmbEffects_->itemText(chosen), u"0"_s, u"0"_s});
-    const bool first = lvwEffects_->topLevelItemCount() == 0;
-    lvwEffects_->addTopLevelItem(row);
+    const bool first = effectList_->topLevelItemCount() == 0;
+    effectList_->addTopLevelItem(row);
     if (first) {
         // The first row of an empty list becomes the selected one, but only a
         // click loads its parameters.
         adding_ = true;
-        lvwEffects_->setCurrentItem(row);
+        effectList_->setCurrentItem(row);
         adding_ = false;
     }
 }
 
-void frmWizard::cmdPreview_Click() {
+void WizardDialog::ShowEffectPreview() {
     dialogs_.Message(this, u"Preview not available yet!"_s, u"Effect - Preview"_s, MsgIcon::Information,
                      MsgButtons::Ok);
 }
 
-void frmWizard::cmdColor_Click() {
-    frmColorEditor editor(dialogs_, this);
+void WizardDialog::ShowColourNameEditor() {
+    ColourNameEditor editor(dialogs_, this);
     editor.exec();
 }
 
-void frmWizard::lvwEffects_ItemClick(int row) {
-    QTreeWidgetItem* item = lvwEffects_->topLevelItem(row);
+void WizardDialog::LoadEffectRow(int row) {
+    QTreeWidgetItem* item = effectList_->topLevelItem(row);
     if (item == nullptr) return;
-    if (lvwEffects_->currentItem() != item) lvwEffects_->setCurrentItem(item);
-    txtParam1_->setText(item->text(1));
-    txtParam2_->setText(item->text(2));
+    if (effectList_->currentItem() != item) effectList_->setCurrentItem(item);
+    parameter1Box_->setText(item->text(1));
+    parameter2Box_->setText(item->text(2));
 
     const QString effect = item->text(kNameColumn);
     if (effect == u"Wave 2"_s) {
-        lblParam1_->setText(u"No options"_s);
-        lblParam2_->setText(u"No options"_s);
+        parameter1Label_->setText(u"No options"_s);
+        parameter2Label_->setText(u"No options"_s);
     } else if (effect == u"Bounce"_s) {
-        lblParam1_->setText(u"Repeat"_s);
-        lblParam2_->setText(u"No options"_s);
+        parameter1Label_->setText(u"Repeat"_s);
+        parameter2Label_->setText(u"No options"_s);
     } else {
-        lblParam1_->setText(u"Parameter 1"_s);
-        lblParam2_->setText(u"Parameter 2"_s);
+        parameter1Label_->setText(u"Parameter 1"_s);
+        parameter2Label_->setText(u"Parameter 2"_s);
     }
 }
 
-void frmWizard::txtParam_Change(int column, const QString& text) {
+void WizardDialog::StoreParameter(int column, const QString& text) {
     // With no row selected the text just stays in the box.
     if (QTreeWidgetItem* row = SelectedRow()) row->setText(column, text);
 }
 
-QTreeWidgetItem* frmWizard::SelectedRow() const {
-    QTreeWidgetItem* row = lvwEffects_->currentItem();
+QTreeWidgetItem* WizardDialog::SelectedRow() const {
+    QTreeWidgetItem* row = effectList_->currentItem();
     return row != nullptr && row->isSelected() ? row : nullptr;
 }
 
-std::vector<EffectRow> frmWizard::EffectRows() const {
+std::vector<EffectRow> WizardDialog::EffectRows() const {
     std::vector<EffectRow> rows;
-    rows.reserve(static_cast<std::size_t>(lvwEffects_->topLevelItemCount()));
-    for (int i = 0; i < lvwEffects_->topLevelItemCount(); ++i) {
-        const QTreeWidgetItem* item = lvwEffects_->topLevelItem(i);
+    rows.reserve(static_cast<std::size_t>(effectList_->topLevelItemCount()));
+    for (int i = 0; i < effectList_->topLevelItemCount(); ++i) {
+        const QTreeWidgetItem* item = effectList_->topLevelItem(i);
         rows.push_back({FromQString(item->text(0)), FromQString(item->text(1)), FromQString(item->text(2))});
     }
     return rows;
 }
 
-bool frmWizard::eventFilter(QObject* watched, QEvent* event) {
+bool WizardDialog::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::FocusIn) {
-        if (watched == txtNameOnly_[0]) {
-            optNameOnly_[0]->setChecked(true);
-        } else if (watched == txtClanTag_ || watched == txtNameOnly_[1]) {
-            optNameOnly_[1]->setChecked(true);
+        if (watched == nameBoxes_[0]) {
+            nameOptions_[0]->setChecked(true);
+        } else if (watched == clanTagBox_ || watched == nameBoxes_[1]) {
+            nameOptions_[1]->setChecked(true);
         }
     }
     return QDialog::eventFilter(watched, event);
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

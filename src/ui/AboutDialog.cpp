@@ -1,4 +1,4 @@
-#include "ui/frmAbout.h"
+#include "ui/AboutDialog.h"
 
 #include <QFontMetrics>
 #include <QLabel>
@@ -16,7 +16,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace fs::ui {
+namespace flickerscribe::ui {
 namespace {
 
 // One stroke of the etched separator: a horizontal line from (x1, y), in
@@ -50,59 +50,59 @@ std::string AboutText() {
            "\r\n^8Made by ^7[QZT]^2Quillon\r\n";
 }
 
-frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
+AboutDialog::AboutDialog(QWidget* parent) : QDialog(parent) {
     MakeFixedDialog(*this, u"frmAbout"_s, QString(), 5730, 3045);
 
-    txtPreview_ = new QTextEdit(this);
-    txtPreview_->setObjectName(u"txtPreview"_s);
-    txtPreview_->setGeometry(TwipsRect(120, 120, 5415, 2175));
-    txtPreview_->setReadOnly(true);
-    txtPreview_->setLineWrapMode(QTextEdit::NoWrap);
-    StyleGreyPane(txtPreview_, BoldFont(u"Courier New"_s, 14.25, QFont::TypeWriter));
-    pane_ = std::make_unique<RichPane>(txtPreview_);
+    paneEdit_ = new QTextEdit(this);
+    paneEdit_->setObjectName(u"txtPreview"_s);
+    paneEdit_->setGeometry(TwipsRect(120, 120, 5415, 2175));
+    paneEdit_->setReadOnly(true);
+    paneEdit_->setLineWrapMode(QTextEdit::NoWrap);
+    StyleGreyPane(paneEdit_, BoldFont(u"Courier New"_s, 14.25, QFont::TypeWriter));
+    pane_ = std::make_unique<RichPane>(paneEdit_);
 
     // The web addresses, whole and one a line, in the dialog's own font: the
     // window grows to the width they need.
-    Label1_ = new QLabel(u"Flickerscribe website @ "_s + info::kWebSite + u"\n[QZT] Website @ "_s +
+    addressLabel_ = new QLabel(u"Flickerscribe website @ "_s + info::kWebSite + u"\n[QZT] Website @ "_s +
                              info::kClanWebSite,
                          this);
-    Label1_->setObjectName(u"Label1"_s);
-    Label1_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    const QFontMetrics metrics(Label1_->font());
+    addressLabel_->setObjectName(u"Label1"_s);
+    addressLabel_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    const QFontMetrics metrics(addressLabel_->font());
     int textWidth = 0;
-    for (const QString& line : Label1_->text().split(u'\n')) textWidth = std::max(textWidth, metrics.horizontalAdvance(line));
+    for (const QString& line : addressLabel_->text().split(u'\n')) textWidth = std::max(textWidth, metrics.horizontalAdvance(line));
     const int width = std::max(Twips(5730), textWidth + Twips(240) + 4);
-    Label1_->setGeometry(Twips(120), Twips(2520), width - Twips(240), 2 * metrics.lineSpacing() + 4);
+    addressLabel_->setGeometry(Twips(120), Twips(2520), width - Twips(240), 2 * metrics.lineSpacing() + 4);
 
     // An etched separator: a grey stroke with a white one just below it.
-    Line1_[1] = AddLine(this, u"Line1_1"_s, 90, 2445, width - Twips(166), 1, QColor(128, 128, 128));
-    Line1_[0] = AddLine(this, u"Line1_0"_s, 105, 2460, width - Twips(166), 2, Qt::white);
+    separator_[1] = AddLine(this, u"Line1_1"_s, 90, 2445, width - Twips(166), 1, QColor(128, 128, 128));
+    separator_[0] = AddLine(this, u"Line1_0"_s, 105, 2460, width - Twips(166), 2, Qt::white);
 
-    cmdOK_ = new QPushButton(u"OK"_s, this);
-    cmdOK_->setObjectName(u"cmdOK"_s);
-    cmdOK_->setGeometry(width - Twips(225 + 1260), Label1_->geometry().bottom() + Twips(105), Twips(1260),
+    okButton_ = new QPushButton(u"OK"_s, this);
+    okButton_->setObjectName(u"cmdOK"_s);
+    okButton_->setGeometry(width - Twips(225 + 1260), addressLabel_->geometry().bottom() + Twips(105), Twips(1260),
                         Twips(345));
-    setFixedSize(width, cmdOK_->geometry().bottom() + 1 + Twips(120));
-    cmdOK_->setDefault(true);
-    connect(cmdOK_, &QPushButton::clicked, this, &frmAbout::cmdOK_Click);
-    cmdOK_->setFocus();
+    setFixedSize(width, okButton_->geometry().bottom() + 1 + Twips(120));
+    okButton_->setDefault(true);
+    connect(okButton_, &QPushButton::clicked, this, &AboutDialog::Dismiss);
+    okButton_->setFocus();
 
-    Form_Load();
+    ShowProgramInfo();
 }
 
-frmAbout::~frmAbout() = default;
+AboutDialog::~AboutDialog() = default;
 
-void frmAbout::Form_Load() {
+void AboutDialog::ShowProgramInfo() {
     setWindowTitle(u"About "_s + info::kProgramTitle);
     RenderCodedText(WithPaneBreaks(AboutText()), *pane_);
 }
 
-void frmAbout::cmdOK_Click() {
+void AboutDialog::Dismiss() {
     accept();
 }
 
-Pane& frmAbout::PreviewPane() {
+Pane& AboutDialog::PreviewPane() {
     return *pane_;
 }
 
-}  // namespace fs::ui
+}  // namespace flickerscribe::ui

@@ -1,0 +1,82 @@
+#include "ui/EditTimeDialog.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "colour/NumberText.h"
+#include "document/AnimationScript.h"
+#include "ui/DialogWindow.h"
+#include "ui/SingleLine.h"
+#include "ui/TextConv.h"
+#include "ui/Twips.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace flickerscribe::ui {
+namespace {
+
+template <typename Control>
+Control* Place(Control* control, const QString& name, int left, int top, int width, int height) {
+    control->setObjectName(name);
+    control->setGeometry(TwipsRect(left, top, width, height));
+    return control;
+}
+
+}  // namespace
+
+EditTimeDialog::EditTimeDialog(AnimationScript& script, QWidget* parent) : QDialog(parent), script_(script) {
+    MakeFixedDialog(*this, u"frmEdit"_s, u"Edit"_s, 4530, 1950);
+
+    timeLabel_ = Place(new QLabel(u"Time"_s, this), u"Label1"_s, 120, 120, 495, 255);
+    timeBox_ = Place(new QLineEdit(u"15"_s, this), u"txtTime"_s, 120, 360, 495, 300);
+    KeepOnOneLine(timeBox_);
+    timeLabel_->setBuddy(timeBox_);
+    actionLabel_ = Place(new QLabel(u"Action"_s, this), u"Label2"_s, 120, 1080, 1935, 255);
+    // A box with no entries that only shows its words: actions can't be
+    // chosen yet, and nothing reads it.
+    actionBox_ = Place(new QComboBox(this), u"cmbAction"_s, 120, 1320, 2055, 315);
+    actionBox_->setEditable(true);
+    actionBox_->setEditText(u"Under construction"_s);
+    KeepOnOneLine(actionBox_->lineEdit());
+    actionLabel_->setBuddy(actionBox_);
+    okButton_ = Place(new QPushButton(u"OK"_s, this), u"cmdOK"_s, 3360, 120, 1095, 350);
+    okButton_->setDefault(true);
+    cancelButton_ = Place(new QPushButton(u"Cancel"_s, this), u"cmdCancel"_s, 3360, 600, 1095, 350);
+    cancelButton_->setAutoDefault(false);
+    speedGuide_ = Place(new QLabel(this), u"lblSpeed"_s, 960, 360, 1935, 615);
+    speedGuide_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+
+    setTabOrder(timeBox_, actionBox_);
+    setTabOrder(actionBox_, okButton_);
+    setTabOrder(okButton_, cancelButton_);
+    timeBox_->setFocus();
+
+    connect(timeBox_, &QLineEdit::textChanged, this, [this] { CheckTime(); });
+    connect(okButton_, &QPushButton::clicked, this, &EditTimeDialog::StoreTime);
+    // Escape and the close box reject the dialog the same way.
+    connect(cancelButton_, &QPushButton::clicked, this, &EditTimeDialog::Cancel);
+
+    ShowSpeedGuide();
+}
+
+void EditTimeDialog::ShowSpeedGuide() {
+    speedGuide_->setText(u"15 = fast\n20 = regular\n30 = slow"_s);
+}
+
+void EditTimeDialog::CheckTime() {
+    // Setting "20" raises this handler once more, and "20" passes.
+    if (!IsNumberText(FromQString(timeBox_->text()))) timeBox_->setText(u"20"_s);
+}
+
+void EditTimeDialog::StoreTime() {
+    script_.SetLineTime(script_.SelectedIndex(), FromQString(timeBox_->text()));
+    accept();
+}
+
+void EditTimeDialog::Cancel() {
+    reject();
+}
+
+}  // namespace flickerscribe::ui
