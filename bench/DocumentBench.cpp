@@ -49,7 +49,8 @@ void BM_LoadAnimationFile(benchmark::State& state) {
     }
     flickerscribe::AnimationScript script;
     for (auto _ : state) {
-        if (flickerscribe::LoadAnimationFile(path, script) != flickerscribe::LoadStatus::Loaded) state.SkipWithError("load failed");
+        if (flickerscribe::LoadAnimationFile(path, script) != flickerscribe::LoadStatus::Loaded)
+            state.SkipWithError("load failed");
     }
     state.counters["lines"] = script.Count();
     std::filesystem::remove_all(folder);

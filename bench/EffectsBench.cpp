@@ -26,7 +26,8 @@ void RunOnce(benchmark::State& state, const std::string& name, const std::string
     flickerscribe::AnimationScript script;
     const std::vector<flickerscribe::EffectRow> rows = {row};
     for (auto _ : state) {
-        const flickerscribe::EffectRunResult result = flickerscribe::RunEffectList(script, name, tag, reverse, rows, kYes);
+        const flickerscribe::EffectRunResult result =
+            flickerscribe::RunEffectList(script, name, tag, reverse, rows, kYes);
         benchmark::DoNotOptimize(result);
     }
     state.counters["lines"] = script.Count();

@@ -23,7 +23,7 @@ class ChosenFile : public flickerscribe::ui::Dialogs {
 public:
     explicit ChosenFile(QString path) : path_(std::move(path)) {}
     flickerscribe::ui::MsgAnswer Message(QWidget*, const QString&, const QString&, flickerscribe::ui::MsgIcon,
-                              flickerscribe::ui::MsgButtons) override {
+                                         flickerscribe::ui::MsgButtons) override {
         return flickerscribe::ui::MsgAnswer::Ok;
     }
     std::optional<QString> InputBox(QWidget*, const QString&, const QString&, const QString&) override {
@@ -79,7 +79,8 @@ void BM_OpenAFullFileIntoTheShownList(benchmark::State& state) {
         shown.window.OpenAnimation();
         shown.PaintList();
     }
-    if (shown.window.Script().Count() != flickerscribe::kMaxLines) state.SkipWithError("the file didn't load whole");
+    if (shown.window.Script().Count() != flickerscribe::kMaxLines)
+        state.SkipWithError("the file didn't load whole");
     state.SetItemsProcessed(state.iterations() * flickerscribe::kMaxLines);
 }
 BENCHMARK(BM_OpenAFullFileIntoTheShownList)->Unit(benchmark::kMillisecond);

@@ -8,16 +8,14 @@
 
 #include "document/AnimationScript.h"
 #include "settings/SettingsStore.h"
-#include "ui/QtDialogs.h"
 #include "ui/MainWindow.h"
+#include "ui/QtDialogs.h"
 
 namespace flickerscribe::bench {
 
 class NoSettings : public settings::SettingsStore {
 public:
-    QString ReadValue(const QString&, const QString& defaultValue) const override {
-        return defaultValue;
-    }
+    QString ReadValue(const QString&, const QString& defaultValue) const override { return defaultValue; }
     void WriteValue(const QString&, const QString&) override {}
 };
 

@@ -24,9 +24,7 @@ namespace {
 
 class NoSettings : public flickerscribe::settings::SettingsStore {
 public:
-    QString ReadValue(const QString&, const QString& defaultValue) const override {
-        return defaultValue;
-    }
+    QString ReadValue(const QString&, const QString& defaultValue) const override { return defaultValue; }
     void WriteValue(const QString&, const QString&) override {}
 };
 
@@ -35,7 +33,7 @@ class OpenOneFile : public flickerscribe::ui::Dialogs {
 public:
     explicit OpenOneFile(QString path) : path_(std::move(path)) {}
     flickerscribe::ui::MsgAnswer Message(QWidget*, const QString&, const QString&, flickerscribe::ui::MsgIcon,
-                              flickerscribe::ui::MsgButtons) override {
+                                         flickerscribe::ui::MsgButtons) override {
         return flickerscribe::ui::MsgAnswer::Ok;
     }
     std::optional<QString> InputBox(QWidget*, const QString&, const QString&, const QString&) override {

@@ -67,7 +67,8 @@ void BM_EncodeLongestText(benchmark::State& state) {
     ShownWindow shown;
     flickerscribe::RenderCodedText(EveryCharacterItsColour(32767), shown.window.PreviewPane());
     for (auto _ : state) {
-        benchmark::DoNotOptimize(flickerscribe::EncodeColouredText(shown.window.PreviewPane(), flickerscribe::kWhite));
+        benchmark::DoNotOptimize(
+            flickerscribe::EncodeColouredText(shown.window.PreviewPane(), flickerscribe::kWhite));
     }
 }
 BENCHMARK(BM_EncodeLongestText)->Unit(benchmark::kMillisecond);

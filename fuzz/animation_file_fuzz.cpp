@@ -15,9 +15,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const flickerscribe::LoadStatus status = flickerscribe::LoadAnimationBytes(bytes, script);
     FUZZ_CHECK(status != flickerscribe::LoadStatus::ReadFailed);
     FUZZ_CHECK(script.Count() <= flickerscribe::kMaxLines);
-    FUZZ_CHECK((status == flickerscribe::LoadStatus::Truncated) == (script.Count() == flickerscribe::kMaxLines) ||
+    FUZZ_CHECK((status == flickerscribe::LoadStatus::Truncated) ==
+                   (script.Count() == flickerscribe::kMaxLines) ||
                status == flickerscribe::LoadStatus::Loaded);
-    if (status == flickerscribe::LoadStatus::Truncated) FUZZ_CHECK(script.Count() == flickerscribe::kMaxLines);
+    if (status == flickerscribe::LoadStatus::Truncated)
+        FUZZ_CHECK(script.Count() == flickerscribe::kMaxLines);
     FUZZ_CHECK(script.SelectedIndex() >= 0 && script.SelectedIndex() <= script.Count());
     for (int i = 1; i <= script.Count(); ++i) {
         const flickerscribe::AnimationLine& line = script.LineAt(i);

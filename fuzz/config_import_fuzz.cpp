@@ -18,7 +18,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const flickerscribe::LoadStatus status = flickerscribe::ImportBytes(bytes, script);
     FUZZ_CHECK(status != flickerscribe::LoadStatus::ReadFailed);
     FUZZ_CHECK(script.Count() <= flickerscribe::kMaxLines);
-    if (status == flickerscribe::LoadStatus::Truncated) FUZZ_CHECK(script.Count() == flickerscribe::kMaxLines);
+    if (status == flickerscribe::LoadStatus::Truncated)
+        FUZZ_CHECK(script.Count() == flickerscribe::kMaxLines);
     for (int i = 1; i <= script.Count(); ++i) {
         const flickerscribe::AnimationLine& line = script.LineAt(i);
         FUZZ_CHECK(line.Text.find('"') == std::string_view::npos);

@@ -52,7 +52,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             }
         return false;
     };
-    const flickerscribe::EffectRunResult result = flickerscribe::RunEffectList(script, name, tag, reverse, rows, ask);
+    const flickerscribe::EffectRunResult result =
+        flickerscribe::RunEffectList(script, name, tag, reverse, rows, ask);
 
     FUZZ_CHECK(!result.inputRefused);
     FUZZ_CHECK(script.Count() <= flickerscribe::kMaxLines);

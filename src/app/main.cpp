@@ -1,8 +1,8 @@
 #include <QApplication>
 
 #include "settings/UserSettingsStore.h"
-#include "ui/QtDialogs.h"
 #include "ui/MainWindow.h"
+#include "ui/QtDialogs.h"
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);

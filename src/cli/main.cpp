@@ -13,7 +13,9 @@ namespace {
 // Every command of the program, in the order the overview lists them. A new
 // command is one line here and one declaration in Commands.h.
 const Command* const kCommands[] = {
-    &kGenerateCommand, &kImportCommand, &kRenderCommand,
+    &kGenerateCommand,
+    &kImportCommand,
+    &kRenderCommand,
     &kEffectsCommand,
 };
 

@@ -8,7 +8,9 @@
 namespace flickerscribe {
 namespace {
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
 
 // Checks the spelling by hand, so that from_chars sees only what we accept.
 bool WellFormed(std::string_view s) {
@@ -90,6 +92,8 @@ std::optional<int> WholeNumber(std::string_view text) {
     return static_cast<int>(std::nearbyint(*value));
 }
 
-bool IsNumberText(std::string_view text) { return NumberValue(text).has_value(); }
+bool IsNumberText(std::string_view text) {
+    return NumberValue(text).has_value();
+}
 
 }  // namespace flickerscribe

@@ -7,16 +7,16 @@ namespace {
 
 // Digit 0..9 to its colour: 0 and 7 are both white, 1 and 9 both red.
 constexpr std::array<Colour, 10> kPalette = {
-    kWhite,              // 0
-    Rgb(255, 0, 0),      // 1 red
-    Rgb(0, 255, 0),      // 2 green
-    Rgb(255, 255, 0),    // 3 yellow
-    Rgb(0, 0, 255),      // 4 blue
-    Rgb(0, 255, 255),    // 5 cyan
-    Rgb(255, 0, 255),    // 6 magenta
-    kWhite,              // 7
-    kBlack,              // 8
-    Rgb(255, 0, 0),      // 9 red
+    kWhite,            // 0
+    Rgb(255, 0, 0),    // 1 red
+    Rgb(0, 255, 0),    // 2 green
+    Rgb(255, 255, 0),  // 3 yellow
+    Rgb(0, 0, 255),    // 4 blue
+    Rgb(0, 255, 255),  // 5 cyan
+    Rgb(255, 0, 255),  // 6 magenta
+    kWhite,            // 7
+    kBlack,            // 8
+    Rgb(255, 0, 0),    // 9 red
 };
 
 }  // namespace

@@ -13,9 +13,15 @@ using Colour = std::uint32_t;
 constexpr Colour Rgb(unsigned red, unsigned green, unsigned blue) {
     return static_cast<Colour>(red | (green << 8) | (blue << 16));
 }
-constexpr unsigned RedOf(Colour c) { return c & 0xFF; }
-constexpr unsigned GreenOf(Colour c) { return (c >> 8) & 0xFF; }
-constexpr unsigned BlueOf(Colour c) { return (c >> 16) & 0xFF; }
+constexpr unsigned RedOf(Colour c) {
+    return c & 0xFF;
+}
+constexpr unsigned GreenOf(Colour c) {
+    return (c >> 8) & 0xFF;
+}
+constexpr unsigned BlueOf(Colour c) {
+    return (c >> 16) & 0xFF;
+}
 
 inline constexpr Colour kWhite = Rgb(255, 255, 255);
 inline constexpr Colour kBlack = Rgb(0, 0, 0);

@@ -12,7 +12,8 @@ bool AnimationScript::AppendLine(std::string text, std::string time, std::string
 bool AnimationScript::InsertLine(int index, std::string text, std::string time, std::string action) {
     if (IsFull() || index < 1 || index > Count() + 1) return false;
     if (auto* l = Notify()) l->AboutToInsert(index);
-    lines_.insert(lines_.begin() + (index - 1), AnimationLine{std::move(text), std::move(time), std::move(action)});
+    lines_.insert(lines_.begin() + (index - 1),
+                  AnimationLine{std::move(text), std::move(time), std::move(action)});
     if (auto* l = Notify()) l->Inserted(index);
     if (selected_ == 0) {
         SetSelected(index);  // the first line of an empty list becomes the selected one

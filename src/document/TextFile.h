@@ -35,7 +35,8 @@ void ForEachTextLine(std::string_view data, Fn&& line) {
         const std::size_t end = found == std::string_view::npos ? data.size() : found;
         if (!line(data.substr(start, end - start))) return;
         start = end + 1;
-        if (terminator == '\r' && found != std::string_view::npos && start < data.size() && data[start] == '\n')
+        if (terminator == '\r' && found != std::string_view::npos && start < data.size() &&
+            data[start] == '\n')
             ++start;
     }
 }

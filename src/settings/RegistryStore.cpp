@@ -6,11 +6,11 @@ namespace flickerscribe::settings {
 
 QString RegistryStore::ReadValue(const QString& valueName, const QString& defaultValue) const {
     return QString::fromStdWString(
-        win32::ReadValue(valueName.toStdWString(), defaultValue.toStdWString()));
+        win32::ReadRegistryString(valueName.toStdWString(), defaultValue.toStdWString()));
 }
 
 void RegistryStore::WriteValue(const QString& valueName, const QString& value) {
-    win32::WriteValue(valueName.toStdWString(), value.toStdWString());
+    win32::WriteRegistryString(valueName.toStdWString(), value.toStdWString());
 }
 
 }  // namespace flickerscribe::settings

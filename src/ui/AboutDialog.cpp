@@ -19,9 +19,24 @@ using namespace Qt::Literals::StringLiterals;
 namespace flickerscribe::ui {
 namespace {
 
+namespace names {
+
+// The object names of this window's controls, all in one place: the stable
+// identities by which tests and the accessibility tree find them. They keep
+// their values whatever the code calls the things they name.
+const QString kWindow = QStringLiteral("frmAbout");
+const QString kPane = QStringLiteral("txtPreview");
+const QString kSeparatorDark = QStringLiteral("Line1_1");
+const QString kSeparatorLight = QStringLiteral("Line1_0");
+const QString kAddressLabel = QStringLiteral("Label1");
+const QString kOkButton = QStringLiteral("cmdOK");
+
+}  // namespace names
+
 // One stroke of the etched separator: a horizontal line from (x1, y), in
 // twips, to the pixel column `right`, `thickness` pixels thick.
-QWidget* AddLine(QWidget* parent, const QString& name, int x1, int y, int right, int thickness, QColor colour) {
+QWidget* AddLine(QWidget* parent, const QString& name, int x1, int y, int right, int thickness,
+                 QColor colour) {
     auto* line = new QWidget(parent);
     line->setObjectName(name);
     line->setGeometry(Twips(x1), Twips(y), right - Twips(x1), thickness);
@@ -51,10 +66,10 @@ std::string AboutText() {
 }
 
 AboutDialog::AboutDialog(QWidget* parent) : QDialog(parent) {
-    MakeFixedDialog(*this, u"frmAbout"_s, QString(), 5730, 3045);
+    MakeFixedDialog(*this, names::kWindow, QString(), 5730, 3045);
 
     paneEdit_ = new QTextEdit(this);
-    paneEdit_->setObjectName(u"txtPreview"_s);
+    paneEdit_->setObjectName(names::kPane);
     paneEdit_->setGeometry(TwipsRect(120, 120, 5415, 2175));
     paneEdit_->setReadOnly(true);
     paneEdit_->setLineWrapMode(QTextEdit::NoWrap);
@@ -63,25 +78,26 @@ AboutDialog::AboutDialog(QWidget* parent) : QDialog(parent) {
 
     // The web addresses, whole and one a line, in the dialog's own font: the
     // window grows to the width they need.
-    addressLabel_ = new QLabel(u"Flickerscribe website @ "_s + info::kWebSite + u"\n[QZT] Website @ "_s +
-                             info::kClanWebSite,
-                         this);
-    addressLabel_->setObjectName(u"Label1"_s);
+    addressLabel_ = new QLabel(
+        u"Flickerscribe website @ "_s + info::kWebSite + u"\n[QZT] Website @ "_s + info::kClanWebSite, this);
+    addressLabel_->setObjectName(names::kAddressLabel);
     addressLabel_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     const QFontMetrics metrics(addressLabel_->font());
     int textWidth = 0;
-    for (const QString& line : addressLabel_->text().split(u'\n')) textWidth = std::max(textWidth, metrics.horizontalAdvance(line));
+    for (const QString& line : addressLabel_->text().split(u'\n'))
+        textWidth = std::max(textWidth, metrics.horizontalAdvance(line));
     const int width = std::max(Twips(5730), textWidth + Twips(240) + 4);
     addressLabel_->setGeometry(Twips(120), Twips(2520), width - Twips(240), 2 * metrics.lineSpacing() + 4);
 
     // An etched separator: a grey stroke with a white one just below it.
-    separator_[1] = AddLine(this, u"Line1_1"_s, 90, 2445, width - Twips(166), 1, QColor(128, 128, 128));
-    separator_[0] = AddLine(this, u"Line1_0"_s, 105, 2460, width - Twips(166), 2, Qt::white);
+    separator_[1] =
+        AddLine(this, names::kSeparatorDark, 90, 2445, width - Twips(166), 1, QColor(128, 128, 128));
+    separator_[0] = AddLine(this, names::kSeparatorLight, 105, 2460, width - Twips(166), 2, Qt::white);
 
     okButton_ = new QPushButton(u"OK"_s, this);
-    okButton_->setObjectName(u"cmdOK"_s);
-    okButton_->setGeometry(width - Twips(225 + 1260), addressLabel_->geometry().bottom() + Twips(105), Twips(1260),
-                        Twips(345));
+    okButton_->setObjectName(names::kOkButton);
+    okButton_->setGeometry(width - Twips(225 + 1260), addressLabel_->geometry().bottom() + Twips(105),
+                           Twips(1260), Twips(345));
     setFixedSize(width, okButton_->geometry().bottom() + 1 + Twips(120));
     okButton_->setDefault(true);
     connect(okButton_, &QPushButton::clicked, this, &AboutDialog::Dismiss);

@@ -13,7 +13,7 @@ namespace flickerscribe::ui {
 // of digit index + 1 (button 8, digit 9, is the same red as button 0).
 Colour ColourOfButton(int index);
 
-// Adds the control array cmdColor_0 .. colourButtons_<count-1> to `parent`: square
+// Adds `count` colour buttons, named by their index, to `parent`: square
 // buttons of 375 twips, 480 twips apart from `left` on, at `top`, each with
 // the background of its colour and no caption. Tab reaches them, but a click
 // takes no focus, so the pane keeps its caret and selection.

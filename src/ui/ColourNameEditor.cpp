@@ -16,9 +16,25 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace flickerscribe::ui {
+namespace {
+
+namespace names {
+
+// The object names of this window's controls, all in one place: the stable
+// identities by which tests and the accessibility tree find them. They keep
+// their values whatever the code calls the things they name.
+const QString kWindow = QStringLiteral("frmColorEditor");
+const QString kHintLabel = QStringLiteral("Label3");
+const QString kPane = QStringLiteral("txtPreview");
+const QString kCopyButton = QStringLiteral("cmdClipboard");
+const QString kCloseButton = QStringLiteral("cmdClose");
+
+}  // namespace names
+
+}  // namespace
 
 ColourNameEditor::ColourNameEditor(Dialogs& dialogs, QWidget* parent) : QDialog(parent), dialogs_(dialogs) {
-    MakeFixedDialog(*this, u"frmColorEditor"_s, u"Color name editor"_s, 4515, 2265);
+    MakeFixedDialog(*this, names::kWindow, u"Color name editor"_s, 4515, 2265);
 
     colourButtons_ = AddColourButtons(this, 9, 120, 120);
     for (int index = 0; index < static_cast<int>(colourButtons_.size()); ++index) {
@@ -27,25 +43,25 @@ ColourNameEditor::ColourNameEditor(Dialogs& dialogs, QWidget* parent) : QDialog(
     }
 
     hintLabel_ = new QLabel(u"Color your text here"_s, this);
-    hintLabel_->setObjectName(u"Label3"_s);
+    hintLabel_->setObjectName(names::kHintLabel);
     hintLabel_->setGeometry(TwipsRect(120, 720, 1695, 255));
 
     paneEdit_ = new OneLineRichEdit(this);
-    paneEdit_->setObjectName(u"txtPreview"_s);
+    paneEdit_->setObjectName(names::kPane);
     paneEdit_->setGeometry(TwipsRect(120, 960, 4320, 495));
     StyleGreyPane(paneEdit_, BoldFont(u"MS Sans Serif"_s, 12, QFont::SansSerif));
     pane_ = std::make_unique<RichPane>(paneEdit_);
     hintLabel_->setBuddy(paneEdit_);
 
     copyButton_ = new QPushButton(u"Copy to clipboard"_s, this);
-    copyButton_->setObjectName(u"cmdClipboard"_s);
+    copyButton_->setObjectName(names::kCopyButton);
     copyButton_->setGeometry(TwipsRect(120, 1800, 1455, 375));
     copyButton_->setAutoDefault(false);
     connect(copyButton_, &QPushButton::clicked, this, &ColourNameEditor::CopyToClipboard);
 
     // The window's cancel button: Escape closes the window the same way.
     closeButton_ = new QPushButton(u"Close"_s, this);
-    closeButton_->setObjectName(u"cmdClose"_s);
+    closeButton_->setObjectName(names::kCloseButton);
     closeButton_->setGeometry(TwipsRect(3240, 1800, 1095, 375));
     closeButton_->setAutoDefault(false);
     connect(closeButton_, &QPushButton::clicked, this, &ColourNameEditor::Dismiss);

@@ -22,7 +22,7 @@ class EditTimeDialog : public QDialog {
 public:
     explicit EditTimeDialog(AnimationScript& script, QWidget* parent = nullptr);
 
-    // Writes the guide to Time values into lblSpeed, and nothing else.
+    // Writes the guide to Time values beside the box, and nothing else.
     void ShowSpeedGuide();
     // A text that is no number never stands in the box: it becomes "20".
     void CheckTime();

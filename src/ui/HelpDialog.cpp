@@ -18,6 +18,29 @@ using namespace Qt::Literals::StringLiterals;
 namespace flickerscribe::ui {
 namespace {
 
+namespace names {
+
+// The object names of this window's controls, all in one place: the stable
+// identities by which tests and the accessibility tree find them. They keep
+// their values whatever the code calls the things they name.
+const QString kWindow = QStringLiteral("frmHelp");
+const QString kHelpFrame = QStringLiteral("fraFAQ");
+const QString kWebSiteBox = QStringLiteral("Text1");
+const QString kCopyWebSiteButton = QStringLiteral("Command2");
+const QString kForumsFrame = QStringLiteral("Frame1");
+const QString kForumsBox = QStringLiteral("Text2");
+const QString kCopyForumsButton = QStringLiteral("Command3");
+const QString kContactFrame = QStringLiteral("Frame2");
+const QString kEmailLabel = QStringLiteral("Label1");
+const QString kEmailBox = QStringLiteral("Text3");
+const QString kCopyEmailButton = QStringLiteral("Command4");
+const QString kChatLabel = QStringLiteral("Label2");
+const QString kChatNumberBox = QStringLiteral("Text4");
+const QString kCopyChatNumberButton = QStringLiteral("Command5");
+const QString kCloseButton = QStringLiteral("Command1");
+
+}  // namespace names
+
 // How much wider than designed the boxes are, in pixels, so that each shows
 // its whole value in the dialog's font.
 int Widening() {
@@ -67,34 +90,38 @@ QLabel* AddLabel(QWidget* frame, const QString& name, const QString& caption, in
 }  // namespace
 
 HelpDialog::HelpDialog(Dialogs& dialogs, QWidget* parent) : QDialog(parent), dialogs_(dialogs) {
-    MakeFixedDialog(*this, u"frmHelp"_s, u"Help!!"_s, 4470, 4620);
+    MakeFixedDialog(*this, names::kWindow, u"Help!!"_s, 4470, 4620);
     const int w = Widening();
     setFixedSize(width() + w, height());
 
-    helpFrame_ = AddFrame(this, u"fraFAQ"_s, u"Help + FAQ + Tutorial"_s, 120, 855, w);
-    webSiteBox_ = AddValueBox(helpFrame_, u"Text1"_s, info::kWebSite, 360, w);
-    copyWebSiteButton_ = AddCopyButton(helpFrame_, u"Command2"_s, 360, u"Copy the web site address"_s, w);
+    helpFrame_ = AddFrame(this, names::kHelpFrame, u"Help + FAQ + Tutorial"_s, 120, 855, w);
+    webSiteBox_ = AddValueBox(helpFrame_, names::kWebSiteBox, info::kWebSite, 360, w);
+    copyWebSiteButton_ =
+        AddCopyButton(helpFrame_, names::kCopyWebSiteButton, 360, u"Copy the web site address"_s, w);
     connect(copyWebSiteButton_, &QPushButton::clicked, this, &HelpDialog::CopyWebSite);
 
-    forumsFrame_ = AddFrame(this, u"Frame1"_s, u"Forums"_s, 1080, 855, w);
-    forumsBox_ = AddValueBox(forumsFrame_, u"Text2"_s, info::kForums, 360, w);
-    copyForumsButton_ = AddCopyButton(forumsFrame_, u"Command3"_s, 360, u"Copy the forums address"_s, w);
+    forumsFrame_ = AddFrame(this, names::kForumsFrame, u"Forums"_s, 1080, 855, w);
+    forumsBox_ = AddValueBox(forumsFrame_, names::kForumsBox, info::kForums, 360, w);
+    copyForumsButton_ =
+        AddCopyButton(forumsFrame_, names::kCopyForumsButton, 360, u"Copy the forums address"_s, w);
     connect(copyForumsButton_, &QPushButton::clicked, this, &HelpDialog::CopyForums);
 
-    contactFrame_ = AddFrame(this, u"Frame2"_s, u"Contact me"_s, 2160, 1695, w);
-    emailLabel_ = AddLabel(contactFrame_, u"Label1"_s, u"Email"_s, 240);
-    emailBox_ = AddValueBox(contactFrame_, u"Text3"_s, info::kEmail, 480, w);
+    contactFrame_ = AddFrame(this, names::kContactFrame, u"Contact me"_s, 2160, 1695, w);
+    emailLabel_ = AddLabel(contactFrame_, names::kEmailLabel, u"Email"_s, 240);
+    emailBox_ = AddValueBox(contactFrame_, names::kEmailBox, info::kEmail, 480, w);
     emailLabel_->setBuddy(emailBox_);
-    copyEmailButton_ = AddCopyButton(contactFrame_, u"Command4"_s, 480, u"Copy the e-mail address"_s, w);
+    copyEmailButton_ =
+        AddCopyButton(contactFrame_, names::kCopyEmailButton, 480, u"Copy the e-mail address"_s, w);
     connect(copyEmailButton_, &QPushButton::clicked, this, &HelpDialog::CopyEmail);
-    chatLabel_ = AddLabel(contactFrame_, u"Label2"_s, u"ICQ"_s, 960);
-    chatNumberBox_ = AddValueBox(contactFrame_, u"Text4"_s, info::kChatNumber, 1200, w);
+    chatLabel_ = AddLabel(contactFrame_, names::kChatLabel, u"ICQ"_s, 960);
+    chatNumberBox_ = AddValueBox(contactFrame_, names::kChatNumberBox, info::kChatNumber, 1200, w);
     chatLabel_->setBuddy(chatNumberBox_);
-    copyChatNumberButton_ = AddCopyButton(contactFrame_, u"Command5"_s, 1200, u"Copy the chat number"_s, w);
+    copyChatNumberButton_ =
+        AddCopyButton(contactFrame_, names::kCopyChatNumberButton, 1200, u"Copy the chat number"_s, w);
     connect(copyChatNumberButton_, &QPushButton::clicked, this, &HelpDialog::CopyChatNumber);
 
     closeButton_ = new QPushButton(u"Close"_s, this);
-    closeButton_->setObjectName(u"Command1"_s);
+    closeButton_->setObjectName(names::kCloseButton);
     closeButton_->setGeometry(TwipsRect(2880, 4080, 1455, 375).translated(w, 0));
     closeButton_->setAutoDefault(false);
     connect(closeButton_, &QPushButton::clicked, this, &HelpDialog::Dismiss);

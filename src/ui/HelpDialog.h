@@ -22,11 +22,11 @@ public:
 
     // The copy buttons put the fixed value on the clipboard, not what the box
     // beside them shows.
-    void CopyWebSite();  // web site
-    void CopyForums();  // forums
-    void CopyEmail();  // e-mail address
+    void CopyWebSite();     // web site
+    void CopyForums();      // forums
+    void CopyEmail();       // e-mail address
     void CopyChatNumber();  // chat number
-    void Dismiss();  // Close
+    void Dismiss();         // Close
 
 private:
     Dialogs& dialogs_;

@@ -53,7 +53,7 @@ void LineListView::keyPressEvent(QKeyEvent* event) {
     const int key = event->key();
     const Qt::KeyboardModifiers modifiers = event->modifiers();
     QTableView::keyPressEvent(event);
-    if (onKeyDown) onKeyDown(key, modifiers);
+    emit KeyPressed(key, modifiers);
 }
 
 QModelIndex LineListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {

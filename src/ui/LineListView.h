@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QTableView>
-#include <functional>
 
 namespace flickerscribe::ui {
 
@@ -17,7 +16,9 @@ class LineListView : public QTableView {
 public:
     explicit LineListView(QWidget* parent = nullptr);
 
-    std::function<void(int key, Qt::KeyboardModifiers modifiers)> onKeyDown;
+signals:
+    // A key was pressed, after the list has moved its current row for it.
+    void KeyPressed(int key, Qt::KeyboardModifiers modifiers);
 
 protected:
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,

@@ -22,15 +22,14 @@ QIcon AppIcon() {
     return LoadIcon(QStringLiteral("app"));
 }
 
-QIcon ToolbarIcon(const QString& key) {
-    static const QString kKeys[] = {
-        QStringLiteral("imgnew"),    QStringLiteral("imgopen"),   QStringLiteral("imgsave"),
-        QStringLiteral("imgadd"),    QStringLiteral("imgremove"), QStringLiteral("imgedit"),
-        QStringLiteral("imgwizard"), QStringLiteral("imgplay"),   QStringLiteral("imggenerate"),
-        QStringLiteral("imgstop"),
+QIcon ToolbarIcon(const QString& name) {
+    static const QString kNames[] = {
+        QStringLiteral("new"),      QStringLiteral("open"), QStringLiteral("save"),   QStringLiteral("add"),
+        QStringLiteral("remove"),   QStringLiteral("edit"), QStringLiteral("wizard"), QStringLiteral("play"),
+        QStringLiteral("generate"), QStringLiteral("stop"),
     };
-    for (const QString& known : kKeys)
-        if (key == known) return LoadIcon(key.mid(3));
+    for (const QString& known : kNames)
+        if (name == known) return LoadIcon(name);
     return {};
 }
 

@@ -8,10 +8,10 @@ namespace flickerscribe::ui {
 // The window icon of the program.
 QIcon AppIcon();
 
-// The toolbar's images by their keys, in toolbar order: imgnew, imgopen,
-// imgsave, imgadd, imgremove, imgedit, imgwizard, imgplay, imggenerate,
-// imgstop. Drawn as SVG, so that they stay crisp at any scale. An unknown key
-// gives an empty icon.
-QIcon ToolbarIcon(const QString& key);
+// The toolbar's images by name, in toolbar order: new, open, save, add,
+// remove, edit, wizard, play, generate, and stop for the playing Play button.
+// Drawn as SVG, so that they stay crisp at any scale. An unknown name gives
+// an empty icon.
+QIcon ToolbarIcon(const QString& name);
 
 }  // namespace flickerscribe::ui

@@ -20,6 +20,7 @@
 #include "ui/LineListView.h"
 #include "ui/MainIcons.h"
 #include "ui/MainLayout.h"
+#include "ui/MainWindowNames.h"
 #include "ui/OneLineRichEdit.h"
 #include "ui/PaneStyle.h"
 #include "ui/RichPane.h"
@@ -27,6 +28,10 @@
 #include "ui/Twips.h"
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace flickerscribe::ui {
+namespace names = main_window_names;
+}
 
 namespace flickerscribe::ui {
 
@@ -69,18 +74,18 @@ bool IsLineShortcut(const QKeyEvent* event) {
 
 MainWindow::MainWindow(Dialogs& dialogs, settings::SettingsStore& store, QWidget* parent)
     : QMainWindow(parent), dialogs_(dialogs), store_(store) {
-    setObjectName(u"frmMain"_s);
+    setObjectName(names::kWindow);
     setWindowTitle(u"Flickerscribe - by [QZT]Quillon"_s);
     setWindowIcon(AppIcon());
-    playIcon_ = ToolbarIcon(u"imgplay"_s);
-    stopIcon_ = ToolbarIcon(u"imgstop"_s);
+    playIcon_ = ToolbarIcon(u"play"_s);
+    stopIcon_ = ToolbarIcon(u"stop"_s);
 
     BuildMenus();
     BuildToolbar();
     BuildControls();
 
     playTimer_ = new QTimer(this);
-    playTimer_->setObjectName(u"timAni"_s);
+    playTimer_->setObjectName(names::kPlayTimer);
     playTimer_->setInterval(100);
     connect(playTimer_, &QTimer::timeout, this, [this] { ShowNextFrame(); });
 
@@ -110,51 +115,51 @@ Pane& MainWindow::PreviewPane() {
 
 void MainWindow::BuildMenus() {
     QMenu* file = menuBar()->addMenu(u"File"_s);
-    file->setObjectName(u"mnuFile"_s);
-    connect(AddEntry(file, u"mnuFileNew"_s, u"New"_s), &QAction::triggered, this, [this] { NewAnimation(); });
-    connect(AddEntry(file, u"mnuFileOpen"_s, u"Open"_s), &QAction::triggered, this,
+    file->setObjectName(names::kFileMenu);
+    connect(AddEntry(file, names::kNewEntry, u"New"_s), &QAction::triggered, this,
+            [this] { NewAnimation(); });
+    connect(AddEntry(file, names::kOpenEntry, u"Open"_s), &QAction::triggered, this,
             [this] { OpenAnimation(); });
-    connect(AddEntry(file, u"mnuFileImport"_s, u"Import"_s), &QAction::triggered, this,
+    connect(AddEntry(file, names::kImportEntry, u"Import"_s), &QAction::triggered, this,
             [this] { ImportScript(); });
-    AddSeparator(file, u"mnuFileLine"_s);
-    AddEntry(file, u"mnuFileSave"_s, u"Save"_s)->setEnabled(false);
-    connect(AddEntry(file, u"mnuFileSaveAs"_s, u"Save As"_s), &QAction::triggered, this,
+    AddSeparator(file, names::kFileSeparator1);
+    AddEntry(file, names::kSaveEntry, u"Save"_s)->setEnabled(false);
+    connect(AddEntry(file, names::kSaveAsEntry, u"Save As"_s), &QAction::triggered, this,
             [this] { SaveAnimationAs(); });
-    AddSeparator(file, u"mnuFileLine2"_s);
-    connect(AddEntry(file, u"mnuFileExit"_s, u"Exit"_s), &QAction::triggered, this,
-            [this] { Exit(); });
+    AddSeparator(file, names::kFileSeparator2);
+    connect(AddEntry(file, names::kExitEntry, u"Exit"_s), &QAction::triggered, this, [this] { Exit(); });
 
     QMenu* edit = menuBar()->addMenu(u"Edit"_s);
-    edit->setObjectName(u"mnuEdit"_s);
-    connect(AddEntry(edit, u"mnuEditCut"_s, u"Cut"_s, QKeySequence(Qt::CTRL | Qt::Key_X)),
+    edit->setObjectName(names::kEditMenu);
+    connect(AddEntry(edit, names::kCutEntry, u"Cut"_s, QKeySequence(Qt::CTRL | Qt::Key_X)),
             &QAction::triggered, this, [this] { CutLine(); });
-    connect(AddEntry(edit, u"mnuEditCopy"_s, u"Copy"_s, QKeySequence(Qt::CTRL | Qt::Key_C)),
+    connect(AddEntry(edit, names::kCopyEntry, u"Copy"_s, QKeySequence(Qt::CTRL | Qt::Key_C)),
             &QAction::triggered, this, [this] { CopyLine(); });
-    connect(AddEntry(edit, u"mnuEditPaste"_s, u"Paste"_s, QKeySequence(Qt::CTRL | Qt::Key_V)),
+    connect(AddEntry(edit, names::kPasteEntry, u"Paste"_s, QKeySequence(Qt::CTRL | Qt::Key_V)),
             &QAction::triggered, this, [this] { PasteLine(); });
-    AddSeparator(edit, u"mnuEditLine"_s);
-    showColoursAction_ = AddEntry(edit, u"mnuEditShowColors"_s, u"Show colors"_s);
+    AddSeparator(edit, names::kEditSeparator1);
+    showColoursAction_ = AddEntry(edit, names::kShowColoursEntry, u"Show colors"_s);
     showColoursAction_->setCheckable(true);
     connect(showColoursAction_, &QAction::triggered, this, [this] { ToggleColours(); });
-    connect(AddEntry(edit, u"mnuHelpColor"_s, u"Color name editor"_s), &QAction::triggered, this,
+    connect(AddEntry(edit, names::kColourNameEditorEntry, u"Color name editor"_s), &QAction::triggered, this,
             [this] { ShowColourNameEditor(); });
-    connect(AddEntry(edit, u"mnuEditSimple"_s, u"Simple Edit"_s), &QAction::triggered, this,
+    connect(AddEntry(edit, names::kSimpleEditEntry, u"Simple Edit"_s), &QAction::triggered, this,
             [this] { ShowSimpleEdit(); });
-    AddSeparator(edit, u"mnuEditLine3"_s);
-    connect(AddEntry(edit, u"mnuEditOptions"_s, u"Options"_s), &QAction::triggered, this,
+    AddSeparator(edit, names::kEditSeparator2);
+    connect(AddEntry(edit, names::kOptionsEntry, u"Options"_s), &QAction::triggered, this,
             [this] { ShowOptions(); });
 
     QMenu* help = menuBar()->addMenu(u"Help"_s);
-    help->setObjectName(u"mnuHelp"_s);
-    connect(AddEntry(help, u"mnuHelpHelp"_s, u"Help!"_s), &QAction::triggered, this, [this] { ShowHelp(); });
-    AddSeparator(help, u"mnuHelpLine1"_s);
-    connect(AddEntry(help, u"mnuHelpAbout"_s, u"About"_s, QKeySequence(Qt::Key_F1)), &QAction::triggered,
+    help->setObjectName(names::kHelpMenu);
+    connect(AddEntry(help, names::kHelpEntry, u"Help!"_s), &QAction::triggered, this, [this] { ShowHelp(); });
+    AddSeparator(help, names::kHelpSeparator);
+    connect(AddEntry(help, names::kAboutEntry, u"About"_s, QKeySequence(Qt::Key_F1)), &QAction::triggered,
             this, [this] { ShowAbout(); });
 }
 
 void MainWindow::BuildToolbar() {
     toolbar_ = addToolBar(u"Toolbar"_s);
-    toolbar_->setObjectName(u"tlbMain"_s);
+    toolbar_->setObjectName(names::kToolbar);
     toolbar_->setMovable(false);
     toolbar_->setFloatable(false);
     toolbar_->toggleViewAction()->setEnabled(false);
@@ -163,64 +168,61 @@ void MainWindow::BuildToolbar() {
     toolbar_->setIconSize(QSize(27, 32));
 
     struct Button {
-        const char16_t* key;
-        const char16_t* caption;
-        const char16_t* tip;
-        const char16_t* image;
+        QString name;  // empty for a separator
+        QString caption;
+        QString tip;
+        QString image;
     };
-    static constexpr Button kButtons[] = {
-        {u"btnnew", u"New", u"New Animation Script", u"imgnew"},
-        {u"btnopen", u"Open", u"Open Animation Script", u"imgopen"},
-        {u"btnsave", u"Save", u"Save Animation Script", u"imgsave"},
-        {nullptr, nullptr, nullptr, nullptr},
-        {u"btnadd", u"Add", u"Add line", u"imgadd"},
-        {u"btnremove", u"Remove", u"Remove Line", u"imgremove"},
-        {u"btnedit", u"Edit", u"Edit Line", u"imgedit"},
-        {nullptr, nullptr, nullptr, nullptr},
-        {u"btnwizard", u"Wizard", u"Animation Script Wizard", u"imgwizard"},
-        {u"btnpreview", u"Play", u"Preview animation", u"imgplay"},
-        {u"btngenerate", u"Generate", u"Generate Brennock Script", u"imggenerate"},
+    const Button buttons[] = {
+        {names::kNewButton, u"New"_s, u"New Animation Script"_s, u"new"_s},
+        {names::kOpenButton, u"Open"_s, u"Open Animation Script"_s, u"open"_s},
+        {names::kSaveButton, u"Save"_s, u"Save Animation Script"_s, u"save"_s},
+        {},
+        {names::kAddButton, u"Add"_s, u"Add line"_s, u"add"_s},
+        {names::kRemoveButton, u"Remove"_s, u"Remove Line"_s, u"remove"_s},
+        {names::kEditButton, u"Edit"_s, u"Edit Line"_s, u"edit"_s},
+        {},
+        {names::kWizardButton, u"Wizard"_s, u"Animation Script Wizard"_s, u"wizard"_s},
+        {names::kPlayButton, u"Play"_s, u"Preview animation"_s, u"play"_s},
+        {names::kGenerateButton, u"Generate"_s, u"Generate Brennock Script"_s, u"generate"_s},
     };
-    for (const Button& b : kButtons) {
-        if (b.key == nullptr) {
+    for (const Button& b : buttons) {
+        if (b.name.isEmpty()) {
             toolbar_->addSeparator();
             continue;
         }
-        const QString key = QString::fromUtf16(b.key);
-        QAction* action =
-            toolbar_->addAction(ToolbarIcon(QString::fromUtf16(b.image)), QString::fromUtf16(b.caption));
-        action->setObjectName(key);
-        action->setToolTip(QString::fromUtf16(b.tip));
-        connect(action, &QAction::triggered, this, [this, key] { RunToolbarCommand(key); });
+        QAction* action = toolbar_->addAction(ToolbarIcon(b.image), b.caption);
+        action->setObjectName(b.name);
+        action->setToolTip(b.tip);
+        connect(action, &QAction::triggered, this, [this, key = b.name] { RunToolbarCommand(key); });
     }
 
     // The Add button's drop-down menu.
     auto* addMenu = new QMenu(this);
-    addMenu->setObjectName(u"btnaddMenu"_s);
-    static constexpr std::pair<const char16_t*, const char16_t*> kEntries[] = {
-        {u"btnaddbefore", u"Before selection"},
-        {u"btnaddafter", u"After selection"},
-        {nullptr, nullptr},
-        {u"btncopylast", u"Copy selected line"},
-        {u"btncopylastx", u"Copy selected line x times"},
-        {nullptr, nullptr},
-        {u"btncopyall", u"Copy all lines"},
-        {u"btncopyallreverse", u"Copy all lines (reverse)"},
+    addMenu->setObjectName(names::kAddMenu);
+    const std::pair<QString, QString> entries[] = {
+        {names::kAddBeforeEntry, u"Before selection"_s},
+        {names::kAddAfterEntry, u"After selection"_s},
+        {},
+        {names::kCopySelectedEntry, u"Copy selected line"_s},
+        {names::kCopySelectedTimesEntry, u"Copy selected line x times"_s},
+        {},
+        {names::kCopyAllEntry, u"Copy all lines"_s},
+        {names::kCopyAllReversedEntry, u"Copy all lines (reverse)"_s},
     };
-    for (const auto& [keyText, caption] : kEntries) {
-        if (keyText == nullptr) {
+    for (const auto& [name, caption] : entries) {
+        if (name.isEmpty()) {
             addMenu->addSeparator();
             continue;
         }
-        const QString key = QString::fromUtf16(keyText);
-        QAction* entry = addMenu->addAction(QString::fromUtf16(caption));
-        entry->setObjectName(key);
-        connect(entry, &QAction::triggered, this, [this, key] { RunAddMenuCommand(key); });
+        QAction* entry = addMenu->addAction(caption);
+        entry->setObjectName(name);
+        connect(entry, &QAction::triggered, this, [this, key = name] { RunAddMenuCommand(key); });
     }
     // Playback swaps these two images on its button.
-    ToolbarAction(u"btnpreview"_s)->setIcon(playIcon_);
+    ToolbarAction(names::kPlayButton)->setIcon(playIcon_);
 
-    QAction* add = ToolbarAction(u"btnadd"_s);
+    QAction* add = ToolbarAction(names::kAddButton);
     if (auto* button = qobject_cast<QToolButton*>(toolbar_->widgetForAction(add))) {
         // The button's own menu: through it the entries reach the
         // accessibility tree, as the menu bar's entries do. It has to come
@@ -232,7 +234,7 @@ void MainWindow::BuildToolbar() {
     add->setMenu(addMenu);
 
     // One width for "Play" and "Stop": no button moves when playback starts.
-    QAction* play = ToolbarAction(u"btnpreview"_s);
+    QAction* play = ToolbarAction(names::kPlayButton);
     if (auto* button = qobject_cast<QToolButton*>(toolbar_->widgetForAction(play))) {
         int width = button->sizeHint().width();
         play->setText(u"Stop"_s);
@@ -244,11 +246,11 @@ void MainWindow::BuildToolbar() {
 
 void MainWindow::BuildControls() {
     client_ = new QWidget(this);
-    client_->setObjectName(u"client"_s);
+    client_->setObjectName(names::kClientArea);
     setCentralWidget(client_);
 
     auto* pane = new OneLineRichEdit(client_);
-    pane->setObjectName(u"txtPreview"_s);
+    pane->setObjectName(names::kPane);
     QFont paneFont = BoldFont(u"Courier New"_s, 14.25, QFont::TypeWriter);
     // A name of single characters in ever new colours needs no shaping: this
     // keeps the longest text fast to draw.
@@ -262,7 +264,7 @@ void MainWindow::BuildControls() {
     paneEdit_->installEventFilter(this);
 
     lineList_ = new LineListView(client_);
-    lineList_->setObjectName(u"lvwMain"_s);
+    lineList_->setObjectName(names::kLineList);
     lineList_->setFont(ListFont());
     model_ = new ScriptModel(script_, this);
     lineList_->setModel(model_);
@@ -281,9 +283,7 @@ void MainWindow::BuildControls() {
     lineList_->setWordWrap(false);
     lineList_->setGeometry(0, ListTop(), Twips(5415), Twips(4335));
     lineList_->installEventFilter(this);
-    lineList_->onKeyDown = [this](int key, Qt::KeyboardModifiers modifiers) {
-        OnListKeyPress(key, modifiers);
-    };
+    connect(lineList_, &LineListView::KeyPressed, this, &MainWindow::OnListKeyPress);
     connect(lineList_, &QAbstractItemView::clicked, this, [this](const QModelIndex& index) {
         if (index.isValid()) ShowClickedLine(index.row() + 1);
     });
@@ -307,7 +307,7 @@ void MainWindow::BuildControls() {
     connect(model_, &QAbstractItemModel::modelReset, this, [this] { KeepPaneOnSelectedLine(); });
 
     colourStrip_ = new QWidget(client_);
-    colourStrip_->setObjectName(u"picColors"_s);
+    colourStrip_->setObjectName(names::kColourStrip);
     colourStrip_->setGeometry(QRect(0, PaneTop(), StripWidth(), PaneHeight()));
     colourButtons_ = AddColourButtons(colourStrip_, kColourButtons, 0, kColourButtonsTop);
     for (int index = 0; index < kColourButtons; ++index)
@@ -318,7 +318,6 @@ void MainWindow::BuildControls() {
     setTabOrder(paneEdit_, lineList_);
     client_->installEventFilter(this);
 }
-
 
 QAction* MainWindow::ToolbarAction(const QString& key) const {
     return toolbar_->findChild<QAction*>(key);
@@ -374,8 +373,9 @@ void MainWindow::SetPreview() {
 void MainWindow::KeepPaneOnSelectedLine() {
     if (writingFromPane_ || Playing()) return;
     const int selected = script_.SelectedIndex();
-    const bool shown = selected == 0 ? paneShows_ == PaneShows::Placeholder
-                                     : paneShows_ == PaneShows::Line && shownText_ == script_.LineAt(selected).Text;
+    const bool shown = selected == 0
+                           ? paneShows_ == PaneShows::Placeholder
+                           : paneShows_ == PaneShows::Line && shownText_ == script_.LineAt(selected).Text;
     if (!shown) SetPreview();
 }
 
@@ -394,43 +394,43 @@ void MainWindow::LoadSettings() {
     // Only the Text column can be edited in place, by a click on the line
     // that is already selected, and only when the setting is on.
     lineList_->setEditTriggers(settings_.EditItem ? QAbstractItemView::SelectedClicked
-                                                 : QAbstractItemView::NoEditTriggers);
+                                                  : QAbstractItemView::NoEditTriggers);
 }
 
 void MainWindow::RunToolbarCommand(const QString& key) {
-    if (key == u"btnnew"_s) {
+    if (key == names::kNewButton) {
         NewAnimation();
-    } else if (key == u"btnopen"_s) {
+    } else if (key == names::kOpenButton) {
         OpenAnimation();
-    } else if (key == u"btnsave"_s) {
+    } else if (key == names::kSaveButton) {
         SaveAnimationAs();
-    } else if (key == u"btnadd"_s) {
+    } else if (key == names::kAddButton) {
         AddLine(true);
-    } else if (key == u"btnremove"_s) {
+    } else if (key == names::kRemoveButton) {
         RemoveSelectedLine();
-    } else if (key == u"btnedit"_s) {
+    } else if (key == names::kEditButton) {
         EditSelectedLine();
-    } else if (key == u"btnwizard"_s) {
+    } else if (key == names::kWizardButton) {
         ShowWizard();
-    } else if (key == u"btnpreview"_s) {
+    } else if (key == names::kPlayButton) {
         TogglePlayback();
-    } else if (key == u"btngenerate"_s) {
+    } else if (key == names::kGenerateButton) {
         GenerateScript();
     }
 }
 
 void MainWindow::RunAddMenuCommand(const QString& key) {
-    if (key == u"btnaddbefore"_s) {
+    if (key == names::kAddBeforeEntry) {
         AddLine(false);
-    } else if (key == u"btnaddafter"_s) {
+    } else if (key == names::kAddAfterEntry) {
         AddLine(true);
-    } else if (key == u"btncopylast"_s) {
+    } else if (key == names::kCopySelectedEntry) {
         CopyLines(1);
-    } else if (key == u"btncopylastx"_s) {
+    } else if (key == names::kCopySelectedTimesEntry) {
         CopyLines(2);
-    } else if (key == u"btncopyall"_s) {
+    } else if (key == names::kCopyAllEntry) {
         CopyLines(3);
-    } else if (key == u"btncopyallreverse"_s) {
+    } else if (key == names::kCopyAllReversedEntry) {
         CopyLines(4);
     }
 }

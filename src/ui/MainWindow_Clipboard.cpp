@@ -2,8 +2,8 @@
 #include <string>
 
 #include "ui/LineLimit.h"
-#include "ui/TextConv.h"
 #include "ui/MainWindow.h"
+#include "ui/TextConv.h"
 
 // The Edit menu's Cut, Copy and Paste: one line's coded text to and from the
 // clipboard, as plain text with its caret codes in view. Time and Action

@@ -4,10 +4,10 @@
 
 #include "colour/ColouredText.h"
 #include "colour/Palette.h"
-#include "ui/LineListView.h"
-#include "ui/RichPane.h"
 #include "ui/EditTimeDialog.h"
+#include "ui/LineListView.h"
 #include "ui/MainWindow.h"
+#include "ui/RichPane.h"
 
 using namespace Qt::Literals::StringLiterals;
 

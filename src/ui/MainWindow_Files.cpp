@@ -27,8 +27,8 @@ void MainWindow::OpenAnimation() {
     // read to its end (gone, a folder, a pipe, an I/O error) changes nothing.
     switch (LoadAnimationFile(NativePath(fileDialog_.FileName), script_)) {
         case LoadStatus::ReadFailed:
-            dialogs_.Message(this, u"File not found!\n"_s + fileDialog_.FileName, u"Error"_s, MsgIcon::Critical,
-                             MsgButtons::Ok);
+            dialogs_.Message(this, u"File not found!\n"_s + fileDialog_.FileName, u"Error"_s,
+                             MsgIcon::Critical, MsgButtons::Ok);
             break;
         case LoadStatus::Truncated:
             ShowLineLimitMessage(dialogs_, this);
@@ -61,7 +61,8 @@ void MainWindow::ImportScript() {
 
     switch (ImportFile(NativePath(fileDialog_.FileName), script_)) {
         case LoadStatus::ReadFailed:
-            dialogs_.Message(this, u"File not found!"_s, u"Import error"_s, MsgIcon::Critical, MsgButtons::Ok);
+            dialogs_.Message(this, u"File not found!"_s, u"Import error"_s, MsgIcon::Critical,
+                             MsgButtons::Ok);
             break;
         case LoadStatus::Truncated:
             ShowLineLimitMessage(dialogs_, this);

@@ -3,8 +3,8 @@
 
 #include "colour/NumberText.h"
 #include "ui/LineLimit.h"
-#include "ui/TextConv.h"
 #include "ui/MainWindow.h"
+#include "ui/TextConv.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -2,15 +2,18 @@
 #include <QTimer>
 
 #include "colour/ColouredText.h"
-#include "ui/RichPane.h"
 #include "ui/MainWindow.h"
+#include "ui/MainWindowNames.h"
+#include "ui/RichPane.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 // Playback: the toolbar's Play button shows the lines in the preview pane one
-// per tick of timAni, from the first to the last, once.
+// per tick of the play timer, from the first to the last, once.
 
 namespace flickerscribe::ui {
+
+namespace names = main_window_names;
 
 bool MainWindow::Playing() const {
     return playTimer_->isActive();
@@ -19,7 +22,7 @@ bool MainWindow::Playing() const {
 void MainWindow::TogglePlayback() {
     // Every press starts again from the first line; a stop forgets the place.
     playIndex_ = 1;
-    QAction* play = ToolbarAction(u"btnpreview"_s);
+    QAction* play = ToolbarAction(names::kPlayButton);
     if (play->text() == u"Play"_s) {
         if (script_.Count() == 0) {
             // Whatever the answer, nothing else happens.
@@ -29,15 +32,15 @@ void MainWindow::TogglePlayback() {
         }
         play->setText(u"Stop"_s);
         play->setIcon(stopIcon_);
-        ToolbarAction(u"btnadd"_s)->setEnabled(false);
-        ToolbarAction(u"btnremove"_s)->setEnabled(false);
+        ToolbarAction(names::kAddButton)->setEnabled(false);
+        ToolbarAction(names::kRemoveButton)->setEnabled(false);
         previewBusy_ = true;
         playTimer_->start();
     } else {
         play->setText(u"Play"_s);
         play->setIcon(playIcon_);
-        ToolbarAction(u"btnadd"_s)->setEnabled(true);
-        ToolbarAction(u"btnremove"_s)->setEnabled(true);
+        ToolbarAction(names::kAddButton)->setEnabled(true);
+        ToolbarAction(names::kRemoveButton)->setEnabled(true);
         previewBusy_ = false;
         playTimer_->stop();
     }

@@ -20,6 +20,31 @@ using namespace Qt::Literals::StringLiterals;
 namespace flickerscribe::ui {
 namespace {
 
+namespace names {
+
+// The object names of this window's controls, all in one place: the stable
+// identities by which tests and the accessibility tree find them. They keep
+// their values whatever the code calls the things they name.
+const QString kWindow = QStringLiteral("frmOptions");
+const QString kOkButton = QStringLiteral("cmdOK");
+const QString kCancelButton = QStringLiteral("Command2");
+const QString kEditorFrame = QStringLiteral("fraMain");
+const QString kEditInPlaceCheck = QStringLiteral("chkEditItem");
+const QString kOpenFolderLabel = QStringLiteral("lblOpenDir");
+const QString kOpenFolderBox = QStringLiteral("txtOpen");
+const QString kBrowseOpenFolderButton = QStringLiteral("cmdBrowse1");
+const QString kSaveFolderLabel = QStringLiteral("lblSave");
+const QString kSaveFolderBox = QStringLiteral("txtSave");
+const QString kBrowseSaveFolderButton = QStringLiteral("cmdBrowse2");
+const QString kWizardFrame = QStringLiteral("fraWizardDefaults");
+const QString kClanTagLabel = QStringLiteral("lblClanTag");
+const QString kClanTagBox = QStringLiteral("txtClan");
+const QString kNameLabel = QStringLiteral("lblName");
+const QString kNameBox = QStringLiteral("txtName");
+const QString kReverseCheck = QStringLiteral("chkReverse");
+
+}  // namespace names
+
 template <typename Control>
 Control* Place(Control* control, const QString& name, int left, int top, int width, int height) {
     control->setObjectName(name);
@@ -59,46 +84,50 @@ QString Flag(bool on) {
 
 }  // namespace
 
-OptionsDialog::OptionsDialog(settings::SettingsStore& store, Dialogs& dialogs, std::function<void()> loadSettings,
-                       QWidget* parent)
+OptionsDialog::OptionsDialog(settings::SettingsStore& store, Dialogs& dialogs,
+                             std::function<void()> loadSettings, QWidget* parent)
     : QDialog(parent), store_(store), dialogs_(dialogs), loadSettings_(std::move(loadSettings)) {
-    MakeFixedDialog(*this, u"frmOptions"_s, u"Options"_s, 6810, 4125);
+    MakeFixedDialog(*this, names::kWindow, u"Options"_s, 6810, 4125);
 
-    okButton_ = AddButton(this, u"cmdOK"_s, u"OK"_s, 5280, 120, 1455, 350);
+    okButton_ = AddButton(this, names::kOkButton, u"OK"_s, 5280, 120, 1455, 350);
     connect(okButton_, &QPushButton::clicked, this, &OptionsDialog::StoreSettings);
-    cancelButton_ = AddButton(this, u"Command2"_s, u"Cancel"_s, 5280, 600, 1455, 350);
+    cancelButton_ = AddButton(this, names::kCancelButton, u"Cancel"_s, 5280, 600, 1455, 350);
     connect(cancelButton_, &QPushButton::clicked, this, &OptionsDialog::Cancel);
 
-    editorFrame_ = Place(new QGroupBox(u"Editor"_s, this), u"fraMain"_s, 120, 120, 4935, 2055);
-    editInPlaceCheck_ =
-        Place(new QCheckBox(u"Selected item edit"_s, editorFrame_), u"chkEditItem"_s, 120, 360, 3855, 255);
+    editorFrame_ = Place(new QGroupBox(u"Editor"_s, this), names::kEditorFrame, 120, 120, 4935, 2055);
+    editInPlaceCheck_ = Place(new QCheckBox(u"Selected item edit"_s, editorFrame_), names::kEditInPlaceCheck,
+                              120, 360, 3855, 255);
     editInPlaceCheck_->setToolTip(u"Edit item by clicking on the selected item"_s);
-    openFolderLabel_ = AddLabel(editorFrame_, u"lblOpenDir"_s, u"Default Open directory"_s, 120, 720, 2055, 255);
-    openFolderBox_ = AddFolderBox(editorFrame_, u"txtOpen"_s, 960);
-    browseOpenFolderButton_ = AddBrowseButton(editorFrame_, u"cmdBrowse1"_s, 960, u"Browse for the default Open directory"_s);
+    openFolderLabel_ =
+        AddLabel(editorFrame_, names::kOpenFolderLabel, u"Default Open directory"_s, 120, 720, 2055, 255);
+    openFolderBox_ = AddFolderBox(editorFrame_, names::kOpenFolderBox, 960);
+    browseOpenFolderButton_ = AddBrowseButton(editorFrame_, names::kBrowseOpenFolderButton, 960,
+                                              u"Browse for the default Open directory"_s);
     connect(browseOpenFolderButton_, &QPushButton::clicked, this, &OptionsDialog::BrowseOpenFolder);
-    saveFolderLabel_ = AddLabel(editorFrame_, u"lblSave"_s, u"Default Save directory"_s, 120, 1320, 2055, 255);
-    saveFolderBox_ = AddFolderBox(editorFrame_, u"txtSave"_s, 1560);
-    browseSaveFolderButton_ =
-        AddBrowseButton(editorFrame_, u"cmdBrowse2"_s, 1560, u"Browse for the default Save directory"_s);
+    saveFolderLabel_ =
+        AddLabel(editorFrame_, names::kSaveFolderLabel, u"Default Save directory"_s, 120, 1320, 2055, 255);
+    saveFolderBox_ = AddFolderBox(editorFrame_, names::kSaveFolderBox, 1560);
+    browseSaveFolderButton_ = AddBrowseButton(editorFrame_, names::kBrowseSaveFolderButton, 1560,
+                                              u"Browse for the default Save directory"_s);
     connect(browseSaveFolderButton_, &QPushButton::clicked, this, &OptionsDialog::BrowseSaveFolder);
 
     wizardFrame_ =
-        Place(new QGroupBox(u"Wizard Defaults"_s, this), u"fraWizardDefaults"_s, 120, 2280, 4935, 1695);
-    clanTagLabel_ = AddLabel(wizardFrame_, u"lblClanTag"_s, u"Clantag"_s, 120, 360, 1335, 255);
-    clanTagBox_ = Place(new QLineEdit(wizardFrame_), u"txtClan"_s, 120, 600, 1335, 350);
+        Place(new QGroupBox(u"Wizard Defaults"_s, this), names::kWizardFrame, 120, 2280, 4935, 1695);
+    clanTagLabel_ = AddLabel(wizardFrame_, names::kClanTagLabel, u"Clantag"_s, 120, 360, 1335, 255);
+    clanTagBox_ = Place(new QLineEdit(wizardFrame_), names::kClanTagBox, 120, 600, 1335, 350);
     clanTagLabel_->setBuddy(clanTagBox_);
-    nameLabel_ = AddLabel(wizardFrame_, u"lblName"_s, u"Name"_s, 1680, 360, 975, 255);
-    nameBox_ = Place(new QLineEdit(wizardFrame_), u"txtName"_s, 1680, 600, 3015, 350);
+    nameLabel_ = AddLabel(wizardFrame_, names::kNameLabel, u"Name"_s, 1680, 360, 975, 255);
+    nameBox_ = Place(new QLineEdit(wizardFrame_), names::kNameBox, 1680, 600, 3015, 350);
     nameLabel_->setBuddy(nameBox_);
     KeepOnOneLine(clanTagBox_);
     KeepOnOneLine(nameBox_);
     reverseCheck_ =
-        Place(new QCheckBox(u"Reverse clantag"_s, wizardFrame_), u"chkReverse"_s, 120, 1080, 4575, 255);
+        Place(new QCheckBox(u"Reverse clantag"_s, wizardFrame_), names::kReverseCheck, 120, 1080, 4575, 255);
 
     // The tab order starts at the two buttons, then runs through the frames.
-    QWidget* const order[] = {okButton_,   cancelButton_,   editInPlaceCheck_, openFolderBox_, browseOpenFolderButton_,
-                              saveFolderBox_, browseSaveFolderButton_, clanTagBox_,     nameBox_, reverseCheck_};
+    QWidget* const order[] = {
+        okButton_,      cancelButton_,           editInPlaceCheck_, openFolderBox_, browseOpenFolderButton_,
+        saveFolderBox_, browseSaveFolderButton_, clanTagBox_,       nameBox_,       reverseCheck_};
     for (std::size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
     okButton_->setFocus();
 

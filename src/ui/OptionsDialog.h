@@ -26,7 +26,7 @@ class OptionsDialog : public QDialog {
 
 public:
     OptionsDialog(settings::SettingsStore& store, Dialogs& dialogs, std::function<void()> loadSettings,
-               QWidget* parent = nullptr);
+                  QWidget* parent = nullptr);
 
     // Fills the controls from the store.
     void ShowStoredSettings();

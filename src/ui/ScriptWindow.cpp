@@ -20,6 +20,17 @@ using namespace Qt::Literals::StringLiterals;
 namespace flickerscribe::ui {
 namespace {
 
+namespace names {
+
+// The object names of this window's controls, all in one place: the stable
+// identities by which tests and the accessibility tree find them. They keep
+// their values whatever the code calls the things they name.
+const QString kWindow = QStringLiteral("frmScript");
+const QString kSaveEntry = QStringLiteral("mnuSave");
+const QString kScriptBox = QStringLiteral("txtScript");
+
+}  // namespace names
+
 // The size the window opens with, in twips.
 constexpr int kOpeningWidth = 9600;
 constexpr int kOpeningHeight = 7200;
@@ -36,19 +47,19 @@ QFont ScriptFont() {
 
 }  // namespace
 
-ScriptWindow::ScriptWindow(const AnimationScript& script, Dialogs& dialogs, const settings::Settings& settings,
-                     QWidget* parent)
+ScriptWindow::ScriptWindow(const AnimationScript& script, Dialogs& dialogs,
+                           const settings::Settings& settings, QWidget* parent)
     : QDialog(parent), script_(script), dialogs_(dialogs), settings_(settings) {
-    MakeSizableDialog(*this, u"frmScript"_s, u"Generate Brennock Script"_s, kOpeningWidth, kOpeningHeight);
+    MakeSizableDialog(*this, names::kWindow, u"Generate Brennock Script"_s, kOpeningWidth, kOpeningHeight);
 
     auto* menu = new QMenuBar(this);
     menu->setNativeMenuBar(false);
     saveAction_ = menu->addAction(u"Save"_s);
-    saveAction_->setObjectName(u"mnuSave"_s);
+    saveAction_->setObjectName(names::kSaveEntry);
     connect(saveAction_, &QAction::triggered, this, &ScriptWindow::SaveScript);
 
     scriptBox_ = new QPlainTextEdit(this);
-    scriptBox_->setObjectName(u"txtScript"_s);
+    scriptBox_->setObjectName(names::kScriptBox);
     scriptBox_->setLineWrapMode(QPlainTextEdit::NoWrap);
     scriptBox_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     scriptBox_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);

@@ -21,6 +21,19 @@ using namespace Qt::Literals::StringLiterals;
 namespace flickerscribe::ui {
 namespace {
 
+namespace names {
+
+// The object names of this window's controls, all in one place: the stable
+// identities by which tests and the accessibility tree find them. They keep
+// their values whatever the code calls the things they name.
+const QString kWindow = QStringLiteral("frmSimpleEdit");
+const QString kColourStrip = QStringLiteral("picColors");
+const QString kSaveButton = QStringLiteral("cmdSave");
+const QString kCloseButton = QStringLiteral("cmdClose");
+const QString kPane = QStringLiteral("txtPreview");
+
+}  // namespace names
+
 QPushButton* AddStripButton(QWidget* strip, const QString& name, const QString& caption, int left) {
     auto* button = new QPushButton(caption, strip);
     button->setObjectName(name);
@@ -33,10 +46,10 @@ QPushButton* AddStripButton(QWidget* strip, const QString& name, const QString& 
 
 SimpleEditWindow::SimpleEditWindow(AnimationScript& script, Dialogs& dialogs, QWidget* parent)
     : QDialog(parent), script_(script), dialogs_(dialogs) {
-    MakeSizableDialog(*this, u"frmSimpleEdit"_s, u"Simple edit"_s, 6345, 4590);
+    MakeSizableDialog(*this, names::kWindow, u"Simple edit"_s, 6345, 4590);
 
     colourStrip_ = new QWidget(this);
-    colourStrip_->setObjectName(u"picColors"_s);
+    colourStrip_->setObjectName(names::kColourStrip);
     colourStrip_->setGeometry(TwipsRect(0, 0, 6015, 495));
 
     colourButtons_ = AddColourButtons(colourStrip_, 8, 0, 50);
@@ -44,13 +57,13 @@ SimpleEditWindow::SimpleEditWindow(AnimationScript& script, Dialogs& dialogs, QW
         connect(colourButtons_[static_cast<std::size_t>(index)], &QPushButton::clicked, this,
                 [this, index] { PaintSelection(index); });
     }
-    saveButton_ = AddStripButton(colourStrip_, u"cmdSave"_s, u"Save"_s, 3840);
+    saveButton_ = AddStripButton(colourStrip_, names::kSaveButton, u"Save"_s, 3840);
     connect(saveButton_, &QPushButton::clicked, this, &SimpleEditWindow::SaveToList);
-    closeButton_ = AddStripButton(colourStrip_, u"cmdClose"_s, u"Close"_s, 4920);
+    closeButton_ = AddStripButton(colourStrip_, names::kCloseButton, u"Close"_s, 4920);
     connect(closeButton_, &QPushButton::clicked, this, &SimpleEditWindow::Dismiss);
 
     paneEdit_ = new PlainPasteEdit(this);
-    paneEdit_->setObjectName(u"txtPreview"_s);
+    paneEdit_->setObjectName(names::kPane);
     paneEdit_->setGeometry(TwipsRect(0, 480, 6015, 3975));
     paneEdit_->setLineWrapMode(QTextEdit::NoWrap);
     paneEdit_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);

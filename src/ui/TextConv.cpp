@@ -8,7 +8,8 @@ QString ToQString(std::string_view cp1252) {
     QString out;
     out.resize(static_cast<qsizetype>(cp1252.size()));
     QChar* dst = out.data();
-    for (char c : cp1252) *dst++ = QChar(static_cast<char16_t>(Cp1252ToUnicode(static_cast<unsigned char>(c))));
+    for (char c : cp1252)
+        *dst++ = QChar(static_cast<char16_t>(Cp1252ToUnicode(static_cast<unsigned char>(c))));
     return out;
 }
 

@@ -12,26 +12,29 @@
 
 #include "document/AnimationScript.h"
 #include "settings/Settings.h"
+#include "ui/ColourNameEditor.h"
 #include "ui/DialogWindow.h"
 #include "ui/Dialogs.h"
 #include "ui/LineLimit.h"
 #include "ui/TextConv.h"
-#include "ui/ColourNameEditor.h"
+#include "ui/WizardDialogNames.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace flickerscribe::ui {
+
+namespace names = wizard_names;
 namespace {
 
-// Columns of lvwEffects.
+// Columns of the effect list.
 constexpr int kNameColumn = 0;
 
 }  // namespace
 
 WizardDialog::WizardDialog(AnimationScript& script, Dialogs& dialogs, const settings::Settings& settings,
-                     QWidget* parent)
+                           QWidget* parent)
     : QDialog(parent), script_(script), dialogs_(dialogs) {
-    MakeFixedDialog(*this, u"frmWizard"_s, u"Animation Script Wizard"_s, kClientWidth, kClientHeight);
+    MakeFixedDialog(*this, names::kWindow, u"Animation Script Wizard"_s, kClientWidth, kClientHeight);
     // The main window stays usable while the wizard is open.
     setModal(false);
     BuildPage1();
@@ -45,10 +48,10 @@ WizardDialog::WizardDialog(AnimationScript& script, Dialogs& dialogs, const sett
 WizardDialog::~WizardDialog() = default;
 
 void WizardDialog::LoadDefaults(const settings::Settings& settings) {
-    cmbEffects_->clear();
-    cmbEffects_->addItem(u"Wave 2"_s);
-    cmbEffects_->addItem(u"Bounce"_s);
-    cmbEffects_->setCurrentIndex(-1);
+    effectChoice_->clear();
+    effectChoice_->addItem(u"Wave 2"_s);
+    effectChoice_->addItem(u"Bounce"_s);
+    effectChoice_->setCurrentIndex(-1);
 
     clanTagBox_->setText(settings.Clantag);
     const int option = clanTagBox_->text().isEmpty() ? 0 : 1;
@@ -155,9 +158,9 @@ void WizardDialog::Finish() {
 }
 
 void WizardDialog::AddEffect() {
-    const int chosen = cmbEffects_->currentIndex();
+    const int chosen = effectChoice_->currentIndex();
     if (chosen < 0) return;
-    auto* row = new QTreeWidgetItem({cmbEffects_->itemText(chosen), u"0"_s, u"0"_s});
+    auto* row = new QTreeWidgetItem({effectChoice_->itemText(chosen), u"0"_s, u"0"_s});
     const bool first = effectList_->topLevelItemCount() == 0;
     effectList_->addTopLevelItem(row);
     if (first) {

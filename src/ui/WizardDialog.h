@@ -45,7 +45,7 @@ public:
     static constexpr int kClientHeight = 5385;
 
     WizardDialog(AnimationScript& script, Dialogs& dialogs, const settings::Settings& settings,
-              QWidget* parent = nullptr);
+                 QWidget* parent = nullptr);
     ~WizardDialog() override;
 
     int CurrentPage() const { return currentPage_; }
@@ -110,7 +110,7 @@ private:
     QPushButton* colourEditorButton_ = nullptr;
 
     QGroupBox* effectsFrame_ = nullptr;
-    QComboBox* cmbEffects_ = nullptr;
+    QComboBox* effectChoice_ = nullptr;
     QPushButton* addEffectButton_ = nullptr;
     QPushButton* effectPreviewButton_ = nullptr;
     QLabel* effectListLabel_ = nullptr;

@@ -76,8 +76,8 @@ TEST_F(Cli, ImportWritesTheAnimationFile) {
         "#v050#\r\n^1one\r\n20\r\n[none]\r\n^2two\r\n15\r\n[none]\r\na\r\n15\r\n[none]\r\n";
     // With CR LF line ends, and with Unix ones.
     for (const std::string end : {"\r\n", "\n"}) {
-        const std::string script = "// my script" + end + "  set name \"^1one\"; wait 20 ;SET NAME ^2two" + end +
-                                   "set name \"a;b\"" + end + "wait x" + end;
+        const std::string script = "// my script" + end + "  set name \"^1one\"; wait 20 ;SET NAME ^2two" +
+                                   end + "set name \"a;b\"" + end + "wait x" + end;
         Put(Path("in.cfg"), script);
         for (const auto& args :
              {std::vector<std::string>{"import", "in.cfg"}, std::vector<std::string>{"import", "-"}}) {

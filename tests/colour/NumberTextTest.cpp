@@ -1,9 +1,9 @@
-#include "colour/NumberText.h"
-
 #include <gtest/gtest.h>
 
 #include <clocale>
 #include <optional>
+
+#include "colour/NumberText.h"
 
 namespace flickerscribe {
 namespace {
@@ -15,17 +15,47 @@ struct Case {
 
 TEST(NumberText, Table) {
     const Case cases[] = {
-        {"15", 15}, {" 15", 15}, {"15 ", 15}, {"  15  ", 15}, {"-3", -3}, {"+7", 7},
-        {"1.5", 2}, {"2.5", 2}, {"3.5", 4}, {"-2.5", -2}, {".5", 0}, {"1.", 1},
-        {"32767", 32767}, {"-32768", -32768}, {"32767.4", 32767}, {"1e3", 1000},
-        {"1E3", 1000}, {"1e+2", 100}, {"1e-400", 0}, {"007", 7}, {"0", 0},
-        {"32768", std::nullopt}, {"-32769", std::nullopt}, {"32767.5", std::nullopt},
-        {"1e400", std::nullopt}, {"abc", std::nullopt}, {"", std::nullopt},
-        {" ", std::nullopt}, {"\t15", std::nullopt}, {"1 5", std::nullopt},
-        {"inf", std::nullopt}, {"nan", std::nullopt}, {"0x10", std::nullopt},
-        {"&H10", std::nullopt}, {"1e", std::nullopt}, {"e5", std::nullopt},
-        {".", std::nullopt}, {"-", std::nullopt}, {"1,5", std::nullopt},
-        {"^", std::nullopt}, {"a", std::nullopt},
+        {"15", 15},
+        {" 15", 15},
+        {"15 ", 15},
+        {"  15  ", 15},
+        {"-3", -3},
+        {"+7", 7},
+        {"1.5", 2},
+        {"2.5", 2},
+        {"3.5", 4},
+        {"-2.5", -2},
+        {".5", 0},
+        {"1.", 1},
+        {"32767", 32767},
+        {"-32768", -32768},
+        {"32767.4", 32767},
+        {"1e3", 1000},
+        {"1E3", 1000},
+        {"1e+2", 100},
+        {"1e-400", 0},
+        {"007", 7},
+        {"0", 0},
+        {"32768", std::nullopt},
+        {"-32769", std::nullopt},
+        {"32767.5", std::nullopt},
+        {"1e400", std::nullopt},
+        {"abc", std::nullopt},
+        {"", std::nullopt},
+        {" ", std::nullopt},
+        {"\t15", std::nullopt},
+        {"1 5", std::nullopt},
+        {"inf", std::nullopt},
+        {"nan", std::nullopt},
+        {"0x10", std::nullopt},
+        {"&H10", std::nullopt},
+        {"1e", std::nullopt},
+        {"e5", std::nullopt},
+        {".", std::nullopt},
+        {"-", std::nullopt},
+        {"1,5", std::nullopt},
+        {"^", std::nullopt},
+        {"a", std::nullopt},
     };
     for (const auto& c : cases) {
         EXPECT_EQ(WholeNumber(c.text), c.whole) << '"' << c.text << '"';

@@ -1,6 +1,6 @@
-#include "colour/Palette.h"
-
 #include <gtest/gtest.h>
+
+#include "colour/Palette.h"
 
 namespace flickerscribe {
 namespace {
@@ -10,8 +10,8 @@ TEST(Palette, DigitsToColours) {
         const char* digit;
         Colour colour;
     } cases[] = {
-        {"0", 0xFFFFFF}, {"1", 0x0000FF}, {"2", 0x00FF00}, {"3", 0x00FFFF}, {"4", 0xFF0000},
-        {"5", 0xFFFF00}, {"6", 0xFF00FF}, {"7", 0xFFFFFF}, {"8", 0x000000}, {"9", 0x0000FF},
+        {"0", 0xFFFFFF}, {"1", 0x0000FF}, {"2", 0x00FF00},  {"3", 0x00FFFF}, {"4", 0xFF0000},
+        {"5", 0xFFFF00}, {"6", 0xFF00FF}, {"7", 0xFFFFFF},  {"8", 0x000000}, {"9", 0x0000FF},
         {"", 0xFFFFFF},  {"a", 0xFFFFFF}, {"12", 0xFFFFFF}, {" ", 0xFFFFFF},
     };
     for (const auto& c : cases) EXPECT_EQ(ColourFromDigit(c.digit), c.colour) << c.digit;

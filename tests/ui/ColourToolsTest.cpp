@@ -32,7 +32,7 @@ struct Select {
     int start, length;
 };
 struct Paint {
-    int button;  // index of cmdColor
+    int button;  // index of the colour button
 };
 struct Paste {
     const char* text;

@@ -70,7 +70,7 @@ protected:
 
     QString PathOf(const QString& name) const { return folder.filePath(name); }
 
-    // A real mouse click on line `index` (1-based) of lvwMain.
+    // A real mouse click on line `index` (1-based) of the line list.
     void ClickLine(int index) {
         LineListView* list = window->LineList();
         const QModelIndex cell = list->model()->index(index - 1, 0);
@@ -97,7 +97,8 @@ protected:
     // In the open wizard: on to the names page, types each (box, text) in
     // turn, on to the effects page, and adds `effects` there. Gives back the
     // wizard, or null when it is not where it should be.
-    WizardDialog* FillWizard(const std::vector<std::pair<QString, QString>>& typed, const QStringList& effects) {
+    WizardDialog* FillWizard(const std::vector<std::pair<QString, QString>>& typed,
+                             const QStringList& effects) {
         auto* wizard = window->findChild<WizardDialog*>();
         if (wizard == nullptr) return nullptr;
         auto* next = wizard->findChild<QPushButton*>(u"cmdNext"_s);
@@ -163,8 +164,8 @@ protected:
 TEST_F(EndToEnd, FromTheWizardToTheSavedScript) {
     Give(u"btnwizard"_s);
     // Into the tag box first: that chooses "Clantag and Name".
-    QPointer<WizardDialog> wizard = FillWizard({{u"txtClanTag"_s, u"[Q]"_s}, {u"txtNameOnly_1"_s, u"^1Kat"_s}},
-                                            {u"Wave 2"_s, u"Bounce"_s});
+    QPointer<WizardDialog> wizard = FillWizard(
+        {{u"txtClanTag"_s, u"[Q]"_s}, {u"txtNameOnly_1"_s, u"^1Kat"_s}}, {u"Wave 2"_s, u"Bounce"_s});
     ASSERT_FALSE(wizard.isNull());
     ASSERT_TRUE(wizard->findChild<QRadioButton*>(u"optNameOnly_1"_s)->isChecked());
     ASSERT_EQ(wizard->findChild<QTreeWidget*>(u"lvwEffects"_s)->topLevelItemCount(), 2);

@@ -24,7 +24,8 @@ class FileCommandTest : public MainWindowTest {
 protected:
     ScriptWindow& GeneratedScript() {
         if (!scriptWindow) {
-            scriptWindow = std::make_unique<ScriptWindow>(Script(), dialogs, window->Settings(), window.get());
+            scriptWindow =
+                std::make_unique<ScriptWindow>(Script(), dialogs, window->Settings(), window.get());
         }
         return *scriptWindow;
     }

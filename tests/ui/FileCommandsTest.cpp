@@ -65,7 +65,8 @@ TEST_P(FileDialogs, CancelChangesNothingAndTheFolderIsTheSettingOfTheMoment) {
     useFolders(u"/before"_s, u"/before"_s);
     Run(c.command, {std::nullopt});
     useFolders(c.openDir, c.saveDir);
-    (c.command == Command::SaveScript ? GeneratedScript().SaveDialog() : window->FileDialog()).InitDir = u"/last"_s;
+    (c.command == Command::SaveScript ? GeneratedScript().SaveDialog() : window->FileDialog()).InitDir =
+        u"/last"_s;
     dialogs.ClearCalls();
     Run(c.command, {std::nullopt});
 
@@ -108,7 +109,8 @@ const auto kRowName = [](const auto& info) {
 // read) must not cost the lines.
 enum class Missing { NoSuchFile, Folder, Unreadable, Pipe, IoError };
 void PrintTo(Missing missing, std::ostream* os) {
-    *os << std::array{"NoSuchFile", "Folder", "Unreadable", "Pipe", "IoError"}[static_cast<std::size_t>(missing)];
+    *os << std::array{"NoSuchFile", "Folder", "Unreadable", "Pipe",
+                      "IoError"}[static_cast<std::size_t>(missing)];
 }
 class MissingFiles : public FileCommands, public testing::WithParamInterface<std::tuple<Command, Missing>> {};
 

@@ -17,10 +17,10 @@
 #include <functional>
 
 #include "LineTestSupport.h"
-#include "ui/LineListView.h"
 #include "ui/ColourNameEditor.h"
 #include "ui/EditTimeDialog.h"
 #include "ui/HelpDialog.h"
+#include "ui/LineListView.h"
 #include "ui/OptionsDialog.h"
 #include "ui/SimpleEditWindow.h"
 #include "ui/WizardDialog.h"
@@ -132,7 +132,8 @@ const auto kPage4WithWave = [](Gestures& t) {
 INSTANTIATE_TEST_SUITE_P(
     Windows, EnterKey,
     testing::Values(
-        EnterCase{"WizardAdd", "frmWizard", "cmdAddEffect", kPage4WithWave, WizardState, "page 4 rows 1 lines 2"},
+        EnterCase{"WizardAdd", "frmWizard", "cmdAddEffect", kPage4WithWave, WizardState,
+                  "page 4 rows 1 lines 2"},
         EnterCase{"WizardPreview", "frmWizard", "cmdPreview", kPage4WithWave, WizardState,
                   "page 4 rows 0 lines 2 asked:Preview not available yet!"},
         EnterCase{"WizardBack", "frmWizard", "cmdBack", kPage4WithWave, WizardState, "page 3 rows 0 lines 2"},
@@ -141,14 +142,14 @@ INSTANTIATE_TEST_SUITE_P(
                       kPage4WithWave(t);
                       t.dialogs.QueueMessageAnswer(MsgAnswer::No);
                   },
-                  WizardState,
-                  "page 4 rows 0 lines 2 asked:Are you sure you want to exit the wizard?"},
+                  WizardState, "page 4 rows 0 lines 2 asked:Are you sure you want to exit the wizard?"},
         EnterCase{"WizardColorEditor", "frmWizard", "cmdColor",
                   [](Gestures& t) {
                       t.ToWizardPage(3);
                       editorShown = false;
                       QTimer::singleShot(0, [] {
-                          if (auto* editor = qobject_cast<ColourNameEditor*>(QApplication::activeModalWidget())) {
+                          if (auto* editor =
+                                  qobject_cast<ColourNameEditor*>(QApplication::activeModalWidget())) {
                               editorShown = true;
                               editor->close();
                           }
@@ -160,9 +161,8 @@ INSTANTIATE_TEST_SUITE_P(
                   },
                   "page 3, editor shown"},
         // In the wizard's boxes and list Enter is Next, and on the last page Finish.
-        EnterCase{"WizardNameBox", "frmWizard", "txtNameOnly_0", [](Gestures& t) {
-                      t.ToWizardPage(3);
-                  }, WizardState, "page 4 rows 0 lines 2"},
+        EnterCase{"WizardNameBox", "frmWizard", "txtNameOnly_0", [](Gestures& t) { t.ToWizardPage(3); },
+                  WizardState, "page 4 rows 0 lines 2"},
         EnterCase{"WizardEffectList", "frmWizard", "lvwEffects", kPage4WithWave,
                   [](Gestures& t) { return LinesAndState(t); }, "closed"},
         EnterCase{"EditCancel", "frmEdit", "cmdCancel", nullptr, LinesAndState, "A/10 B/20 closed"},
@@ -173,8 +173,8 @@ INSTANTIATE_TEST_SUITE_P(
         EnterCase{"OptionsNameBoxHasNoDefault", "frmOptions", "txtName", nullptr, Written, " open"},
         EnterCase{"HelpCopy", "frmHelp", "Command4", nullptr, Clipboard, "quillon@qzt-clan.example open"},
         EnterCase{"ColourEditorCopy", "frmColorEditor", "cmdClipboard",
-                  [](Gestures& t) { QTest::keyClicks(t.Child(u"txtPreview"_s), u"Hi"_s); },
-                  Clipboard, "Hi open"},
+                  [](Gestures& t) { QTest::keyClicks(t.Child(u"txtPreview"_s), u"Hi"_s); }, Clipboard,
+                  "Hi open"},
         EnterCase{"SimpleEditSave", "frmSimpleEdit", "cmdSave", nullptr, LinesAndState, "open"}),
     testing::PrintToStringParamName());
 
@@ -255,10 +255,7 @@ const BoxCase kBoxes[] = {
     {"WizardTaggedName", WizardBox("txtNameOnly_1", 3), BoxText},
     {"WizardRepeat", WizardBox("txtParam1", 4),
      [](Gestures& g, QLineEdit*) {
-         return QString::fromStdString(g.Wizard()
-                                           .EffectRows()
-                                           .front()
-                                           .Parameter1);
+         return QString::fromStdString(g.Wizard().EffectRows().front().Parameter1);
      }},
     {"EditTime", DialogBox("frmEdit", "txtTime"),
      [](Gestures& g, QLineEdit* edit) {
@@ -273,8 +270,9 @@ INSTANTIATE_TEST_SUITE_P(Boxes, PastedBreak,
                          testing::Combine(testing::ValuesIn(kBoxes), testing::Values("\r\n", "\r", "\n")),
                          [](const auto& info) {
                              const std::string lineBreak = std::get<1>(info.param);
-                             return std::string(std::get<0>(info.param).name) +
-                                    (lineBreak == "\r\n" ? "_CrLf" : lineBreak == "\r" ? "_Cr" : "_Lf");
+                             return std::string(std::get<0>(info.param).name) + (lineBreak == "\r\n" ? "_CrLf"
+                                                                                 : lineBreak == "\r" ? "_Cr"
+                                                                                                     : "_Lf");
                          });
 
 // --- the pane shows the line that was selected last, whatever selected it
@@ -313,28 +311,31 @@ std::function<void(MainWindow&, LineListView*)> Key(Qt::Key key, Qt::KeyboardMod
 
 INSTANTIATE_TEST_SUITE_P(
     Gestures, SelectThenType,
-    testing::Values(
-        SelectCase{"LeftClick",
-                   [](MainWindow&, LineListView* l) { QTest::mouseClick(l->viewport(), Qt::LeftButton, {}, Row(l, 3)); },
-                   4},
-        SelectCase{"RightClick",
-                   [](MainWindow&, LineListView* l) {
-                       QTest::mouseClick(l->viewport(), Qt::RightButton, {}, Row(l, 2));
-                   },
-                   3},
-        SelectCase{"Drag",
-                   [](MainWindow&, LineListView* l) {
-                       QTest::mousePress(l->viewport(), Qt::LeftButton, {}, Row(l, 1));
-                       QTest::mouseMove(l->viewport(), Row(l, 2));
-                       QTest::mouseMove(l->viewport(), Row(l, 3));
-                       QTest::mouseRelease(l->viewport(), Qt::LeftButton, {}, Row(l, 3));
-                   },
-                   4},
-        SelectCase{"Down", Key(Qt::Key_Down), 3}, SelectCase{"PageDown", Key(Qt::Key_PageDown), 4},
-        SelectCase{"PageUp", Key(Qt::Key_PageUp), 1}, SelectCase{"Home", Key(Qt::Key_Home), 1},
-        SelectCase{"End", Key(Qt::Key_End), 4},
-        // The toolbar's Remove selects the line behind the removed one.
-        SelectCase{"Remove", [](MainWindow& w, LineListView*) { w.RunToolbarCommand(u"btnremove"_s); }, 2}),
+    testing::Values(SelectCase{"LeftClick",
+                               [](MainWindow&, LineListView* l) {
+                                   QTest::mouseClick(l->viewport(), Qt::LeftButton, {}, Row(l, 3));
+                               },
+                               4},
+                    SelectCase{"RightClick",
+                               [](MainWindow&, LineListView* l) {
+                                   QTest::mouseClick(l->viewport(), Qt::RightButton, {}, Row(l, 2));
+                               },
+                               3},
+                    SelectCase{"Drag",
+                               [](MainWindow&, LineListView* l) {
+                                   QTest::mousePress(l->viewport(), Qt::LeftButton, {}, Row(l, 1));
+                                   QTest::mouseMove(l->viewport(), Row(l, 2));
+                                   QTest::mouseMove(l->viewport(), Row(l, 3));
+                                   QTest::mouseRelease(l->viewport(), Qt::LeftButton, {}, Row(l, 3));
+                               },
+                               4},
+                    SelectCase{"Down", Key(Qt::Key_Down), 3},
+                    SelectCase{"PageDown", Key(Qt::Key_PageDown), 4},
+                    SelectCase{"PageUp", Key(Qt::Key_PageUp), 1}, SelectCase{"Home", Key(Qt::Key_Home), 1},
+                    SelectCase{"End", Key(Qt::Key_End), 4},
+                    // The toolbar's Remove selects the line behind the removed one.
+                    SelectCase{"Remove",
+                               [](MainWindow& w, LineListView*) { w.RunToolbarCommand(u"btnremove"_s); }, 2}),
     testing::PrintToStringParamName());
 
 // --- the main window by keyboard and at its edges
@@ -405,7 +406,8 @@ TEST_F(LinesTest, NoControlMovesAndNoColumnHidesWhileTheWindowIsUsed) {
 }
 
 TEST_F(LinesTest, TheAddButtonsMenuIsOnTheAccessibilityTree) {
-    auto* add = qobject_cast<QToolButton*>(Named<QToolBar>(u"tlbMain"_s)->widgetForAction(Named(u"btnadd"_s)));
+    auto* add =
+        qobject_cast<QToolButton*>(Named<QToolBar>(u"tlbMain"_s)->widgetForAction(Named(u"btnadd"_s)));
     QAccessibleInterface* button = QAccessible::queryAccessibleInterface(add);
     ASSERT_EQ(button->childCount(), 1);
     QAccessibleInterface* menu = button->child(0);

@@ -144,8 +144,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(LimitCase{"Add", kMaxLines, kAfter}, LimitCase{"CopySelected", kMaxLines, Copy(1)},
                     LimitCase{"CopyTimes", kMaxLines - 2, Times(u"5"_s)},
                     LimitCase{"CopyAll", 20000, Copy(3)}, LimitCase{"CopyAllReversed", 20000, Copy(4)},
-                    LimitCase{"Paste", kMaxLines,
-                              [](MainWindow& w, ScriptedDialogs&) { w.PasteLine(); }}),
+                    LimitCase{"Paste", kMaxLines, [](MainWindow& w, ScriptedDialogs&) { w.PasteLine(); }}),
     testing::PrintToStringParamName());
 
 }  // namespace

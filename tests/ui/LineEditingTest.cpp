@@ -7,8 +7,8 @@
 #include <functional>
 
 #include "LineTestSupport.h"
-#include "ui/LineListView.h"
 #include "ui/EditTimeDialog.h"
+#include "ui/LineListView.h"
 
 using namespace Qt::Literals::StringLiterals;
 

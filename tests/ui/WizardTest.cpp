@@ -83,7 +83,7 @@ protected:
         QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place.center());
     }
 
-    // Each row of lvwEffects as its three texts.
+    // Each row of the effect list as its three texts.
     std::vector<std::vector<QString>> Rows() const {
         std::vector<std::vector<QString>> rows;
         const auto& list = Find<QTreeWidget>(u"lvwEffects"_s);
@@ -337,8 +337,8 @@ TEST_F(WizardTest, ClickedRowLoadsAndTakesItsParameters) {
     AddEffect(u"Bounce"_s);
     struct Step {
         int click;                           // the row clicked, -1 for none
-        QString param1;                      // then typed into txtParam1, when not empty
-        QString param2;                      // then typed into txtParam2, when not empty
+        QString param1;                      // then typed into Parameter 1, when not empty
+        QString param2;                      // then typed into Parameter 2, when not empty
         QString label1, label2, box1, box2;  // afterwards
     };
     const Step steps[] = {
