@@ -40,7 +40,7 @@ public:
         return std::nullopt;
     }
     bool ShowOpen(QWidget*, flickerscribe::ui::FileDialogState& state) override {
-        state.FileName = path_;
+        state.fileName = path_;
         return true;
     }
     bool ShowSave(QWidget*, flickerscribe::ui::FileDialogState&) override { return false; }

@@ -14,12 +14,12 @@ bool Flag(const QString& text) {
 
 Settings LoadSettings(const SettingsStore& store) {
     Settings settings;
-    settings.OpenDir = store.ReadValue(QStringLiteral("OpenDir"));
-    settings.SaveDir = store.ReadValue(QStringLiteral("SaveDir"));
-    settings.Name = store.ReadValue(QStringLiteral("Name"));
-    settings.Clantag = store.ReadValue(QStringLiteral("Clantag"));
-    settings.Reverse = Flag(store.ReadValue(QStringLiteral("Reverse")));
-    settings.EditItem = Flag(store.ReadValue(QStringLiteral("EditItem")));
+    settings.openFolder = store.ReadValue(QStringLiteral("OpenDir"));
+    settings.saveFolder = store.ReadValue(QStringLiteral("SaveDir"));
+    settings.name = store.ReadValue(QStringLiteral("Name"));
+    settings.clanTag = store.ReadValue(QStringLiteral("Clantag"));
+    settings.reverse = Flag(store.ReadValue(QStringLiteral("Reverse")));
+    settings.editInPlace = Flag(store.ReadValue(QStringLiteral("EditItem")));
     return settings;
 }
 

@@ -12,13 +12,13 @@ enum class MsgButtons { Ok, OkCancel, YesNo, YesNoCancel };
 enum class MsgAnswer { Ok, Cancel, Yes, No };
 
 // The state of one file dialog object, kept by its owner between uses, the way
-// a common dialog keeps its file name and folder. Filter is written
+// a common dialog keeps its file name and folder. The filter is written
 // "Description (*.ext)|*.ext|Other (*.*)|*.*".
 struct FileDialogState {
-    QString DialogTitle;
-    QString Filter;
-    QString InitDir;
-    QString FileName;
+    QString title;
+    QString filter;
+    QString initialFolder;  // where the dialog opens, when set
+    QString fileName;       // the name last chosen
 };
 
 // Every modal question, file dialog and clipboard access of the program goes
@@ -35,7 +35,7 @@ public:
     virtual std::optional<QString> InputBox(QWidget* parent, const QString& prompt, const QString& title,
                                             const QString& defaultText) = 0;
     // Shows the open or save dialog for `state`. On OK the chosen path is
-    // written to state.FileName and true returned; Cancel returns false and
+    // written to state.fileName and true returned; Cancel returns false and
     // leaves `state` as it was. The dialog itself neither asks about
     // overwriting nor adds a suffix.
     virtual bool ShowOpen(QWidget* parent, FileDialogState& state) = 0;

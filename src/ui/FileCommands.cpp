@@ -19,7 +19,7 @@ std::optional<std::string> ChooseSavePath(Dialogs& dialogs, QWidget* parent, Fil
     for (;;) {
         if (prepare) prepare();
         if (!dialogs.ShowSave(parent, dialog)) return std::nullopt;
-        std::string path = NativePath(dialog.FileName);
+        std::string path = NativePath(dialog.fileName);
         if (!FileExists(path)) return path;
         switch (dialogs.Message(parent, question.text, question.title, MsgIcon::Question,
                                 MsgButtons::YesNoCancel)) {

@@ -393,7 +393,7 @@ void MainWindow::LoadSettings() {
     settings_ = settings::LoadSettings(store_);
     // Only the Text column can be edited in place, by a click on the line
     // that is already selected, and only when the setting is on.
-    lineList_->setEditTriggers(settings_.EditItem ? QAbstractItemView::SelectedClicked
+    lineList_->setEditTriggers(settings_.editInPlace ? QAbstractItemView::SelectedClicked
                                                   : QAbstractItemView::NoEditTriggers);
 }
 

@@ -18,16 +18,16 @@ const QString kAnimationFilter = u"Brennock Animation Script (*.fsq)|*.fsq"_s;
 }  // namespace
 
 void MainWindow::OpenAnimation() {
-    fileDialog_.DialogTitle = u"Open Brennock Animation"_s;
-    fileDialog_.Filter = kAnimationFilter;
-    if (!settings_.OpenDir.isEmpty()) fileDialog_.InitDir = settings_.OpenDir;
+    fileDialog_.title = u"Open Brennock Animation"_s;
+    fileDialog_.filter = kAnimationFilter;
+    if (!settings_.openFolder.isEmpty()) fileDialog_.initialFolder = settings_.openFolder;
     if (!dialogs_.ShowOpen(this, fileDialog_)) return;
 
     // The whole file is read before the list is touched: a file that can't be
     // read to its end (gone, a folder, a pipe, an I/O error) changes nothing.
-    switch (LoadAnimationFile(NativePath(fileDialog_.FileName), script_)) {
+    switch (LoadAnimationFile(NativePath(fileDialog_.fileName), script_)) {
         case LoadStatus::ReadFailed:
-            dialogs_.Message(this, u"File not found!\n"_s + fileDialog_.FileName, u"Error"_s,
+            dialogs_.Message(this, u"File not found!\n"_s + fileDialog_.fileName, u"Error"_s,
                              MsgIcon::Critical, MsgButtons::Ok);
             break;
         case LoadStatus::Truncated:
@@ -41,10 +41,10 @@ void MainWindow::OpenAnimation() {
 void MainWindow::SaveAnimationAs() {
     const auto path = ChooseSavePath(dialogs_, this, fileDialog_,
                                      [this] {
-                                         fileDialog_.DialogTitle = u"Save Brennock Animation"_s;
-                                         fileDialog_.Filter = kAnimationFilter;
-                                         if (!settings_.SaveDir.isEmpty())
-                                             fileDialog_.InitDir = settings_.SaveDir;
+                                         fileDialog_.title = u"Save Brennock Animation"_s;
+                                         fileDialog_.filter = kAnimationFilter;
+                                         if (!settings_.saveFolder.isEmpty())
+                                             fileDialog_.initialFolder = settings_.saveFolder;
                                      },
                                      {u"File exists! Overwrite?"_s, u"Save Brennock Animation"_s});
     if (!path) return;
@@ -55,11 +55,11 @@ void MainWindow::ImportScript() {
     dialogs_.Message(this, u"Note: Currently only .cfg files can be imported!"_s, u"Import note"_s,
                      MsgIcon::Information, MsgButtons::Ok);
     // The folder is left as it is: the dialog opens where it was last.
-    fileDialog_.DialogTitle = u"Import file"_s;
-    fileDialog_.Filter = u"Brennock Scripts (*.cfg)|*.cfg"_s;
+    fileDialog_.title = u"Import file"_s;
+    fileDialog_.filter = u"Brennock Scripts (*.cfg)|*.cfg"_s;
     if (!dialogs_.ShowOpen(this, fileDialog_)) return;
 
-    switch (ImportFile(NativePath(fileDialog_.FileName), script_)) {
+    switch (ImportFile(NativePath(fileDialog_.fileName), script_)) {
         case LoadStatus::ReadFailed:
             dialogs_.Message(this, u"File not found!"_s, u"Import error"_s, MsgIcon::Critical,
                              MsgButtons::Ok);

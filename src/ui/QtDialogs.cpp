@@ -116,23 +116,23 @@ bool QtDialogs::ShowSave(QWidget* parent, FileDialogState& state) {
 }
 
 bool QtDialogs::ShowFileDialog(QWidget* parent, FileDialogState& state, bool save) {
-    QFileDialog dialog(parent, state.DialogTitle);
+    QFileDialog dialog(parent, state.title);
     dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     // The commands test for existence and ask about overwriting themselves, and
     // a name typed without an extension stays without one.
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, true);
     dialog.setDefaultSuffix(QString());
-    const QStringList filters = QtNameFilters(state.Filter);
+    const QStringList filters = QtNameFilters(state.filter);
     if (!filters.isEmpty()) dialog.setNameFilters(filters);
-    const QString folder = !state.InitDir.isEmpty() ? state.InitDir : lastFolder_;
+    const QString folder = !state.initialFolder.isEmpty() ? state.initialFolder : lastFolder_;
     if (!folder.isEmpty()) dialog.setDirectory(folder);
     // A remembered name with a folder of its own opens in that folder.
-    if (!state.FileName.isEmpty()) dialog.selectFile(state.FileName);
+    if (!state.fileName.isEmpty()) dialog.selectFile(state.fileName);
     if (dialog.exec() != QDialog::Accepted) return false;
     const QStringList chosen = dialog.selectedFiles();
     if (chosen.isEmpty()) return false;
-    state.FileName = QDir::toNativeSeparators(chosen.first());
+    state.fileName = QDir::toNativeSeparators(chosen.first());
     lastFolder_ = QFileInfo(chosen.first()).absolutePath();
     return true;
 }

@@ -72,8 +72,8 @@ ScriptWindow::ScriptWindow(const AnimationScript& script, Dialogs& dialogs,
     layout->setMenuBar(menu);
     layout->addWidget(scriptBox_);
 
-    saveDialog_.DialogTitle = u"Save Script"_s;
-    saveDialog_.Filter = u"Brennock Script (*.cfg)|*.cfg|All Files(*.*)|*.*"_s;
+    saveDialog_.title = u"Save Script"_s;
+    saveDialog_.filter = u"Brennock Script (*.cfg)|*.cfg|All Files(*.*)|*.*"_s;
 
     BuildScript();
 }
@@ -107,8 +107,8 @@ std::string ScriptWindow::ScriptFileBytes() const {
 void ScriptWindow::SaveScript() {
     const auto path = ChooseSavePath(dialogs_, this, saveDialog_,
                                      [this] {
-                                         if (!settings_.SaveDir.isEmpty())
-                                             saveDialog_.InitDir = settings_.SaveDir;
+                                         if (!settings_.saveFolder.isEmpty())
+                                             saveDialog_.initialFolder = settings_.saveFolder;
                                      },
                                      {u"File Exists! Overwrite?"_s, u"Save script"_s});
     if (!path) return;

@@ -53,11 +53,11 @@ void WizardDialog::LoadDefaults(const settings::Settings& settings) {
     effectChoice_->addItem(u"Bounce"_s);
     effectChoice_->setCurrentIndex(-1);
 
-    clanTagBox_->setText(settings.Clantag);
+    clanTagBox_->setText(settings.clanTag);
     const int option = clanTagBox_->text().isEmpty() ? 0 : 1;
-    nameBoxes_[static_cast<std::size_t>(option)]->setText(settings.Name);
+    nameBoxes_[static_cast<std::size_t>(option)]->setText(settings.name);
     nameOptions_[static_cast<std::size_t>(option)]->setChecked(true);
-    tagBehindNameCheck_->setChecked(settings.Reverse);
+    tagBehindNameCheck_->setChecked(settings.reverse);
 
     pageCount_ = kPageCount;
     currentPage_ = 1;

@@ -135,8 +135,8 @@ TEST_P(FlagRule, OnlyTheExactTextOneIsTrue) {
     }
     const MemorySettingsStore store(values);
     const Settings settings = LoadSettings(store);
-    EXPECT_EQ(settings.Reverse, GetParam().expected);
-    EXPECT_EQ(settings.EditItem, GetParam().expected);
+    EXPECT_EQ(settings.reverse, GetParam().expected);
+    EXPECT_EQ(settings.editInPlace, GetParam().expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -156,12 +156,12 @@ TEST(LoadSettings, ReadsEveryValueOnceInItsOrderAndKeepsTextsUnchanged) {
                                      {u"EditItem"_s, u"0"_s},
                                      {u"GenerateDir"_s, u"/unused"_s}});
     const Settings s = LoadSettings(store);
-    EXPECT_EQ(s.OpenDir, u" /open "_s);
-    EXPECT_EQ(s.SaveDir, u"/save"_s);
-    EXPECT_EQ(s.Name, u"^1Quillon"_s);
-    EXPECT_EQ(s.Clantag, u"[QZT]"_s);
-    EXPECT_TRUE(s.Reverse);
-    EXPECT_FALSE(s.EditItem);
+    EXPECT_EQ(s.openFolder, u" /open "_s);
+    EXPECT_EQ(s.saveFolder, u"/save"_s);
+    EXPECT_EQ(s.name, u"^1Quillon"_s);
+    EXPECT_EQ(s.clanTag, u"[QZT]"_s);
+    EXPECT_TRUE(s.reverse);
+    EXPECT_FALSE(s.editInPlace);
     EXPECT_EQ(store.Reads(), (QStringList{u"OpenDir"_s, u"SaveDir"_s, u"Name"_s, u"Clantag"_s, u"Reverse"_s,
                                           u"EditItem"_s}));
     EXPECT_FALSE(store.Written());
@@ -170,12 +170,12 @@ TEST(LoadSettings, ReadsEveryValueOnceInItsOrderAndKeepsTextsUnchanged) {
 TEST(LoadSettings, AFirstRunHasEmptyTextsAndFlagsOff) {
     const MemorySettingsStore store;
     const Settings s = LoadSettings(store);
-    EXPECT_EQ(s.OpenDir, QString());
-    EXPECT_EQ(s.SaveDir, QString());
-    EXPECT_EQ(s.Name, QString());
-    EXPECT_EQ(s.Clantag, QString());
-    EXPECT_FALSE(s.Reverse);
-    EXPECT_FALSE(s.EditItem);
+    EXPECT_EQ(s.openFolder, QString());
+    EXPECT_EQ(s.saveFolder, QString());
+    EXPECT_EQ(s.name, QString());
+    EXPECT_EQ(s.clanTag, QString());
+    EXPECT_FALSE(s.reverse);
+    EXPECT_FALSE(s.editInPlace);
     EXPECT_FALSE(store.Written());
 }
 

@@ -117,14 +117,14 @@ bool ScriptedDialogs::AnswerFile(DialogCall::Kind kind, QWidget* parent, FileDia
     DialogCall call;
     call.kind = kind;
     call.parent = parent;
-    call.title = state.DialogTitle;
+    call.title = state.title;
     call.state = state;
     Record(std::move(call));
     const bool open = kind == DialogCall::Kind::ShowOpen;
     auto& answers = open ? openAnswers_ : saveAnswers_;
-    if (!Queued(answers, open ? "open dialog" : "save dialog", state.DialogTitle)) return false;
+    if (!Queued(answers, open ? "open dialog" : "save dialog", state.title)) return false;
     const std::optional<QString> fileName = TakeText(answers);
-    if (fileName) state.FileName = *fileName;
+    if (fileName) state.fileName = *fileName;
     return fileName.has_value();
 }
 

@@ -65,7 +65,7 @@ TEST_P(FileDialogs, CancelChangesNothingAndTheFolderIsTheSettingOfTheMoment) {
     useFolders(u"/before"_s, u"/before"_s);
     Run(c.command, {std::nullopt});
     useFolders(c.openDir, c.saveDir);
-    (c.command == Command::SaveScript ? GeneratedScript().SaveDialog() : window->FileDialog()).InitDir =
+    (c.command == Command::SaveScript ? GeneratedScript().SaveDialog() : window->FileDialog()).initialFolder =
         u"/last"_s;
     dialogs.ClearCalls();
     Run(c.command, {std::nullopt});
@@ -73,8 +73,8 @@ TEST_P(FileDialogs, CancelChangesNothingAndTheFolderIsTheSettingOfTheMoment) {
     const QString note = u"message Import note [info]: Note: Currently only .cfg files can be imported!"_s;
     EXPECT_EQ(Asked(dialogs),
               (c.command == Command::Import ? QStringList{note, c.asked} : QStringList{c.asked}));
-    EXPECT_EQ(dialogs.Calls().back().state.Filter, c.filter);
-    EXPECT_EQ(dialogs.Calls().back().state.InitDir, c.initDir);
+    EXPECT_EQ(dialogs.Calls().back().state.filter, c.filter);
+    EXPECT_EQ(dialogs.Calls().back().state.initialFolder, c.initDir);
     EXPECT_EQ(ScriptLines(), (Lines{{"a"}, {"b"}}));
     EXPECT_TRUE(QDir(dir.path()).isEmpty());
 }
@@ -158,7 +158,7 @@ TEST_P(Overwrite, OnlyYesReplacesTheFileAndNoShowsTheDialogAgainWithTheLastName)
                                     : u"message Save script [question]: File Exists! Overwrite?"_s};
     if (answer == MsgAnswer::No) {
         expected << shown;
-        EXPECT_EQ(dialogs.Calls().back().state.FileName, path);
+        EXPECT_EQ(dialogs.Calls().back().state.fileName, path);
     }
     EXPECT_EQ(Asked(dialogs), expected);
     EXPECT_EQ(ReadBytes(path) == "old", answer != MsgAnswer::Yes);

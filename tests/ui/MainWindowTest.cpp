@@ -347,7 +347,7 @@ TEST_F(MainWindow, LoadSettingsAgainAppliesAChangedSetting) {
     store.WriteValue(u"Name"_s, u"Quillon"_s);
     window->LoadSettings();
     EXPECT_EQ(list->editTriggers(), QAbstractItemView::SelectedClicked);
-    EXPECT_EQ(window->Settings().Name, u"Quillon"_s);
+    EXPECT_EQ(window->Settings().name, u"Quillon"_s);
 }
 
 TEST_F(MainWindow, AnInPlaceEditWritesTheTextAndNothingElse) {

@@ -50,7 +50,7 @@ TEST_F(WindowOpeners, OptionsOkAppliesTheSettingsAtOnce) {
     });
     store.WriteValue(u"Name"_s, u"Quillon"_s);
     Named(u"mnuEditOptions"_s)->trigger();
-    EXPECT_EQ(window->Settings().Name, u"Quillon"_s);
+    EXPECT_EQ(window->Settings().name, u"Quillon"_s);
     EXPECT_EQ(store.ReadValue(u"GenerateDir"_s, u"missing"_s), QString());
 }
 

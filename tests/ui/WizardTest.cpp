@@ -206,7 +206,7 @@ TEST_F(WizardTest, PagesFollowNextAndBack) {
 TEST_F(WizardTest, NextThroughEveryPageAndFinishWithNoEffectEmptiesTheScript) {
     script.AppendLine("old", "15", "[none]");
     script.AppendLine("lines", "15", "[none]");
-    settings.Name = u"Quillon"_s;
+    settings.name = u"Quillon"_s;
     Open();
     GoToPage(4);
     Click(u"cmdNext"_s);
@@ -230,9 +230,9 @@ TEST_F(WizardTest, OpensWithTheNameTagAndReverseOfTheSettings) {
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name.toStdString() + "/" + c.clantag.toStdString());
-        settings.Name = c.name;
-        settings.Clantag = c.clantag;
-        settings.Reverse = c.reverse;
+        settings.name = c.name;
+        settings.clanTag = c.clantag;
+        settings.reverse = c.reverse;
         Open();
         EXPECT_TRUE(Find<QRadioButton>(u"optNameOnly_%1"_s.arg(c.option)).isChecked());
         EXPECT_FALSE(Find<QRadioButton>(u"optNameOnly_%1"_s.arg(1 - c.option)).isChecked());
@@ -281,7 +281,7 @@ TEST_F(WizardTest, FinishTakesTheBoxesOfTheSelectedOption) {
 }
 
 TEST_F(WizardTest, ANameBoxTakingTheFocusSelectsItsOption) {
-    settings.Clantag = u"[QZT]"_s;
+    settings.clanTag = u"[QZT]"_s;
     Open();
     GoToPage(3);
     wizard->activateWindow();
@@ -381,8 +381,8 @@ TEST_F(WizardTest, BackAndNextKeepTheRowsAndTheParameterBoxes) {
 }
 
 TEST_F(WizardTest, FinishRunsTheEffectListFromTheWindow) {
-    settings.Name = u"^1Ka^2t"_s;
-    settings.Clantag = u"^4[QZT]"_s;
+    settings.name = u"^1Ka^2t"_s;
+    settings.clanTag = u"^4[QZT]"_s;
     Open();
     GoToPage(4);
     AddEffect(u"Wave 2"_s);
@@ -408,8 +408,8 @@ TEST_F(WizardTest, FinishRunsTheEffectListFromTheWindow) {
 // A repeat of 5 or more asks over the wizard first; No skips that row alone.
 // (Yes is what lets the line-limit case below reach the limit.)
 TEST_F(WizardTest, NoToTheRepeatQuestionSkipsTheBounce) {
-    settings.Name = u"Ka"_s;
-    settings.Clantag = u"[T]"_s;
+    settings.name = u"Ka"_s;
+    settings.clanTag = u"[T]"_s;
     Open();
     GoToPage(4);
     AddEffect(u"Bounce"_s);
@@ -441,8 +441,8 @@ TEST_F(WizardTest, WorkStoppedByALimitIsReported) {
         SCOPED_TRACE(c.what);
         script.ClearLines();
         script.AppendLine("kept", "15", "[none]");
-        settings.Name = QString(c.nameLength, u'K');
-        settings.Clantag = u"[T]"_s;
+        settings.name = QString(c.nameLength, u'K');
+        settings.clanTag = u"[T]"_s;
         Open();
         GoToPage(4);
         AddEffect(u"Bounce"_s);
