@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QStandardPaths>
 
 #include "settings/UserSettingsStore.h"
 #include "ui/MainWindow.h"
@@ -11,7 +12,10 @@ int main(int argc, char** argv) {
         QStringLiteral("%1.%2.%3").arg(FS_VERSION_MAJOR).arg(FS_VERSION_MINOR).arg(FS_VERSION_PATCH));
     flickerscribe::ui::QtDialogs dialogs;
     const auto store = flickerscribe::settings::OpenUserSettingsStore();
-    flickerscribe::ui::MainWindow window(dialogs, *store);
+    // The last animation is kept in the user's data folder between runs.
+    const QString kept = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
+                         QStringLiteral("/last-animation.fsq");
+    flickerscribe::ui::MainWindow window(dialogs, *store, kept);
     window.show();
     return QApplication::exec();
 }

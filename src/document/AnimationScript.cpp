@@ -1,5 +1,6 @@
 #include "document/AnimationScript.h"
 
+#include <algorithm>
 #include <cassert>
 #include <utility>
 
@@ -50,6 +51,14 @@ void AnimationScript::ClearLines() {
     lines_.clear();
     selected_ = 0;
     if (auto* l = Notify()) l->ResetDone();
+}
+
+std::vector<AnimationLine> AnimationScript::ExchangeLines(std::vector<AnimationLine> lines, int selected) {
+    assert(lines.size() <= static_cast<std::size_t>(kMaxLines));
+    Batch batch(*this);
+    lines_.swap(lines);
+    selected_ = lines_.empty() ? 0 : std::clamp(selected, 1, Count());
+    return lines;
 }
 
 const AnimationLine& AnimationScript::LineAt(int index) const {

@@ -58,6 +58,12 @@ public:
 
     // `index` must be 1 to Count.
     const AnimationLine& LineAt(int index) const;
+    // All lines, first to last.
+    const std::vector<AnimationLine>& Lines() const { return lines_; }
+    // Puts `lines` (at most kMaxLines) in the place of the script's lines and
+    // selects line `selected` (0 with no lines), giving the old lines back:
+    // an exchange without a copy, which the view sees as one reset.
+    std::vector<AnimationLine> ExchangeLines(std::vector<AnimationLine> lines, int selected);
     void SetLineText(int index, std::string text);
     void SetLineTime(int index, std::string time);
 

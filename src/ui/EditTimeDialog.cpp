@@ -6,7 +6,6 @@
 #include <QPushButton>
 
 #include "colour/NumberText.h"
-#include "document/AnimationScript.h"
 #include "ui/DialogWindow.h"
 #include "ui/SingleLine.h"
 #include "ui/TextConv.h"
@@ -42,7 +41,7 @@ Control* Place(Control* control, const QString& name, int left, int top, int wid
 
 }  // namespace
 
-EditTimeDialog::EditTimeDialog(AnimationScript& script, QWidget* parent) : QDialog(parent), script_(script) {
+EditTimeDialog::EditTimeDialog(QWidget* parent) : QDialog(parent) {
     MakeFixedDialog(*this, names::kWindow, u"Edit"_s, 4530, 1950);
 
     timeLabel_ = Place(new QLabel(u"Time"_s, this), names::kTimeLabel, 120, 120, 495, 255);
@@ -70,15 +69,15 @@ EditTimeDialog::EditTimeDialog(AnimationScript& script, QWidget* parent) : QDial
     timeBox_->setFocus();
 
     connect(timeBox_, &QLineEdit::textChanged, this, [this] { CheckTime(); });
-    connect(okButton_, &QPushButton::clicked, this, &EditTimeDialog::StoreTime);
+    connect(okButton_, &QPushButton::clicked, this, &QDialog::accept);
     // Escape and the close box reject the dialog the same way.
-    connect(cancelButton_, &QPushButton::clicked, this, &EditTimeDialog::Cancel);
+    connect(cancelButton_, &QPushButton::clicked, this, &QDialog::reject);
 
-    ShowSpeedGuide();
+    speedGuide_->setText(u"15 = fast\n20 = regular\n30 = slow"_s);
 }
 
-void EditTimeDialog::ShowSpeedGuide() {
-    speedGuide_->setText(u"15 = fast\n20 = regular\n30 = slow"_s);
+QString EditTimeDialog::Time() const {
+    return timeBox_->text();
 }
 
 void EditTimeDialog::CheckTime() {
@@ -86,13 +85,5 @@ void EditTimeDialog::CheckTime() {
     if (!IsNumberText(FromQString(timeBox_->text()))) timeBox_->setText(u"20"_s);
 }
 
-void EditTimeDialog::StoreTime() {
-    script_.SetLineTime(script_.SelectedIndex(), FromQString(timeBox_->text()));
-    accept();
-}
-
-void EditTimeDialog::Cancel() {
-    reject();
-}
 
 }  // namespace flickerscribe::ui

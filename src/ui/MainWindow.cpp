@@ -25,6 +25,7 @@
 #include "ui/PaneStyle.h"
 #include "ui/RichPane.h"
 #include "ui/ScriptModel.h"
+#include "ui/TextConv.h"
 #include "ui/Twips.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -61,19 +62,19 @@ void AddSeparator(QMenu* menu, const QString& name) {
     menu->addSeparator()->setObjectName(name);
 }
 
-// The window-wide shortcuts of the Edit menu, which work on lines wherever
-// the focus is.
+// The window-wide shortcuts of the Edit menu, which work on lines and on the
+// animation's history wherever the focus is.
 bool IsLineShortcut(const QKeyEvent* event) {
     const QKeyCombination combination = event->keyCombination();
-    return combination == QKeyCombination(Qt::ControlModifier, Qt::Key_X) ||
-           combination == QKeyCombination(Qt::ControlModifier, Qt::Key_C) ||
-           combination == QKeyCombination(Qt::ControlModifier, Qt::Key_V);
+    for (const Qt::Key key : {Qt::Key_X, Qt::Key_C, Qt::Key_V, Qt::Key_Z, Qt::Key_Y})
+        if (combination == QKeyCombination(Qt::ControlModifier, key)) return true;
+    return combination == QKeyCombination(Qt::ControlModifier | Qt::ShiftModifier, Qt::Key_Z);
 }
 
 }  // namespace
 
-MainWindow::MainWindow(Dialogs& dialogs, settings::SettingsStore& store, QWidget* parent)
-    : QMainWindow(parent), dialogs_(dialogs), store_(store) {
+MainWindow::MainWindow(Dialogs& dialogs, settings::SettingsStore& store, QString keptAnimation, QWidget* parent)
+    : QMainWindow(parent), dialogs_(dialogs), store_(store), keptAnimation_(std::move(keptAnimation)) {
     setObjectName(names::kWindow);
     setWindowTitle(u"Flickerscribe - by [QZT]Quillon"_s);
     setWindowIcon(AppIcon());
@@ -89,6 +90,21 @@ MainWindow::MainWindow(Dialogs& dialogs, settings::SettingsStore& store, QWidget
     playTimer_->setInterval(100);
     connect(playTimer_, &QTimer::timeout, this, [this] { ShowNextFrame(); });
 
+    // The last animation is kept 30 seconds after the last change, at the end
+    // of the program, and when the desktop session ends.
+    keepTimer_ = new QTimer(this);
+    keepTimer_->setObjectName(names::kKeepTimer);
+    keepTimer_->setSingleShot(true);
+    keepTimer_->setInterval(30'000);
+    connect(keepTimer_, &QTimer::timeout, this, [this] { KeepAnimation(); });
+    connect(&history_, &AnimationHistory::Changed, this, [this] {
+        kept_ = false;
+        keepTimer_->start();
+        UpdateUndoActions();
+    });
+    connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { KeepAnimation(); });
+    connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { KeepAnimation(); });
+
     setMinimumWidth(MinimumWindowWidth());
     resize(Twips(kClientWidth), Twips(kClientHeight) + menuBar()->sizeHint().height());
     if (const QScreen* screen = QGuiApplication::primaryScreen())
@@ -101,6 +117,8 @@ MainWindow::MainWindow(Dialogs& dialogs, settings::SettingsStore& store, QWidget
     coloursVisible_ = false;
     LoadSettings();
     SetPreview();
+    UpdateUndoActions();
+    UpdateReopenAction();
 }
 
 MainWindow::~MainWindow() {
@@ -122,6 +140,9 @@ void MainWindow::BuildMenus() {
             [this] { OpenAnimation(); });
     connect(AddEntry(file, names::kImportEntry, u"Import"_s), &QAction::triggered, this,
             [this] { ImportScript(); });
+    reopenAction_ = AddEntry(file, names::kReopenEntry, u"Reopen last animation"_s);
+    connect(reopenAction_, &QAction::triggered, this, [this] { ReopenLastAnimation(); });
+    connect(file, &QMenu::aboutToShow, this, [this] { UpdateReopenAction(); });
     AddSeparator(file, names::kFileSeparator1);
     AddEntry(file, names::kSaveEntry, u"Save"_s)->setEnabled(false);
     connect(AddEntry(file, names::kSaveAsEntry, u"Save As"_s), &QAction::triggered, this,
@@ -131,6 +152,12 @@ void MainWindow::BuildMenus() {
 
     QMenu* edit = menuBar()->addMenu(u"Edit"_s);
     edit->setObjectName(names::kEditMenu);
+    undoAction_ = AddEntry(edit, names::kUndoEntry, u"Undo"_s, QKeySequence(Qt::CTRL | Qt::Key_Z));
+    connect(undoAction_, &QAction::triggered, this, [this] { Undo(); });
+    redoAction_ = AddEntry(edit, names::kRedoEntry, u"Redo"_s, QKeySequence(Qt::CTRL | Qt::Key_Y));
+    redoAction_->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
+    connect(redoAction_, &QAction::triggered, this, [this] { Redo(); });
+    AddSeparator(edit, names::kEditSeparator0);
     connect(AddEntry(edit, names::kCutEntry, u"Cut"_s, QKeySequence(Qt::CTRL | Qt::Key_X)),
             &QAction::triggered, this, [this] { CutLine(); });
     connect(AddEntry(edit, names::kCopyEntry, u"Copy"_s, QKeySequence(Qt::CTRL | Qt::Key_C)),
@@ -258,6 +285,8 @@ void MainWindow::BuildControls() {
     paneFont.setKerning(false);
     StyleGreyPane(pane, paneFont);
     pane->document()->setDocumentMargin(2);
+    // The pane keeps no history of its own: Undo is the animation's.
+    pane->setUndoRedoEnabled(false);
     paneEdit_ = pane;
     preview_ = std::make_unique<RichPane>(paneEdit_);
     connect(paneEdit_, &QTextEdit::textChanged, this, [this] { OnPaneEdited(); });
@@ -301,10 +330,16 @@ void MainWindow::BuildControls() {
             lineList_->selectionModel()->setCurrentIndex(
                 model_->index(index - 1, 0), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
         }
+        // Typing into another line is a step of its own.
+        history_.EndTyping();
         KeepPaneOnSelectedLine();
     });
     connect(model_, &QAbstractItemModel::dataChanged, this, [this] { KeepPaneOnSelectedLine(); });
     connect(model_, &QAbstractItemModel::modelReset, this, [this] { KeepPaneOnSelectedLine(); });
+    // What the list's in-place editor commits is a step like any other edit.
+    connect(model_, &ScriptModel::TextEdited, this, [this](int index, const QString& text) {
+        history_.SetText(u"Edit text"_s, index, FromQString(text));
+    });
 
     colourStrip_ = new QWidget(client_);
     colourStrip_->setObjectName(names::kColourStrip);
@@ -328,8 +363,8 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
         LayOutControls();
     } else if (watched == paneEdit_ || watched == lineList_) {
         if (event->type() == QEvent::ShortcutOverride && IsLineShortcut(static_cast<QKeyEvent*>(event))) {
-            // Not the widget's own cut, copy and paste of characters: the
-            // Edit menu's commands on lines.
+            // Not the widget's own cut, copy, paste, undo and redo of
+            // characters: the Edit menu's commands on lines and the animation.
             return true;
         }
         if (watched == paneEdit_ && event->type() == QEvent::KeyPress) {
@@ -380,7 +415,7 @@ void MainWindow::KeepPaneOnSelectedLine() {
 }
 
 void MainWindow::NewAnimation() {
-    script_.ClearLines();
+    history_.ReplaceLines(u"New"_s, [](AnimationScript& script) { script.ClearLines(); });
 }
 
 void MainWindow::ToggleColours() {

@@ -8,6 +8,7 @@
 
 #include "document/AnimationScript.h"
 #include "settings/Settings.h"
+#include "ui/AnimationHistory.h"
 #include "ui/Dialogs.h"
 
 class QAction;
@@ -39,11 +40,16 @@ class MainWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    MainWindow(Dialogs& dialogs, settings::SettingsStore& store, QWidget* parent = nullptr);
+    // `keptAnimation` is the file that keeps the last animation between runs
+    // (none when empty).
+    MainWindow(Dialogs& dialogs, settings::SettingsStore& store, QString keptAnimation = {},
+               QWidget* parent = nullptr);
     ~MainWindow() override;
 
     AnimationScript& Script() { return script_; }
     const AnimationScript& Script() const { return script_; }
+    // Every change to the animation goes through its history.
+    AnimationHistory& History() { return history_; }
     // The settings in memory, as LoadSettings last read them.
     const settings::Settings& Settings() const { return settings_; }
     // The preview pane as the core's walks see it, and as a widget.
@@ -108,6 +114,15 @@ public:
     // and folder between uses.
     FileDialogState& FileDialog() { return fileDialog_; }
 
+    // --- undo, redo and the kept animation (MainWindow_History.cpp)
+    void Undo();
+    void Redo();
+    // Writes the animation to the kept file, when there are lines and it
+    // changed since the last time; a failure goes to standard error.
+    void KeepAnimation();
+    // Loads the kept file like Open.
+    void ReopenLastAnimation();
+
     // --- other windows (MainWindow_Windows.cpp)
     void ShowWizard();
     void ShowColourNameEditor();
@@ -118,16 +133,29 @@ public:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     void BuildMenus();
     void BuildToolbar();
     void BuildControls();
+    void WritePaneToLine(const QString& stepName, bool typing);
+    // Undo and Redo are on while there is something to take back or do again
+    // and no playback runs; their captions name the step.
+    void UpdateUndoActions();
+    void UpdateReopenAction();
     QAction* ToolbarAction(const QString& key) const;
 
     Dialogs& dialogs_;
     settings::SettingsStore& store_;
     AnimationScript script_;
+    AnimationHistory history_{script_};
+    QString keptAnimation_;
+    bool kept_ = true;  // the kept file holds the animation of the moment
+    QTimer* keepTimer_ = nullptr;
+    QAction* undoAction_ = nullptr;
+    QAction* redoAction_ = nullptr;
+    QAction* reopenAction_ = nullptr;
     settings::Settings settings_;
     bool coloursVisible_ = false;
     bool previewBusy_ = false;

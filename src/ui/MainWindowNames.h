@@ -16,18 +16,23 @@ inline const QString kLineList = QStringLiteral("lvwMain");
 inline const QString kColourStrip = QStringLiteral("picColors");
 inline const QString kPlayTimer = QStringLiteral("timAni");
 inline const QString kToolbar = QStringLiteral("tlbMain");
+inline const QString kKeepTimer = QStringLiteral("timKeep");
 
 // The menus and their entries; separators are named too.
 inline const QString kFileMenu = QStringLiteral("mnuFile");
 inline const QString kNewEntry = QStringLiteral("mnuFileNew");
 inline const QString kOpenEntry = QStringLiteral("mnuFileOpen");
 inline const QString kImportEntry = QStringLiteral("mnuFileImport");
+inline const QString kReopenEntry = QStringLiteral("mnuFileReopen");
 inline const QString kFileSeparator1 = QStringLiteral("mnuFileLine");
 inline const QString kSaveEntry = QStringLiteral("mnuFileSave");
 inline const QString kSaveAsEntry = QStringLiteral("mnuFileSaveAs");
 inline const QString kFileSeparator2 = QStringLiteral("mnuFileLine2");
 inline const QString kExitEntry = QStringLiteral("mnuFileExit");
 inline const QString kEditMenu = QStringLiteral("mnuEdit");
+inline const QString kUndoEntry = QStringLiteral("mnuEditUndo");
+inline const QString kRedoEntry = QStringLiteral("mnuEditRedo");
+inline const QString kEditSeparator0 = QStringLiteral("mnuEditLine0");
 inline const QString kCutEntry = QStringLiteral("mnuEditCut");
 inline const QString kCopyEntry = QStringLiteral("mnuEditCopy");
 inline const QString kPasteEntry = QStringLiteral("mnuEditPaste");

@@ -9,6 +9,8 @@
 // clipboard, as plain text with its caret codes in view. Time and Action
 // never travel: a pasted line gets "15" and "[none]".
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace flickerscribe::ui {
 
 namespace {
@@ -27,7 +29,7 @@ QString FirstLine(const QString& text) {
 void MainWindow::CutLine() {
     if (script_.Count() == 0) return;
     dialogs_.SetClipboardText(ToQString(script_.LineAt(script_.SelectedIndex()).Text));
-    script_.RemoveLine(script_.SelectedIndex());
+    history_.RemoveLine(u"Cut"_s, script_.SelectedIndex());
     SetPreview();
 }
 
@@ -40,13 +42,10 @@ void MainWindow::PasteLine() {
     // A clipboard that can't be read now leaves the list as it was.
     const std::optional<QString> clipboard = dialogs_.ClipboardText();
     if (!clipboard) return;
-    std::string text = FromQString(FirstLine(*clipboard));
     // The new line goes behind the selected one, which stays selected; into
     // an empty list it goes as the first line, and is selected.
-    const bool added = script_.Count() > 0
-                           ? script_.InsertLine(script_.SelectedIndex() + 1, std::move(text), "15", "[none]")
-                           : script_.AppendLine(std::move(text), "15", "[none]");
-    if (!added) {
+    const int index = script_.Count() > 0 ? script_.SelectedIndex() + 1 : 1;
+    if (!history_.InsertLine(u"Paste"_s, index, AnimationLine{FromQString(FirstLine(*clipboard)), "15", "[none]"})) {
         ShowLineLimitMessage(dialogs_, this);
         return;
     }

@@ -8,6 +8,7 @@
 #include "ui/LineListView.h"
 #include "ui/MainWindow.h"
 #include "ui/RichPane.h"
+#include "ui/TextConv.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -17,6 +18,10 @@ using namespace Qt::Literals::StringLiterals;
 namespace flickerscribe::ui {
 
 void MainWindow::OnPaneEdited() {
+    WritePaneToLine(u"Typing"_s, true);
+}
+
+void MainWindow::WritePaneToLine(const QString& stepName, bool typing) {
     Pane& pane = *preview_;
     const int caret = pane.SelStart();
     // Every change of the pane goes back to the selected line as coded text,
@@ -27,7 +32,7 @@ void MainWindow::OnPaneEdited() {
         shownText_ = EncodeColouredText(pane, kWhite);
         paneShows_ = PaneShows::Line;
         writingFromPane_ = true;
-        script_.SetLineText(script_.SelectedIndex(), shownText_);
+        history_.SetText(stepName, script_.SelectedIndex(), shownText_, typing);
         writingFromPane_ = false;
     }
     // The caret stays where it was, and a selection ends at its start. The
@@ -52,8 +57,9 @@ void MainWindow::PaintSelection(int index) {
         pane.SetSelColour(ColourFromDigit(std::string(1, static_cast<char>('1' + index))));
     }
     // With nothing selected no character changed: the colour waits for what
-    // is typed next, and typing writes the line.
-    if (stretch) OnPaneEdited();
+    // is typed next, and typing writes the line. A coloured stretch is a step
+    // of its own.
+    if (stretch) WritePaneToLine(u"Colour"_s, false);
 }
 
 void MainWindow::OnPaneKeyPress(int key, Qt::KeyboardModifiers modifiers) {
@@ -73,8 +79,9 @@ void MainWindow::OnListKeyPress(int key, Qt::KeyboardModifiers modifiers) {
 
 void MainWindow::EditSelectedLine() {
     if (script_.Count() > 0) {
-        EditTimeDialog window(script_, this);
-        window.exec();
+        EditTimeDialog window(this);
+        if (window.exec() == QDialog::Accepted)
+            history_.SetTime(u"Edit time"_s, script_.SelectedIndex(), FromQString(window.Time()));
     } else {
         dialogs_.Message(this, u"No items to edit"_s, u"Edit"_s, MsgIcon::Exclamation, MsgButtons::Ok);
     }

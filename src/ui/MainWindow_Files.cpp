@@ -25,7 +25,9 @@ void MainWindow::OpenAnimation() {
 
     // The whole file is read before the list is touched: a file that can't be
     // read to its end (gone, a folder, a pipe, an I/O error) changes nothing.
-    switch (LoadAnimationFile(NativePath(fileDialog_.fileName), script_)) {
+    switch (history_.ReplaceLines(u"Open"_s, [this](AnimationScript& script) {
+        return LoadAnimationFile(NativePath(fileDialog_.fileName), script);
+    })) {
         case LoadStatus::ReadFailed:
             dialogs_.Message(this, u"File not found!\n"_s + fileDialog_.fileName, u"Error"_s,
                              MsgIcon::Critical, MsgButtons::Ok);
@@ -59,7 +61,9 @@ void MainWindow::ImportScript() {
     fileDialog_.filter = u"Brennock Scripts (*.cfg)|*.cfg"_s;
     if (!dialogs_.ShowOpen(this, fileDialog_)) return;
 
-    switch (ImportFile(NativePath(fileDialog_.fileName), script_)) {
+    switch (history_.ReplaceLines(u"Import"_s, [this](AnimationScript& script) {
+        return ImportFile(NativePath(fileDialog_.fileName), script);
+    })) {
         case LoadStatus::ReadFailed:
             dialogs_.Message(this, u"File not found!"_s, u"Import error"_s, MsgIcon::Critical,
                              MsgButtons::Ok);

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <optional>
 #include <string>
 
@@ -23,20 +24,16 @@ const std::string kNewAction = "[none]";
 }  // namespace
 
 void MainWindow::AddLine(bool after) {
-    bool added = false;
-    if (script_.Count() == 0) {
-        // Before or after makes no difference in an empty list; the new line
-        // becomes the selected one.
-        added = script_.AppendLine(kNewText, kNewTime, kNewAction);
-    } else {
-        const int selected = script_.SelectedIndex();
-        added = script_.InsertLine(after ? selected + 1 : selected, kNewText, kNewTime, kNewAction);
-    }
-    if (!added) ShowLineLimitMessage(dialogs_, this);
+    // Before or after makes no difference in an empty list; the new line
+    // becomes the selected one.
+    const int selected = script_.SelectedIndex();
+    const int index = script_.Count() == 0 ? 1 : after ? selected + 1 : selected;
+    if (!history_.InsertLine(u"Add line"_s, index, AnimationLine{kNewText, kNewTime, kNewAction}))
+        ShowLineLimitMessage(dialogs_, this);
 }
 
 void MainWindow::RemoveSelectedLine() {
-    if (!script_.RemoveLine(script_.SelectedIndex()))
+    if (!history_.RemoveLine(u"Remove line"_s, script_.SelectedIndex()))
         dialogs_.Message(this, u"Can't remove line."_s, QString(), MsgIcon::Information, MsgButtons::Ok);
 }
 
@@ -65,38 +62,28 @@ void MainWindow::CopyLines(int mode) {
         times = *count;  // below 1: nothing to copy, and nothing to say
     }
 
-    // Read before the first copy, so that the copies are not copied again.
-    const int count = script_.Count();
-    const int selected = script_.SelectedIndex();
-    int copies = 0;
+    // The copies, read before the first one goes in, so that none is copied
+    // again; no more than fit.
+    const std::vector<AnimationLine>& lines = script_.Lines();
+    const std::size_t room = static_cast<std::size_t>(kMaxLines - script_.Count());
+    std::vector<AnimationLine> copies;
     switch (mode) {
         case 1:
         case 2:
-            copies = times;
+            if (times > 0)
+                copies.assign(std::min(static_cast<std::size_t>(times), room + 1),
+                              lines[static_cast<std::size_t>(script_.SelectedIndex() - 1)]);
             break;
         case 3:
+            copies.assign(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(std::min(lines.size(), room + 1)));
+            break;
         case 4:
-            copies = count;
+            copies.assign(lines.rbegin(), lines.rbegin() + static_cast<std::ptrdiff_t>(std::min(lines.size(), room + 1)));
             break;
         default:
             return;
     }
-    if (copies < 1) return;
-
-    // Many lines at once reach the view as one reset, not one row at a time.
-    std::optional<AnimationScript::Batch> batch;
-    if (copies > 1) batch.emplace(script_);
-    bool full = false;
-    for (int i = 1; i <= copies && !full; ++i) {
-        int source = selected;
-        if (mode == 3) source = i;
-        if (mode == 4) source = count + 1 - i;
-        // A copy of the fields: appending may move the lines in memory.
-        const AnimationLine line = script_.LineAt(source);
-        full = !script_.AppendLine(line.Text, line.Time, line.Action);
-    }
-    batch.reset();
-    if (full) ShowLineLimitMessage(dialogs_, this);
+    if (!history_.AppendLines(u"Copy lines"_s, std::move(copies))) ShowLineLimitMessage(dialogs_, this);
 }
 
 }  // namespace flickerscribe::ui

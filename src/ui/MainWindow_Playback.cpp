@@ -36,6 +36,7 @@ void MainWindow::TogglePlayback() {
         ToolbarAction(names::kRemoveButton)->setEnabled(false);
         previewBusy_ = true;
         playTimer_->start();
+        UpdateUndoActions();
     } else {
         play->setText(u"Play"_s);
         play->setIcon(playIcon_);
@@ -43,6 +44,7 @@ void MainWindow::TogglePlayback() {
         ToolbarAction(names::kRemoveButton)->setEnabled(true);
         previewBusy_ = false;
         playTimer_->stop();
+        UpdateUndoActions();
     }
 }
 

@@ -18,7 +18,7 @@ void MainWindow::ShowWizard() {
         wizard_->activateWindow();
         return;
     }
-    auto* wizard = new WizardDialog(script_, dialogs_, settings_, this);
+    auto* wizard = new WizardDialog(history_, dialogs_, settings_, this);
     wizard->setAttribute(Qt::WA_DeleteOnClose);
     wizard_ = wizard;
     wizard->show();
@@ -30,7 +30,7 @@ void MainWindow::ShowColourNameEditor() {
 }
 
 void MainWindow::ShowSimpleEdit() {
-    SimpleEditWindow window(script_, dialogs_, this);
+    SimpleEditWindow window(history_, dialogs_, this);
     window.exec();
 }
 

@@ -67,7 +67,7 @@ Qt::ItemFlags ScriptModel::flags(const QModelIndex& index) const {
 bool ScriptModel::setData(const QModelIndex& index, const QVariant& value, int role) {
     if (!index.isValid() || index.column() != kText || role != Qt::EditRole) return false;
     if (index.row() >= script_.Count()) return false;
-    script_.SetLineText(index.row() + 1, FromQString(value.toString()));
+    emit TextEdited(index.row() + 1, value.toString());
     return true;
 }
 

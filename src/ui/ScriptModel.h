@@ -21,7 +21,7 @@ public:
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
-    // Only the Text column takes an edit, and it goes straight to the line.
+    // Only the Text column takes an edit; it is passed on as TextEdited.
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
 
     // True between the script's announcement of a change and its end: the
@@ -41,6 +41,8 @@ public:
 signals:
     // The script's selected line is now `index` (0 for none).
     void SelectedLineChanged(int index);
+    // The user edited the Text of line `index` in place.
+    void TextEdited(int index, const QString& text);
 
 private:
     AnimationScript& script_;

@@ -8,6 +8,7 @@
 
 #include "colour/SimpleEditWalk.h"
 #include "document/AnimationScript.h"
+#include "ui/AnimationHistory.h"
 #include "ui/ColourButtons.h"
 #include "ui/DialogWindow.h"
 #include "ui/LineLimit.h"
@@ -44,8 +45,8 @@ QPushButton* AddStripButton(QWidget* strip, const QString& name, const QString& 
 
 }  // namespace
 
-SimpleEditWindow::SimpleEditWindow(AnimationScript& script, Dialogs& dialogs, QWidget* parent)
-    : QDialog(parent), script_(script), dialogs_(dialogs) {
+SimpleEditWindow::SimpleEditWindow(AnimationHistory& history, Dialogs& dialogs, QWidget* parent)
+    : QDialog(parent), history_(history), dialogs_(dialogs) {
     MakeSizableDialog(*this, names::kWindow, u"Simple edit"_s, 6345, 4590);
 
     colourStrip_ = new QWidget(this);
@@ -85,17 +86,14 @@ void SimpleEditWindow::PaintSelection(int index) {
 
 void SimpleEditWindow::SaveToList() {
     const std::vector<std::string> lines = SplitColouredLines(pane_->Runs());
-    bool full = false;
-    {
-        AnimationScript::Batch batch(script_);
-        script_.ClearLines();
+    const bool full = history_.ReplaceLines(u"Simple edit"_s, [&lines](AnimationScript& script) {
+        AnimationScript::Batch batch(script);
+        script.ClearLines();
         for (const std::string& line : lines) {
-            if (!script_.AppendLine(line, "15", "[none]")) {
-                full = true;
-                break;
-            }
+            if (!script.AppendLine(line, "15", "[none]")) return true;
         }
-    }
+        return false;
+    });
     if (full) ShowLineLimitMessage(dialogs_, this);
 }
 

@@ -14,6 +14,7 @@ class Pane;
 
 namespace flickerscribe::ui {
 
+class AnimationHistory;
 class Dialogs;
 class RichPane;
 
@@ -24,7 +25,7 @@ class SimpleEditWindow : public QDialog {
     Q_OBJECT
 
 public:
-    SimpleEditWindow(AnimationScript& script, Dialogs& dialogs, QWidget* parent = nullptr);
+    SimpleEditWindow(AnimationHistory& history, Dialogs& dialogs, QWidget* parent = nullptr);
     ~SimpleEditWindow() override;
 
     void PaintSelection(int index);
@@ -45,7 +46,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    AnimationScript& script_;
+    AnimationHistory& history_;
     Dialogs& dialogs_;
     QWidget* colourStrip_;
     std::vector<QPushButton*> colourButtons_;

@@ -11,6 +11,7 @@
 #include <QTreeWidget>
 
 #include "document/AnimationScript.h"
+#include "ui/AnimationHistory.h"
 #include "settings/Settings.h"
 #include "ui/ColourNameEditor.h"
 #include "ui/DialogWindow.h"
@@ -31,9 +32,9 @@ constexpr int kNameColumn = 0;
 
 }  // namespace
 
-WizardDialog::WizardDialog(AnimationScript& script, Dialogs& dialogs, const settings::Settings& settings,
+WizardDialog::WizardDialog(AnimationHistory& history, Dialogs& dialogs, const settings::Settings& settings,
                            QWidget* parent)
-    : QDialog(parent), script_(script), dialogs_(dialogs) {
+    : QDialog(parent), history_(history), dialogs_(dialogs) {
     MakeFixedDialog(*this, names::kWindow, u"Animation Script Wizard"_s, kClientWidth, kClientHeight);
     // The main window stays usable while the wizard is open.
     setModal(false);
@@ -144,7 +145,9 @@ void WizardDialog::Finish() {
         return dialogs_.Message(this, ToQString(text), ToQString(title), MsgIcon::Question,
                                 MsgButtons::YesNo) == MsgAnswer::Yes;
     };
-    const EffectRunResult result = RunEffectList(script_, name, clanTag, reverse, EffectRows(), ask);
+    const EffectRunResult result = history_.ReplaceLines(u"Wizard"_s, [&](AnimationScript& script) {
+        return RunEffectList(script, name, clanTag, reverse, EffectRows(), ask);
+    });
     if (result.inputRefused) {
         dialogs_.Message(
             this,

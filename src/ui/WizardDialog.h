@@ -16,9 +16,6 @@ class QRadioButton;
 class QTreeWidget;
 class QTreeWidgetItem;
 
-namespace flickerscribe {
-class AnimationScript;
-}
 
 namespace flickerscribe::settings {
 struct Settings;
@@ -26,6 +23,7 @@ struct Settings;
 
 namespace flickerscribe::ui {
 
+class AnimationHistory;
 class Dialogs;
 
 // The animation wizard: four pages on which the user gives a name, an optional
@@ -44,7 +42,7 @@ public:
     static constexpr int kClientWidth = 7440;
     static constexpr int kClientHeight = 5385;
 
-    WizardDialog(AnimationScript& script, Dialogs& dialogs, const settings::Settings& settings,
+    WizardDialog(AnimationHistory& history, Dialogs& dialogs, const settings::Settings& settings,
                  QWidget* parent = nullptr);
     ~WizardDialog() override;
 
@@ -87,7 +85,7 @@ private:
     void StoreParameter(int column, const QString& text);
     QTreeWidgetItem* SelectedRow() const;
 
-    AnimationScript& script_;
+    AnimationHistory& history_;
     Dialogs& dialogs_;
     int currentPage_ = 1;
     int pageCount_ = kPageCount;

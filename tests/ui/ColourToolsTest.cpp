@@ -13,6 +13,7 @@
 #include "WindowChecks.h"
 #include "colour/Pane.h"
 #include "document/AnimationScript.h"
+#include "ui/AnimationHistory.h"
 #include "ui/ColourNameEditor.h"
 #include "ui/SimpleEditWindow.h"
 
@@ -148,7 +149,8 @@ TEST(ColorEditor, EscapeClosesTheWindow) {
 TEST(SimpleEdit, WindowAsDesigned) {
     AnimationScript script;
     ScriptedDialogs dialogs;
-    SimpleEditWindow window(script, dialogs);
+    AnimationHistory history(script);
+    SimpleEditWindow window(history, dialogs);
     EXPECT_EQ(window.windowTitle(), u"Simple edit"_s);
     EXPECT_NE(window.minimumSize(), window.maximumSize()) << "the window can be resized";
     EXPECT_EQ(window.size(), QSize(Twips(6345), Twips(4590)));
@@ -197,7 +199,8 @@ TEST_P(SimpleEditSave, ReplacesTheListWithThePaneLines) {
     script.AppendLine("older", "abc", "[none]");
     script.SelectLine(2);
     ScriptedDialogs dialogs;
-    SimpleEditWindow window(script, dialogs);
+    AnimationHistory history(script);
+    SimpleEditWindow window(history, dialogs);
     window.show();
     Perform(window, window.PreviewPane(), GetParam().steps);
     const std::string paneText = window.PreviewPane().Text();
@@ -220,7 +223,8 @@ INSTANTIATE_TEST_SUITE_P(Table, SimpleEditSave, testing::ValuesIn(kSaveCases),
 TEST(SimpleEdit, FullListStopsTheSaveAndTellsTheUser) {
     AnimationScript script;
     ScriptedDialogs dialogs;
-    SimpleEditWindow window(script, dialogs);
+    AnimationHistory history(script);
+    SimpleEditWindow window(history, dialogs);
     std::string text;
     for (int i = 0; i < kMaxLines + 2; ++i) text += "x\n";
     window.PreviewPane().SetRuns({ColouredRun{text, Rgb(0, 255, 0)}});
@@ -237,7 +241,8 @@ TEST(SimpleEdit, FullListStopsTheSaveAndTellsTheUser) {
 TEST(SimpleEdit, EscapeDoesNotThrowThePaneAway) {
     AnimationScript script;
     ScriptedDialogs dialogs;
-    SimpleEditWindow window(script, dialogs);
+    AnimationHistory history(script);
+    SimpleEditWindow window(history, dialogs);
     window.show();
     auto* edit = window.findChild<QTextEdit*>(u"txtPreview"_s);
     QTest::keyClicks(edit, u"abc"_s);
@@ -261,7 +266,8 @@ TEST_P(SimpleEditResize, PaneFillsTheWindowBelowTheStrip) {
     const ResizeCase& c = GetParam();
     AnimationScript script;
     ScriptedDialogs dialogs;
-    SimpleEditWindow window(script, dialogs);
+    AnimationHistory history(script);
+    SimpleEditWindow window(history, dialogs);
     window.show();
     const auto* strip = window.findChild<QWidget*>(u"picColors"_s);
     const auto* pane = window.findChild<QWidget*>(u"txtPreview"_s);

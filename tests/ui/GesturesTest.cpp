@@ -48,9 +48,9 @@ public:
 
     QDialog& Open(const QString& name) {
         if (name == u"frmWizard"_s) {
-            dialog = std::make_unique<WizardDialog>(Script(), dialogs, window->Settings());
+            dialog = std::make_unique<WizardDialog>(window->History(), dialogs, window->Settings());
         } else if (name == u"frmEdit"_s) {
-            dialog = std::make_unique<EditTimeDialog>(Script());
+            dialog = std::make_unique<EditTimeDialog>();
         } else if (name == u"frmOptions"_s) {
             dialog = std::make_unique<OptionsDialog>(store, dialogs, [] {});
         } else if (name == u"frmHelp"_s) {
@@ -58,7 +58,7 @@ public:
         } else if (name == u"frmColorEditor"_s) {
             dialog = std::make_unique<ColourNameEditor>(dialogs);
         } else {
-            dialog = std::make_unique<SimpleEditWindow>(Script(), dialogs);
+            dialog = std::make_unique<SimpleEditWindow>(window->History(), dialogs);
         }
         dialog->show();
         return *dialog;
@@ -117,6 +117,10 @@ QString LinesAndState(Gestures& t) {
         out += QString::fromStdString(t.Script().LineAt(i).Text + "/" + t.Script().LineAt(i).Time + " ");
     return out + (t.dialog->isVisible() ? u"open"_s : u"closed"_s);
 }
+QString StoredTime(Gestures& t) {
+    const auto& edit = static_cast<EditTimeDialog&>(*t.dialog);
+    return edit.result() == QDialog::Accepted ? u"stores "_s + edit.Time() : u"stores nothing"_s;
+}
 QString Written(Gestures& t) {
     return t.store.Writes().join(u',') + (t.dialog->isVisible() ? u" open"_s : u" closed"_s);
 }
@@ -165,8 +169,8 @@ INSTANTIATE_TEST_SUITE_P(
                   WizardState, "page 4 rows 0 lines 2"},
         EnterCase{"WizardEffectList", "frmWizard", "lvwEffects", kPage4WithWave,
                   [](Gestures& t) { return LinesAndState(t); }, "closed"},
-        EnterCase{"EditCancel", "frmEdit", "cmdCancel", nullptr, LinesAndState, "A/10 B/20 closed"},
-        EnterCase{"EditTimeBox", "frmEdit", "txtTime", nullptr, LinesAndState, "A/15 B/20 closed"},
+        EnterCase{"EditCancel", "frmEdit", "cmdCancel", nullptr, StoredTime, "stores nothing"},
+        EnterCase{"EditTimeBox", "frmEdit", "txtTime", nullptr, StoredTime, "stores 15"},
         EnterCase{"OptionsOk", "frmOptions", "cmdOK", nullptr, Written,
                   "EditItem,Name,Clantag,Reverse,OpenDir,SaveDir,GenerateDir closed"},
         EnterCase{"OptionsCancel", "frmOptions", "Command2", nullptr, Written, " closed"},
@@ -260,7 +264,7 @@ const BoxCase kBoxes[] = {
     {"EditTime", DialogBox("frmEdit", "txtTime"),
      [](Gestures& g, QLineEdit* edit) {
          QTest::keyClick(edit, Qt::Key_Return);
-         return QString::fromStdString(g.Script().LineAt(1).Time);
+         return static_cast<EditTimeDialog&>(*g.dialog).Time();
      }},
     {"OptionsName", DialogBox("frmOptions", "txtName"), BoxText},
     {"OptionsClan", DialogBox("frmOptions", "txtClan"), BoxText},

@@ -147,13 +147,17 @@ TEST_F(ScriptModelTest, IsChangingOnlyWhileTheScriptChanges) {
     EXPECT_FALSE(model.Changing());
 }
 
+// The model passes an edit of a Text on; the window makes it a step.
 TEST_F(ScriptModelTest, OnlyTheTextColumnTakesAnEdit) {
     script.AppendLine("a", "15", "[none]");
+    QStringList edits;
+    QObject::connect(&model, &ScriptModel::TextEdited,
+                     [&](int index, const QString& text) { edits << u"%1:%2"_s.arg(index).arg(text); });
     EXPECT_TRUE(model.setData(model.index(0, 0), u"^3b"_s));
     EXPECT_FALSE(model.setData(model.index(0, 1), u"1"_s));
     EXPECT_FALSE(model.setData(model.index(0, 2), u"x"_s));
     EXPECT_FALSE(model.setData(model.index(0, 0), u"y"_s, Qt::DisplayRole + 100));
-    EXPECT_EQ(script.LineAt(1), (AnimationLine{"^3b", "15", "[none]"}));
+    EXPECT_EQ(edits, QStringList{u"1:^3b"_s});
 }
 
 TEST(ScriptModel, LetsGoOfTheScriptWhenDestroyed) {

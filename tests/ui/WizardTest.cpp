@@ -19,6 +19,7 @@
 #include "WindowChecks.h"
 #include "document/AnimationScript.h"
 #include "settings/Settings.h"
+#include "ui/AnimationHistory.h"
 #include "ui/WizardDialog.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -36,7 +37,7 @@ protected:
     }
 
     WizardDialog& Open() {
-        wizard = std::make_unique<WizardDialog>(script, dialogs, settings);
+        wizard = std::make_unique<WizardDialog>(history, dialogs, settings);
         wizard->show();
         return *wizard;
     }
@@ -112,6 +113,7 @@ protected:
     }
 
     AnimationScript script;
+    AnimationHistory history{script};
     ScriptedDialogs dialogs;
     settings::Settings settings;
     std::unique_ptr<WizardDialog> wizard;
