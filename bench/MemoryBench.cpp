@@ -1,4 +1,5 @@
-// The resident memory of the real main window holding a full animation:
+// The resident memory of the real main window holding a full animation, and
+// holding it after a hundred replacements of the whole list:
 // a project file of 32767 lines is opened through File > Open, the window is
 // shown and painted with the last line selected, and the process's resident
 // size (VmRSS) and its peak (VmHWM) are read from /proc/self/status.
@@ -98,6 +99,44 @@ void BM_ResidentWithFullAnimationShown(benchmark::State& state) {
     }
 }
 BENCHMARK(BM_ResidentWithFullAnimationShown)->Iterations(1)->Unit(benchmark::kMillisecond);
+
+// The same window after the full animation was opened a hundred times more:
+// every Open is a step of the history that keeps the list it replaced, as far
+// as the history's 64 MB go. The target is under 200 MB.
+void BM_ResidentAfterAHundredReplacements(benchmark::State& state) {
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("full.fsq"));
+    {
+        flickerscribe::AnimationScript full;
+        for (int i = 0; i < flickerscribe::kMaxLines; ++i)
+            full.AppendLine("^1[QZT]^7Quil^" + std::to_string(1 + i % 8) + "lon " + std::to_string(i), "15",
+                            "[none]");
+        if (flickerscribe::SaveAnimationFile(path.toStdString(), full)) {
+            state.SkipWithError("cannot write the project file");
+            return;
+        }
+    }
+    for (auto _ : state) {
+        NoSettings store;
+        OpenOneFile dialogs(path);
+        flickerscribe::ui::MainWindow window(dialogs, store);
+        window.resize(800, 600);
+        window.show();
+        if (!QTest::qWaitForWindowExposed(&window)) state.SkipWithError("the window never showed");
+        for (int i = 0; i <= 100; ++i) {
+            // Every other line changes, so that each Open replaces something.
+            if (i > 0) window.History().SetText(QStringLiteral("Edit"), 1, std::to_string(i));
+            window.OpenAnimation();
+            QApplication::processEvents();
+        }
+        window.repaint();
+        state.counters["Steps"] = window.History().UndoableSteps();
+        state.counters["Kept_MB"] = static_cast<double>(window.History().KeptBytes()) / (1024 * 1024);
+        state.counters["VmRSS_MB"] = StatusKb("VmRSS") / 1024;
+        state.counters["VmHWM_MB"] = StatusKb("VmHWM") / 1024;
+    }
+}
+BENCHMARK(BM_ResidentAfterAHundredReplacements)->Iterations(1)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

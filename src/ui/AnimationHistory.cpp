@@ -11,10 +11,59 @@ std::size_t BytesOf(const AnimationLine& line) {
     return sizeof(AnimationLine) + line.Text.size() + line.Time.size() + line.Action.size();
 }
 
-std::size_t BytesOf(const std::vector<AnimationLine>& lines) {
-    std::size_t bytes = 0;
-    for (const AnimationLine& line : lines) bytes += BytesOf(line);
-    return bytes;
+// A list of lines as the history keeps it: all fields in one block of bytes,
+// with where each ends. Two allocations a list instead of one or more a line,
+// so that a history of whole lists is small and leaves little of the heap in
+// pieces when it lets them go.
+class PackedLines {
+public:
+    PackedLines() = default;
+    explicit PackedLines(const std::vector<AnimationLine>& lines) {
+        std::size_t size = 0;
+        for (const AnimationLine& line : lines) size += line.Text.size() + line.Time.size() + line.Action.size();
+        bytes_.reserve(size);
+        ends_.reserve(lines.size() * 3);
+        for (const AnimationLine& line : lines) {
+            for (const std::string* field : {&line.Text, &line.Time, &line.Action}) {
+                bytes_ += *field;
+                ends_.push_back(bytes_.size());
+            }
+        }
+    }
+
+    std::vector<AnimationLine> Unpack() const {
+        std::vector<AnimationLine> lines(ends_.size() / 3);
+        std::size_t start = 0;
+        std::size_t field = 0;
+        for (AnimationLine& line : lines) {
+            for (std::string* value : {&line.Text, &line.Time, &line.Action}) {
+                value->assign(bytes_, start, ends_[field] - start);
+                start = ends_[field++];
+            }
+        }
+        return lines;
+    }
+
+    // Moves exchange the storage, so that what was held goes with the other.
+    PackedLines(PackedLines&& other) noexcept = default;
+    PackedLines& operator=(PackedLines&& other) noexcept {
+        bytes_.swap(other.bytes_);
+        ends_.swap(other.ends_);
+        return *this;
+    }
+
+    std::size_t Bytes() const { return bytes_.capacity() + ends_.capacity() * sizeof(std::size_t); }
+
+private:
+    std::string bytes_;
+    std::vector<std::size_t> ends_;
+};
+
+// Lets go of the memory a value holds (a moved-in short string would keep it).
+template <typename T>
+void Release(T& value) {
+    T empty{};
+    std::swap(value, empty);
 }
 
 // The id under which typing steps merge.
@@ -85,7 +134,7 @@ private:
     void Back() override { remove_ ? Put() : Take(); }
     void Put() { script_.InsertLine(index_, line_.Text, line_.Time, line_.Action); }
     void Take() { script_.RemoveLine(index_); }
-    void Forget() override { line_ = {}; }
+    void Forget() override { Release(line_); }
 
     const int index_;
     AnimationLine line_;
@@ -121,8 +170,8 @@ private:
         field_ == Field::Text ? script_.SetLineText(index_, value) : script_.SetLineTime(index_, value);
     }
     void Forget() override {
-        before_ = {};
-        after_ = {};
+        Release(before_);
+        Release(after_);
     }
 
     const int index_;
@@ -135,44 +184,50 @@ private:
 // Lines appended behind the last one.
 class AppendStep : public AnimationHistory::Step {
 public:
-    AppendStep(const QString& name, AnimationScript& script, std::vector<AnimationLine> lines)
-        : Step(name, script, script.SelectedIndex()), lines_(std::move(lines)) {}
+    AppendStep(const QString& name, AnimationScript& script, const std::vector<AnimationLine>& lines)
+        : Step(name, script, script.SelectedIndex()), lines_(lines), count_(lines.size()) {}
 
-    std::size_t Bytes() const override { return BytesOf(lines_); }
+    std::size_t Bytes() const override { return lines_.Bytes(); }
 
 private:
     void Forth() override {
         // Many lines reach the view as one reset, not one row at a time.
         std::optional<AnimationScript::Batch> batch;
-        if (lines_.size() > 1) batch.emplace(script_);
-        for (const AnimationLine& line : lines_) script_.AppendLine(line.Text, line.Time, line.Action);
+        if (count_ > 1) batch.emplace(script_);
+        for (AnimationLine& line : lines_.Unpack())
+            script_.AppendLine(std::move(line.Text), std::move(line.Time), std::move(line.Action));
     }
     void Back() override {
         std::optional<AnimationScript::Batch> batch;
-        if (lines_.size() > 1) batch.emplace(script_);
-        for (std::size_t i = 0; i < lines_.size(); ++i) script_.RemoveLine(script_.Count());
+        if (count_ > 1) batch.emplace(script_);
+        for (std::size_t i = 0; i < count_; ++i) script_.RemoveLine(script_.Count());
     }
-    void Forget() override { lines_ = {}; }
+    void Forget() override { Release(lines_); }
 
-    std::vector<AnimationLine> lines_;
+    PackedLines lines_;
+    const std::size_t count_;
 };
 
 // Every line replaced. The step keeps the list that is not in the script and
-// exchanges it with the script's at each undo and redo, without a copy.
+// exchanges it with the script's at each undo and redo.
 class ReplaceStep : public AnimationHistory::Step {
 public:
-    ReplaceStep(const QString& name, AnimationScript& script, std::vector<AnimationLine> before,
-                int selectedBefore)
+    ReplaceStep(const QString& name, AnimationScript& script, PackedLines before, int selectedBefore)
         : Step(name, script, selectedBefore, true), other_(std::move(before)) {}
 
-    std::size_t Bytes() const override { return BytesOf(other_); }
+    std::size_t Bytes() const override { return other_.Bytes(); }
 
 private:
-    void Forth() override { other_ = script_.ExchangeLines(std::move(other_), selectedAfter_); }
-    void Back() override { other_ = script_.ExchangeLines(std::move(other_), selectedBefore_); }
-    void Forget() override { other_ = {}; }
+    void Forth() override { Exchange(selectedAfter_); }
+    void Back() override { Exchange(selectedBefore_); }
+    void Exchange(int selected) {
+        std::vector<AnimationLine> lines = other_.Unpack();
+        other_ = PackedLines(script_.Lines());
+        script_.ExchangeLines(std::move(lines), selected);
+    }
+    void Forget() override { Release(other_); }
 
-    std::vector<AnimationLine> other_;
+    PackedLines other_;
 };
 
 }  // namespace steps
@@ -269,13 +324,14 @@ bool AnimationHistory::AppendLines(const QString& name, std::vector<AnimationLin
     const std::size_t room = static_cast<std::size_t>(kMaxLines - script_.Count());
     const bool all = lines.size() <= room;
     if (!all) lines.resize(room);
-    if (!lines.empty()) Push(new steps::AppendStep(name, script_, std::move(lines)));
+    if (!lines.empty()) Push(new steps::AppendStep(name, script_, lines));
     return all;
 }
 
-void AnimationHistory::KeepReplaced(const QString& name, std::vector<AnimationLine> before, int selectedBefore) {
+void AnimationHistory::KeepReplaced(const QString& name, const std::vector<AnimationLine>& before,
+                                    int selectedBefore) {
     if (before == script_.Lines() && selectedBefore == script_.SelectedIndex()) return;
-    Push(new steps::ReplaceStep(name, script_, std::move(before), selectedBefore));
+    Push(new steps::ReplaceStep(name, script_, PackedLines(before), selectedBefore));
 }
 
 void AnimationHistory::Trim() {

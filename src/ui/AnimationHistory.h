@@ -80,7 +80,7 @@ signals:
 
 private:
     void Push(Step* step);
-    void KeepReplaced(const QString& name, std::vector<AnimationLine> before, int selectedBefore);
+    void KeepReplaced(const QString& name, const std::vector<AnimationLine>& before, int selectedBefore);
     // Drops the kept lines of the oldest steps until the rest fit kMaxBytes.
     void Trim();
     const Step* StepAt(int index) const;

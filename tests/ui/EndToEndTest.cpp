@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
@@ -51,6 +52,7 @@ class EndToEnd : public MainWindowTest {
 protected:
     void SetUp() override {
         ASSERT_TRUE(folder.isValid());
+        keptAnimation = folder.filePath(u"kept/last-animation.fsq"_s);
         MainWindowTest::SetUp();
         window->resize(640, 480);
         window->show();
@@ -287,7 +289,8 @@ TEST_F(EndToEnd, AnEditInThePaneSurvivesSaveAndOpen) {
 // no command leaks or touches freed memory; in every build it shows that no
 // command is left out of it.
 TEST_F(EndToEnd, OneSessionGivesEveryCommand) {
-    const QSet<QString> offered = Offered();
+    // With the commands that wait for something to undo, redo or reopen.
+    const QSet<QString> offered = Offered() + QSet<QString>{u"mnuEditUndo"_s, u"mnuEditRedo"_s, u"mnuFileReopen"_s};
     ASSERT_GT(offered.size(), 25);
 
     // The wizard makes the first animation: a name with "Wave 2".
@@ -352,6 +355,21 @@ TEST_F(EndToEnd, OneSessionGivesEveryCommand) {
     dialogs.QueueOpen(cfg);
     Give(u"mnuFileImport"_s);
     EXPECT_EQ(Script().Count(), 2);
+
+    // Undo takes the import back, Redo does it again; the animation kept now
+    // comes back with Reopen, as one more step.
+    Give(u"mnuEditUndo"_s);
+    EXPECT_EQ(Script().Count(), lines);
+    Give(u"mnuEditRedo"_s);
+    EXPECT_EQ(Script().Count(), 2);
+    window->KeepAnimation();
+    Give(u"btnnew"_s);
+    emit Named<QMenu>(u"mnuFile"_s)->aboutToShow();
+    Give(u"mnuFileReopen"_s);
+    EXPECT_EQ(Script().Count(), 2);
+    Give(u"mnuEditUndo"_s);
+    EXPECT_EQ(Script().Count(), 0);
+    Give(u"mnuEditRedo"_s);
 
     // Generate, saving the script from its window.
     const QString saved = PathOf(u"session.cfg"_s);

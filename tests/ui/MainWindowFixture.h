@@ -27,7 +27,7 @@ protected:
 
     void MakeWindow() {
         window.reset();
-        window = std::make_unique<MainWindow>(dialogs, store);
+        window = std::make_unique<MainWindow>(dialogs, store, keptAnimation);
     }
 
     AnimationScript& Script() { return window->Script(); }
@@ -49,6 +49,8 @@ protected:
 
     ScriptedDialogs dialogs;
     settings::MemorySettingsStore store;
+    // Where the window keeps the last animation: nowhere unless a test says.
+    QString keptAnimation;
     std::unique_ptr<MainWindow> window;
 };
 
