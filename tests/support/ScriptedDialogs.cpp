@@ -3,163 +3,119 @@
 #include <gtest/gtest.h>
 
 namespace flickerscribe::ui {
-
 namespace {
 
 // The answer of a box closed without a choice.
 MsgAnswer Refusal(MsgButtons buttons) {
-    switch (buttons) {
-        case MsgButtons::Ok:
-            return MsgAnswer::Ok;
-        case MsgButtons::YesNo:
-            return MsgAnswer::No;
-        case MsgButtons::OkCancel:
-        case MsgButtons::YesNoCancel:
-            break;
+    return buttons == MsgButtons::Ok ? MsgAnswer::Ok : buttons == MsgButtons::YesNo ? MsgAnswer::No : MsgAnswer::Cancel;
+}
+
+// The answer queued first; false, and a failed test, when there is none.
+template <typename Answer>
+bool Take(std::deque<Answer>& queue, const QString& about, Answer& answer) {
+    if (queue.empty()) {
+        ADD_FAILURE() << "nothing queued to answer: " << about.toStdString();
+        return false;
     }
-    return MsgAnswer::Cancel;
-}
-
-bool Offers(MsgButtons buttons, MsgAnswer answer) {
-    switch (buttons) {
-        case MsgButtons::Ok:
-            return answer == MsgAnswer::Ok;
-        case MsgButtons::OkCancel:
-            return answer == MsgAnswer::Ok || answer == MsgAnswer::Cancel;
-        case MsgButtons::YesNo:
-            return answer == MsgAnswer::Yes || answer == MsgAnswer::No;
-        case MsgButtons::YesNoCancel:
-            return answer != MsgAnswer::Ok;
-    }
-    return false;
-}
-
-// Whether an answer was queued; a question with none fails the test.
-template <class Answer>
-bool Queued(const std::deque<Answer>& queue, const char* what, const QString& about) {
-    if (queue.empty())
-        ADD_FAILURE() << "unexpected " << what << ", no answer queued: " << about.toStdString();
-    return !queue.empty();
-}
-
-// The queued file name or text, nullopt for Cancel. (The optional itself is
-// not moved out: the compiler sees a moved-from QString as uninitialised.)
-std::optional<QString> TakeText(std::deque<std::optional<QString>>& queue) {
-    const bool given = queue.front().has_value();
-    const QString text = given ? *queue.front() : QString();
+    answer = queue.front();
     queue.pop_front();
-    if (!given) return std::nullopt;
-    return text;
+    return true;
 }
 
 }  // namespace
 
 ScriptedDialogs::~ScriptedDialogs() {
-    if (expectAllAnswersUsed && !AllAnswersUsed()) ADD_FAILURE() << "queued dialog answers were not used";
+    EXPECT_TRUE(AllAnswersUsed()) << "queued answers were left over";
 }
 
-std::vector<DialogCall> ScriptedDialogs::CallsOf(DialogCall::Kind kind) const {
+std::vector<DialogCall> ScriptedDialogs::Messages() const {
     std::vector<DialogCall> out;
     for (const DialogCall& call : calls_)
-        if (call.kind == kind) out.push_back(call);
+        if (call.kind == DialogCall::Kind::Message) out.push_back(call);
+    return out;
+}
+
+QStringList ScriptedDialogs::Asked() const {
+    static const char* const kIcons[] = {"none", "stop", "question", "warning", "info"};
+    QStringList out;
+    for (const DialogCall& c : calls_) {
+        if (c.kind == DialogCall::Kind::Message)
+            out << QStringLiteral("%1 [%2]: %3").arg(c.title, QLatin1String(kIcons[int(c.icon)]), c.text);
+        else if (c.kind == DialogCall::Kind::Open || c.kind == DialogCall::Kind::Save)
+            out << (c.kind == DialogCall::Kind::Open ? QStringLiteral("open ") : QStringLiteral("save ")) + c.title;
+    }
     return out;
 }
 
 bool ScriptedDialogs::AllAnswersUsed() const {
-    return messageAnswers_.empty() && inputAnswers_.empty() && openAnswers_.empty() && saveAnswers_.empty() &&
-           folderAnswers_.empty();
+    return answers_.empty() && inputs_.empty() && opens_.empty() && saves_.empty() && folders_.empty();
 }
 
-void ScriptedDialogs::Record(DialogCall call) {
+DialogCall& ScriptedDialogs::Record(DialogCall::Kind kind, QWidget* parent, const QString& title,
+                                    const QString& text) {
+    DialogCall call;
+    call.kind = kind;
+    call.parent = parent;
+    call.title = title;
+    call.text = text;
     calls_.push_back(call);
-    // onCall may ask again and so grow calls_: it gets its own copy.
-    if (onCall) onCall(call);
+    return calls_.back();
 }
 
 MsgAnswer ScriptedDialogs::Message(QWidget* parent, const QString& text, const QString& title, MsgIcon icon,
                                    MsgButtons buttons) {
-    DialogCall call;
-    call.kind = DialogCall::Kind::Message;
-    call.parent = parent;
-    call.text = text;
-    call.title = title;
+    DialogCall& call = Record(DialogCall::Kind::Message, parent, title, text);
     call.icon = icon;
     call.buttons = buttons;
-    Record(std::move(call));
-    if (messageAnswers_.empty()) {
-        if (buttons != MsgButtons::Ok)
-            ADD_FAILURE() << "unexpected message, no answer queued: " << text.toStdString();
-        return Refusal(buttons);
-    }
-    const MsgAnswer answer = messageAnswers_.front();
-    messageAnswers_.pop_front();
-    if (!Offers(buttons, answer)) {
-        ADD_FAILURE() << "queued answer is no button of the message: " << text.toStdString();
-        return Refusal(buttons);
-    }
+    MsgAnswer answer = Refusal(buttons);
+    if (buttons != MsgButtons::Ok || !answers_.empty()) Take(answers_, text, answer);
     return answer;
 }
 
 std::optional<QString> ScriptedDialogs::InputBox(QWidget* parent, const QString& prompt, const QString& title,
                                                  const QString& defaultText) {
-    DialogCall call;
-    call.kind = DialogCall::Kind::InputBox;
-    call.parent = parent;
-    call.prompt = prompt;
-    call.title = title;
-    call.defaultText = defaultText;
-    Record(std::move(call));
-    if (!Queued(inputAnswers_, "input box", prompt)) return std::nullopt;
-    return TakeText(inputAnswers_);
+    Record(DialogCall::Kind::InputBox, parent, title, prompt).state.fileName = defaultText;
+    QString text;
+    bool given = false;
+    std::optional<QString> answer;
+    if (Take(inputs_, prompt, answer) && answer) {
+        given = true;
+        text = *answer;
+    }
+    if (!given) return std::nullopt;
+    return text;
 }
 
 bool ScriptedDialogs::AnswerFile(DialogCall::Kind kind, QWidget* parent, FileDialogState& state) {
-    DialogCall call;
-    call.kind = kind;
-    call.parent = parent;
-    call.title = state.title;
-    call.state = state;
-    Record(std::move(call));
-    const bool open = kind == DialogCall::Kind::ShowOpen;
-    auto& answers = open ? openAnswers_ : saveAnswers_;
-    if (!Queued(answers, open ? "open dialog" : "save dialog", state.title)) return false;
-    const std::optional<QString> fileName = TakeText(answers);
-    if (fileName) state.fileName = *fileName;
-    return fileName.has_value();
+    Record(kind, parent, state.title, QString()).state = state;
+    std::optional<QString> path;
+    if (!Take(kind == DialogCall::Kind::Open ? opens_ : saves_, state.title, path) || !path) return false;
+    state.fileName = *path;
+    return true;
 }
 
 bool ScriptedDialogs::ShowOpen(QWidget* parent, FileDialogState& state) {
-    return AnswerFile(DialogCall::Kind::ShowOpen, parent, state);
+    return AnswerFile(DialogCall::Kind::Open, parent, state);
 }
 
 bool ScriptedDialogs::ShowSave(QWidget* parent, FileDialogState& state) {
-    return AnswerFile(DialogCall::Kind::ShowSave, parent, state);
+    return AnswerFile(DialogCall::Kind::Save, parent, state);
 }
 
 QString ScriptedDialogs::BrowseForFolder(QWidget* parent, const QString& title) {
-    DialogCall call;
-    call.kind = DialogCall::Kind::BrowseForFolder;
-    call.parent = parent;
-    call.title = title;
-    Record(std::move(call));
-    if (!Queued(folderAnswers_, "folder browser", title)) return QString();
-    QString answer = std::move(folderAnswers_.front());
-    folderAnswers_.pop_front();
-    return answer;
+    Record(DialogCall::Kind::Folder, parent, title, QString());
+    QString folder;
+    Take(folders_, title, folder);
+    return folder;
 }
 
 void ScriptedDialogs::SetClipboardText(const QString& text) {
-    DialogCall call;
-    call.kind = DialogCall::Kind::SetClipboard;
-    call.text = text;
-    Record(std::move(call));
+    Record(DialogCall::Kind::SetClipboard, nullptr, QString(), text);
     clipboard = text;
 }
 
 std::optional<QString> ScriptedDialogs::ClipboardText() {
-    DialogCall call;
-    call.kind = DialogCall::Kind::GetClipboard;
-    Record(std::move(call));
+    Record(DialogCall::Kind::GetClipboard, nullptr, QString(), QString());
     if (clipboardUnreadable) return std::nullopt;
     return clipboard;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <QStringList>
 #include <deque>
-#include <functional>
 #include <optional>
 #include <vector>
 
@@ -11,55 +11,38 @@ namespace flickerscribe::ui {
 
 // One question the program asked, as the test sees it afterwards.
 struct DialogCall {
-    enum class Kind { Message, InputBox, ShowOpen, ShowSave, BrowseForFolder, SetClipboard, GetClipboard };
-
+    enum class Kind { Message, InputBox, Open, Save, Folder, SetClipboard, GetClipboard };
     Kind kind = Kind::Message;
     QWidget* parent = nullptr;
-    QString text;  // the message text, or the text put on the clipboard
     QString title;
+    QString text;  // the message or prompt, or the text put on the clipboard
     MsgIcon icon = MsgIcon::None;
     MsgButtons buttons = MsgButtons::Ok;
-    QString prompt;
-    QString defaultText;
-    FileDialogState state;  // as the file dialog was given it
+    FileDialogState state;  // a file dialog as it was shown
 };
 
-// Dialogs for tests: records every call and answers from queues that the test
-// fills beforehand. A question that finds its queue empty fails the test and
-// is answered like a Cancel (No for yes/no), so a test never blocks. A message
-// with the one button OK needs no queued answer.
+// Dialogs for tests: every call is recorded and answered from what the test
+// queued. A question with nothing queued fails the test and is answered like
+// Cancel (No for Yes/No), so a test never blocks; a message with the one
+// button OK needs no answer.
 class ScriptedDialogs : public Dialogs {
 public:
     ~ScriptedDialogs() override;
 
-    // --- answers, used in the order queued
-    void QueueMessageAnswer(MsgAnswer answer) { messageAnswers_.push_back(answer); }
-    // nullopt answers Cancel.
-    void QueueInput(std::optional<QString> answer) { inputAnswers_.push_back(std::move(answer)); }
-    // The path chosen in the dialog, or nullopt for Cancel.
-    void QueueOpen(std::optional<QString> fileName) { openAnswers_.push_back(std::move(fileName)); }
-    void QueueSave(std::optional<QString> fileName) { saveAnswers_.push_back(std::move(fileName)); }
-    // The empty text answers Cancel.
-    void QueueFolder(QString folder) { folderAnswers_.push_back(std::move(folder)); }
+    void QueueMessageAnswer(MsgAnswer answer) { answers_.push_back(answer); }
+    void QueueInput(std::optional<QString> text) { inputs_.push_back(std::move(text)); }  // nullopt: Cancel
+    void QueueOpen(std::optional<QString> path) { opens_.push_back(std::move(path)); }
+    void QueueSave(std::optional<QString> path) { saves_.push_back(std::move(path)); }
+    void QueueFolder(QString folder) { folders_.push_back(std::move(folder)); }  // empty: Cancel
 
-    // The clipboard this object holds; empty at first.
     QString clipboard;
-    // While true, reading the clipboard fails (ClipboardText gives nullopt).
     bool clipboardUnreadable = false;
 
-    // Runs at each call, after it was recorded and before it is answered: lets
-    // a test act while a question stands (a timer tick, a second question).
-    std::function<void(const DialogCall&)> onCall;
-
-    // --- what was asked
     const std::vector<DialogCall>& Calls() const { return calls_; }
-    std::vector<DialogCall> CallsOf(DialogCall::Kind kind) const;
-    std::vector<DialogCall> Messages() const { return CallsOf(DialogCall::Kind::Message); }
-    void ClearCalls() { calls_.clear(); }
-    // True when every queued answer was used.
+    std::vector<DialogCall> Messages() const;
+    // Each question in one line: "title [icon]: text", or "open|save title".
+    QStringList Asked() const;
     bool AllAnswersUsed() const;
-    // When set, the destructor fails the test if queued answers were left over.
-    bool expectAllAnswersUsed = false;
 
     MsgAnswer Message(QWidget* parent, const QString& text, const QString& title, MsgIcon icon,
                       MsgButtons buttons) override;
@@ -72,16 +55,13 @@ public:
     std::optional<QString> ClipboardText() override;
 
 private:
-    void Record(DialogCall call);
-    // Records a file dialog and answers it from the open or the save queue.
+    DialogCall& Record(DialogCall::Kind kind, QWidget* parent, const QString& title, const QString& text);
     bool AnswerFile(DialogCall::Kind kind, QWidget* parent, FileDialogState& state);
 
     std::vector<DialogCall> calls_;
-    std::deque<MsgAnswer> messageAnswers_;
-    std::deque<std::optional<QString>> inputAnswers_;
-    std::deque<std::optional<QString>> openAnswers_;
-    std::deque<std::optional<QString>> saveAnswers_;
-    std::deque<QString> folderAnswers_;
+    std::deque<MsgAnswer> answers_;
+    std::deque<std::optional<QString>> inputs_, opens_, saves_;
+    std::deque<QString> folders_;
 };
 
 }  // namespace flickerscribe::ui

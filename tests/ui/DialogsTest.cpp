@@ -1,151 +1,279 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest-spi.h>
-
-#include <QAbstractButton>
+// The smaller windows: the Edit dialog, Options, the two painting windows,
+// About and Help; and the names Qt's file dialog is given.
 #include <QApplication>
-#include <QInputDialog>
-#include <QMessageBox>
-#include <QTest>
-#include <QTimer>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <variant>
 
-#include "ScriptedDialogs.h"
+#include "MainWindowFixture.h"
+#include "colour/Palette.h"
+#include "ui/AboutDialog.h"
 #include "ui/QtDialogs.h"
 
-using namespace Qt::Literals::StringLiterals;
-
-namespace flickerscribe::ui {
+namespace flickerscribe::ui::testing_support {
 namespace {
 
-// --- the filter text of the file dialogs
+using Dialog = DialogTest;
 
-struct FilterCase {
-    const char* name;
-    QString filter;
-    QStringList expected;
-    friend void PrintTo(const FilterCase& c, std::ostream* os) { *os << c.name; }
-};
-
-class NameFilters : public testing::TestWithParam<FilterCase> {};
-
-TEST_P(NameFilters, BecomeQtFilters) {
-    EXPECT_EQ(QtNameFilters(GetParam().filter), GetParam().expected);
+// Only the number test decides: what passes stands as typed, anything else
+// becomes "20" at once. OK gives the time to store; the others give nothing.
+TEST_F(Dialog, TheEditDialogHoldsOnlyNumbersAndOnlyOkGivesATime) {
+    Open(u"frmEdit"_s);
+    auto* box = Child<QLineEdit>(u"txtTime"_s);
+    EXPECT_EQ(box->text(), u"15"_s);
+    EXPECT_EQ(Child<QLabel>(u"lblSpeed"_s)->text(), u"15 = fast\n20 = regular\n30 = slow"_s);
+    EXPECT_EQ(Child<QComboBox>(u"cmbAction"_s)->currentText(), u"Under construction"_s);
+    const std::pair<QString, QString> texts[] = {
+        {u"25"_s, u"25"_s}, {u"-5"_s, u"-5"_s},   {u"1.5"_s, u"1.5"_s},  {u" 25 "_s, u" 25 "_s},
+        {u""_s, u"20"_s},   {u"abc"_s, u"20"_s},  {u"32768"_s, u"20"_s}, {u"15a"_s, u"20"_s}};
+    for (const auto& [set, shown] : texts) {
+        box->setText(set);
+        EXPECT_EQ(box->text(), shown) << set.toStdString();
+    }
+    box->selectAll();
+    QTest::keyClick(box, Qt::Key_A);
+    EXPECT_EQ(box->text(), u"20"_s) << "at the first letter";
+    for (const char* close : {"Escape", "cmdCancel", "close box", "cmdOK"}) {
+        Open(u"frmEdit"_s);
+        Child<QLineEdit>(u"txtTime"_s)->setText(u"25"_s);
+        if (close == std::string("Escape")) QTest::keyClick(Child(u"txtTime"_s), Qt::Key_Escape);
+        if (close == std::string("close box")) dialog->close();
+        if (std::string(close).starts_with("cmd")) QTest::mouseClick(Child<QPushButton>(QString::fromLatin1(close)), Qt::LeftButton);
+        EXPECT_FALSE(dialog->isVisible());
+        EXPECT_EQ(dialog->result() == QDialog::Accepted, close == std::string("cmdOK")) << close;
+    }
+    EXPECT_EQ(static_cast<EditTimeDialog&>(*dialog).Time(), u"25"_s);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Cases, NameFilters,
-    testing::Values(FilterCase{"OnePair",
-                               u"Brennock Animation Script (*.fsq)|*.fsq"_s,
-                               {u"Brennock Animation Script (*.fsq)"_s}},
-                    FilterCase{"TwoPairs",
-                               u"Scripts (*.cfg)|*.cfg|All files (*.*)|*.*"_s,
-                               {u"Scripts (*.cfg)"_s, u"All files (*.*)"_s}},
-                    FilterCase{"PatternsNotInDescription", u"Scripts|*.cfg"_s, {u"Scripts (*.cfg)"_s}},
-                    FilterCase{"SeveralPatterns", u"Text|*.txt;*.cfg"_s, {u"Text (*.txt *.cfg)"_s}},
-                    FilterCase{"Empty", QString(), {}},
-                    FilterCase{"DescriptionWithoutPattern", u"Lonely"_s, {}}),
-    testing::PrintToStringParamName());
-
-// --- the real message box, answered by pressing its buttons
-
-struct MessageCase {
-    const char* name;
-    MsgButtons buttons;
-    QMessageBox::StandardButton press;  // NoButton: the box is closed with Escape
-    MsgAnswer expected;
-    friend void PrintTo(const MessageCase& c, std::ostream* os) { *os << c.name; }
-};
-
-class QtMessage : public testing::TestWithParam<MessageCase> {};
-
-TEST_P(QtMessage, GivesTheAnswerOfThePressedButton) {
-    const MessageCase& c = GetParam();
-    QtDialogs dialogs;
-    QString seenTitle;
-    QMessageBox::Icon seenIcon = QMessageBox::NoIcon;
-    QTimer::singleShot(0, [&] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        ASSERT_NE(box, nullptr);
-        seenTitle = box->windowTitle();
-        seenIcon = box->icon();
-        if (c.press == QMessageBox::NoButton)
-            QTest::keyClick(box, Qt::Key_Escape);
-        else
-            box->button(c.press)->click();
-    });
-    const MsgAnswer answer = dialogs.Message(nullptr, u"Text"_s, QString(), MsgIcon::Exclamation, c.buttons);
-    EXPECT_EQ(answer, c.expected);
-    EXPECT_EQ(seenTitle, QApplication::applicationName()) << "an empty title is the program's name";
-    EXPECT_EQ(seenIcon, QMessageBox::Warning);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, QtMessage,
-    testing::Values(
-        MessageCase{"Ok", MsgButtons::Ok, QMessageBox::Ok, MsgAnswer::Ok},
-        MessageCase{"OkEscape", MsgButtons::Ok, QMessageBox::NoButton, MsgAnswer::Ok},
-        MessageCase{"OkCancelOk", MsgButtons::OkCancel, QMessageBox::Ok, MsgAnswer::Ok},
-        MessageCase{"OkCancelCancel", MsgButtons::OkCancel, QMessageBox::Cancel, MsgAnswer::Cancel},
-        MessageCase{"OkCancelEscape", MsgButtons::OkCancel, QMessageBox::NoButton, MsgAnswer::Cancel},
-        MessageCase{"YesNoYes", MsgButtons::YesNo, QMessageBox::Yes, MsgAnswer::Yes},
-        MessageCase{"YesNoEscape", MsgButtons::YesNo, QMessageBox::NoButton, MsgAnswer::No},
-        MessageCase{"YesNoCancelNo", MsgButtons::YesNoCancel, QMessageBox::No, MsgAnswer::No},
-        MessageCase{"YesNoCancelEscape", MsgButtons::YesNoCancel, QMessageBox::NoButton, MsgAnswer::Cancel}),
-    testing::PrintToStringParamName());
-
-TEST(QtInputBox, GivesTheTextOrNothingOnCancel) {
-    QtDialogs dialogs;
-    QTimer::singleShot(0, [] {
-        auto* box = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(box, nullptr);
-        EXPECT_EQ(box->textValue(), u"5"_s);
-        box->setTextValue(u"12"_s);
-        box->accept();
-    });
-    EXPECT_EQ(dialogs.InputBox(nullptr, u"How many?"_s, u"Copy"_s, u"5"_s), std::optional<QString>(u"12"_s));
-
-    QTimer::singleShot(0, [] { QApplication::activeModalWidget()->close(); });
-    EXPECT_EQ(dialogs.InputBox(nullptr, u"How many?"_s, u"Copy"_s, u"5"_s), std::nullopt);
-}
-
-// --- the scripted dialogs: a question no test expected must not pass unseen
-
-TEST(ScriptedDialogs, AnUnexpectedQuestionFailsAndIsRefused) {
-    ScriptedDialogs dialogs;
-    MsgAnswer answer = MsgAnswer::Ok;
-    EXPECT_NONFATAL_FAILURE(
-        answer = dialogs.Message(nullptr, u"Overwrite?"_s, QString(), MsgIcon::Question, MsgButtons::YesNo),
-        "unexpected message");
-    EXPECT_EQ(answer, MsgAnswer::No);
-    EXPECT_NONFATAL_FAILURE(
-        answer = dialogs.Message(nullptr, u"Go?"_s, QString(), MsgIcon::Question, MsgButtons::YesNoCancel),
-        "unexpected message");
-    EXPECT_EQ(answer, MsgAnswer::Cancel);
-    FileDialogState state;
-    bool ok = true;
-    EXPECT_NONFATAL_FAILURE(ok = dialogs.ShowSave(nullptr, state), "unexpected save dialog");
-    EXPECT_FALSE(ok);
-    QString folder = u"x"_s;
-    EXPECT_NONFATAL_FAILURE(folder = dialogs.BrowseForFolder(nullptr, u"Pick"_s),
-                            "unexpected folder browser");
-    EXPECT_TRUE(folder.isEmpty());
-    dialogs.QueueMessageAnswer(MsgAnswer::Yes);
-    EXPECT_NONFATAL_FAILURE(
-        answer = dialogs.Message(nullptr, u"Sure?"_s, QString(), MsgIcon::Question, MsgButtons::OkCancel),
-        "no button of the message");
-    EXPECT_EQ(answer, MsgAnswer::Cancel);
-}
-
-TEST(ScriptedDialogs, OnCallRunsWhileTheQuestionStands) {
-    ScriptedDialogs dialogs;
-    dialogs.QueueMessageAnswer(MsgAnswer::Ok);
-    int seen = 0;
-    dialogs.onCall = [&](const DialogCall& call) {
-        ++seen;
-        EXPECT_EQ(call.text, u"Now"_s);
+// The Options dialog shows what the store holds; OK writes all seven values
+// and has them take effect; Cancel writes nothing, even after browsing.
+TEST_F(Dialog, OptionsShowTheStoreAndOkWritesAllSevenValues) {
+    const QMap<QString, QString> stored = {{u"Name"_s, u"Quillon"_s},   {u"Clantag"_s, u"[QZT]"_s},
+                                           {u"OpenDir"_s, u"/q/open"_s}, {u"SaveDir"_s, u"/q/save"_s},
+                                           {u"Reverse"_s, u" 1"_s},      {u"EditItem"_s, u"1"_s}};
+    for (auto it = stored.begin(); it != stored.end(); ++it) store.WriteValue(it.key(), it.value());
+    const auto written = store.Writes().size();
+    Open(u"frmOptions"_s);
+    const auto shown = [this] {
+        return QStringList{Child<QLineEdit>(u"txtName"_s)->text(), Child<QLineEdit>(u"txtClan"_s)->text(),
+                           Child<QLineEdit>(u"txtOpen"_s)->text(), Child<QLineEdit>(u"txtSave"_s)->text(),
+                           Child<QCheckBox>(u"chkReverse"_s)->isChecked() ? u"1"_s : u"0"_s,
+                           Child<QCheckBox>(u"chkEditItem"_s)->isChecked() ? u"1"_s : u"0"_s}
+            .join(u'|');
     };
-    dialogs.Message(nullptr, u"Now"_s, QString(), MsgIcon::None, MsgButtons::OkCancel);
-    EXPECT_EQ(seen, 1);
+    EXPECT_EQ(shown(), u"Quillon|[QZT]|/q/open|/q/save|0|1"_s) << "only the text 1 ticks a box";
+
+    dialogs.QueueFolder(u"/new/save"_s);
+    dialogs.QueueFolder(QString());  // cancelling the folder dialog empties the box
+    QTest::mouseClick(Child<QPushButton>(u"cmdBrowse2"_s), Qt::LeftButton);
+    QTest::mouseClick(Child<QPushButton>(u"cmdBrowse1"_s), Qt::LeftButton);
+    QTest::keyClicks(Child<QLineEdit>(u"txtClan"_s), u"!"_s);
+    Child<QCheckBox>(u"chkReverse"_s)->click();
+    Child<QCheckBox>(u"chkEditItem"_s)->click();
+    EXPECT_EQ(dialogs.Calls()[0].title, u"Select default 'Save script' directory"_s);
+    EXPECT_EQ(dialogs.Calls()[1].title, u"Select default 'Open script' directory"_s);
+    QTest::keyClick(dialog.get(), Qt::Key_Escape);
+    EXPECT_TRUE(dialog->isVisible()) << "Escape does nothing special";
+    QTest::mouseClick(Child<QPushButton>(u"cmdOK"_s), Qt::LeftButton);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(store.Writes().mid(written), (QStringList{u"EditItem"_s, u"Name"_s, u"Clantag"_s, u"Reverse"_s,
+                                                         u"OpenDir"_s, u"SaveDir"_s, u"GenerateDir"_s}));
+    EXPECT_EQ(QStringList(store.Values().values()).join(u'|'), u"[QZT]!|0|/new/save|Quillon||1|/new/save"_s);
+    EXPECT_EQ(reloads, 1);
+
+    Open(u"frmOptions"_s);
+    EXPECT_EQ(shown(), u"Quillon|[QZT]!||/new/save|1|0"_s);
+    dialogs.QueueFolder(u"/elsewhere"_s);
+    QTest::mouseClick(Child<QPushButton>(u"cmdBrowse1"_s), Qt::LeftButton);
+    QTest::mouseClick(Child<QPushButton>(u"Command2"_s), Qt::LeftButton);
+    EXPECT_EQ(store.Writes().size(), written + 7) << "Cancel writes nothing";
+    EXPECT_EQ(reloads, 1);
+}
+
+// --- the painting windows, step by step
+
+struct Type {
+    const char* text;  // '\n' presses Enter, '\r' Shift+Enter
+};
+struct Select {
+    int start, length;
+};
+struct Paint {
+    int button;
+};
+using Step = std::variant<Type, Select, Paint>;
+
+void Perform(DialogTest& t, Pane& pane, const std::vector<Step>& steps) {
+    auto* edit = t.Child<QTextEdit>(u"txtPreview"_s);
+    for (const Step& step : steps) {
+        if (const auto* type = std::get_if<Type>(&step)) {
+            for (const char* c = type->text; *c != '\0'; ++c) {
+                if (*c == '\n' || *c == '\r')
+                    QTest::keyClick(edit, Qt::Key_Return, *c == '\r' ? Qt::ShiftModifier : Qt::NoModifier);
+                else
+                    QTest::keyClicks(edit, QString(QChar::fromLatin1(*c)));
+            }
+        } else if (const auto* select = std::get_if<Select>(&step)) {
+            pane.SetSelStart(select->start);
+            pane.SetSelLength(select->length);
+        } else {
+            QTest::mouseClick(t.Child<QPushButton>(u"cmdColor_%1"_s.arg(std::get<Paint>(step).button)),
+                              Qt::LeftButton);
+        }
+    }
+}
+
+struct PaintCase {
+    const char* name;
+    std::vector<Step> steps;
+    const char* result;  // the clipboard, or the saved lines joined by '|'
+    friend void PrintTo(const PaintCase& c, std::ostream* os) { *os << c.name; }
+};
+std::string RowName(const testing::TestParamInfo<PaintCase>& info) {
+    std::string name = info.param.name;
+    for (char& c : name) c = std::isalnum(static_cast<unsigned char>(c)) ? c : '_';
+    return name;
+}
+
+class ColourNameEditorCopy : public DialogTest, public testing::WithParamInterface<PaintCase> {};
+
+// The copy is the pane as coded text, never-painted black needing no code.
+TEST_P(ColourNameEditorCopy, PutsThePaneOnTheClipboardAsCodedText) {
+    Open(u"frmColorEditor"_s);
+    EXPECT_EQ(dialog->windowTitle(), u"Color name editor"_s);
+    Perform(*this, static_cast<ColourNameEditor&>(*dialog).PreviewPane(), GetParam().steps);
+    QTest::mouseClick(Child<QPushButton>(u"cmdClipboard"_s), Qt::LeftButton);
+    EXPECT_EQ(dialogs.clipboard.toStdString(), GetParam().result);
+    EXPECT_TRUE(dialog->isVisible());
+    QTest::keyClick(dialog.get(), Qt::Key_Escape);
+    EXPECT_FALSE(dialog->isVisible());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, ColourNameEditorCopy,
+    testing::Values(
+        PaintCase{"never painted", {Type{"plain"}}, "plain"},
+        PaintCase{"red then never painted", {Type{"Name"}, Select{0, 2}, Paint{0}}, "^1Na^8me"},
+        PaintCase{"red white red",
+                  {Type{"Name!"}, Select{0, 2}, Paint{0}, Select{2, 2}, Paint{6}, Select{4, 1}, Paint{0}},
+                  "^1Na^7me^1!"},
+        PaintCase{"empty pane", {}, ""},
+        PaintCase{"painted black is never painted", {Type{"Name"}, Select{0, 4}, Paint{7}}, "Name"},
+        PaintCase{"ninth button paints the red of code 1", {Type{"Name"}, Select{0, 4}, Paint{8}}, "^1Name"},
+        PaintCase{"colour at the caret takes what is typed next", {Type{"ab"}, Paint{2}, Type{"xy"}}, "ab^3xy"},
+        PaintCase{"typed carets are plain characters", {Type{"^1x"}, Select{0, 3}, Paint{5}}, "^6^1x"},
+        PaintCase{"Enter keeps the pane on one line", {Type{"ab\ncd"}}, "abcd"}),
+    RowName);
+
+class SimpleEditSave : public DialogTest, public testing::WithParamInterface<PaintCase> {};
+
+// Save replaces the list by the pane's text lines; the window stays open with
+// its text, and asks nothing.
+TEST_P(SimpleEditSave, ReplacesTheListWithThePanesLines) {
+    Start({"^1old/40", "older/abc"}, 2);
+    Open(u"frmSimpleEdit"_s);
+    Perform(*this, static_cast<SimpleEditWindow&>(*dialog).PreviewPane(), GetParam().steps);
+    QTest::mouseClick(Child<QPushButton>(u"cmdSave"_s), Qt::LeftButton);
+    std::string lines;
+    for (const AnimationLine& line : Script().Lines()) lines += (lines.empty() ? "" : "|") + line.Text + "/" + line.Time;
+    EXPECT_EQ(lines, GetParam().result);
+    EXPECT_EQ(Script().SelectedIndex(), Script().Count() > 0 ? 1 : 0);
+    EXPECT_TRUE(dialogs.Calls().empty());
+    EXPECT_TRUE(dialog->isVisible());
+    QTest::keyClick(Child(u"txtPreview"_s), Qt::Key_Escape);
+    EXPECT_TRUE(dialog->isVisible()) << "Escape would throw the pane away";
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, SimpleEditSave,
+    testing::Values(
+        // Pane positions: "ab" 0-1, break 2, "cde" 3-5, break 6, blanks 7-9,
+        // breaks 10 and 11, "f" 12.
+        PaintCase{"worked example",
+                  {Type{"ab\ncde\n   \n\nf"}, Select{0, 2}, Paint{0}, Select{3, 2}, Paint{0}, Select{5, 1}, Paint{1},
+                   Select{7, 3}, Paint{1}, Select{12, 1}, Paint{6}},
+                  "^1ab/15|cd^2e/15|^7f/15"},
+        PaintCase{"empty pane empties the list", {}, ""},
+        PaintCase{"white blanks and empty lines empty the list", {Type{"   \n\n  \n"}, Select{0, 9}, Paint{6}}, ""},
+        PaintCase{"never painted text gets code 8", {Type{"plain"}}, "^8plain/15"},
+        PaintCase{"Shift Enter starts a new line too", {Type{"ab\rcd"}}, "^8ab/15|cd/15"}),
+    RowName);
+
+TEST_F(Dialog, SimpleEditStopsAtTheLineLimitAndCloseSavesNothing) {
+    Open(u"frmSimpleEdit"_s);
+    std::string text;
+    for (int i = 0; i < kMaxLines + 2; ++i) text += "x\n";
+    static_cast<SimpleEditWindow&>(*dialog).PreviewPane().SetRuns({ColouredRun{text, Rgb(0, 255, 0)}});
+    QTest::mouseClick(Child<QPushButton>(u"cmdSave"_s), Qt::LeftButton);
+    EXPECT_EQ(Script().Count(), kMaxLines);
+    EXPECT_EQ(Script().LineAt(kMaxLines).Text, "x");
+    EXPECT_TRUE(dialogs.Asked().join(u'|').startsWith(u"Line limit reached"_s));
+    Open(u"frmSimpleEdit"_s);
+    QTest::keyClicks(Child(u"txtPreview"_s), u"abc"_s);
+    QTest::mouseClick(Child<QPushButton>(u"cmdClose"_s), Qt::LeftButton);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(Script().Count(), kMaxLines);
+}
+
+// --- About and Help
+
+TEST(About, ShowsNameVersionAndMakerInColourAndTheAddressesWhole) {
+    AboutDialog window;
+    EXPECT_EQ(window.windowTitle(), u"About Flickerscribe"_s);
+    const Colour red = Rgb(255, 0, 0), green = Rgb(0, 255, 0);
+    EXPECT_EQ(window.PreviewPane().Runs(),
+              (std::vector<ColouredRun>{{"Flicker", red},
+                                        {"scribe\n\nVersion ", kWhite},
+                                        {"0.5.0\nMade by ", kBlack},
+                                        {"[QZT]", kWhite},
+                                        {"Quillon\n", green}}));
+    const auto* label = window.findChild<QLabel*>(u"Label1"_s);
+    const QStringList lines = label->text().split(u'\n');
+    EXPECT_EQ(lines, (QStringList{u"Flickerscribe website @ http://www.qzt-clan.example/flickerscribe"_s,
+                                  u"[QZT] Website @ http://www.qzt-clan.example/clanqzt"_s}));
+    for (const QString& line : lines) EXPECT_LE(label->fontMetrics().horizontalAdvance(line), label->contentsRect().width());
+    EXPECT_GE(label->contentsRect().height(), 2 * label->fontMetrics().lineSpacing());
+    EXPECT_EQ(label->font(), window.font());
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+        window.show();
+        QTest::keyClick(&window, key);
+        EXPECT_FALSE(window.isVisible());
+        EXPECT_EQ(window.result(), key == Qt::Key_Return ? QDialog::Accepted : QDialog::Rejected);
+    }
+}
+
+// Each box shows its whole value; its button copies the value, whatever the
+// box shows.
+TEST_F(Dialog, HelpShowsAndCopiesEachAddressWhole) {
+    Open(u"frmHelp"_s);
+    EXPECT_EQ(dialog->windowTitle(), u"Help!!"_s);
+    const QStringList values{u"http://www.qzt-clan.example/flickerscribe"_s,
+                             u"http://www.qzt-clan.example/flickerscribe/forums/index.php"_s,
+                             u"quillon@qzt-clan.example"_s, u"123456789"_s};
+    for (int i = 0; i < values.size(); ++i) {
+        auto* box = Child<QLineEdit>(u"Text%1"_s.arg(i + 1));
+        EXPECT_EQ(box->text(), values[i]);
+        EXPECT_TRUE(box->isReadOnly());
+        EXPECT_LE(box->fontMetrics().horizontalAdvance(values[i]) + 4, box->contentsRect().width()) << i;
+        box->setText(u"changed"_s);
+        QTest::mouseClick(Child<QPushButton>(u"Command%1"_s.arg(i + 2)), Qt::LeftButton);
+        EXPECT_EQ(dialogs.clipboard, values[i]);
+    }
+    EXPECT_EQ(dialogs.Calls().size(), 4u) << "no message follows a copy";
+    QTest::mouseClick(Child<QPushButton>(u"Command1"_s), Qt::LeftButton);
+    EXPECT_FALSE(dialog->isVisible());
+}
+
+TEST(QtDialogs, FiltersBecomeQtNameFilters) {
+    EXPECT_EQ(QtNameFilters(u"Brennock Script (*.cfg)|*.cfg|All Files(*.*)|*.*"_s),
+              (QStringList{u"Brennock Script (*.cfg)"_s, u"All Files(*.*)"_s}));
+    EXPECT_EQ(QtNameFilters(u"Both|*.a;*.b|Odd"_s), QStringList{u"Both (*.a *.b)"_s});
+    EXPECT_EQ(QtNameFilters(QString()), QStringList());
 }
 
 }  // namespace
-}  // namespace flickerscribe::ui
+}  // namespace flickerscribe::ui::testing_support

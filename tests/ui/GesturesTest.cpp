@@ -9,73 +9,17 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QTest>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
-#include <QTreeWidget>
 #include <functional>
 
-#include "LineTestSupport.h"
-#include "ui/ColourNameEditor.h"
-#include "ui/EditTimeDialog.h"
-#include "ui/HelpDialog.h"
-#include "ui/LineListView.h"
-#include "ui/OptionsDialog.h"
-#include "ui/SimpleEditWindow.h"
-#include "ui/WizardDialog.h"
-
-using namespace Qt::Literals::StringLiterals;
+#include "MainWindowFixture.h"
 
 namespace flickerscribe::ui::testing_support {
 namespace {
 
-// A dialog of the program, made for one table row, with what the test looks
-// at; public, so that the rows' functions can reach it.
-class Gestures : public LinesTest {
-public:
-    using LinesTest::Lines;
-    using LinesTest::Start;
-    using MainWindowTest::dialogs;
-    using MainWindowTest::MakeWindow;
-    using MainWindowTest::Script;
-    using MainWindowTest::store;
-    using MainWindowTest::window;
-
-    void TearDown() override {
-        if (dialog) dialog->close();
-    }
-
-    QDialog& Open(const QString& name) {
-        if (name == u"frmWizard"_s) {
-            dialog = std::make_unique<WizardDialog>(window->History(), dialogs, window->Settings());
-        } else if (name == u"frmEdit"_s) {
-            dialog = std::make_unique<EditTimeDialog>();
-        } else if (name == u"frmOptions"_s) {
-            dialog = std::make_unique<OptionsDialog>(store, dialogs, [] {});
-        } else if (name == u"frmHelp"_s) {
-            dialog = std::make_unique<HelpDialog>(dialogs);
-        } else if (name == u"frmColorEditor"_s) {
-            dialog = std::make_unique<ColourNameEditor>(dialogs);
-        } else {
-            dialog = std::make_unique<SimpleEditWindow>(window->History(), dialogs);
-        }
-        dialog->show();
-        return *dialog;
-    }
-    template <class T = QWidget>
-    T* Child(const QString& name) {
-        T* found = dialog->findChild<T*>(name);
-        EXPECT_NE(found, nullptr) << name.toStdString();
-        return found;
-    }
-    WizardDialog& Wizard() { return static_cast<WizardDialog&>(*dialog); }
-    void ToWizardPage(int page) {
-        while (Wizard().CurrentPage() < page) Wizard().NextPage();
-    }
-
-    std::unique_ptr<QDialog> dialog;
-};
+using Gestures = DialogTest;
 
 // --- Enter presses the focused button; elsewhere it is the default button's
 
@@ -102,30 +46,23 @@ TEST_P(EnterKey, PressesTheFocusedButtonElseTheDefault) {
     EXPECT_EQ(c.after(*this).toStdString(), c.expected);
 }
 
-// What the wizard shows: its page, its rows and its questions.
-QString WizardState(Gestures& t) {
+QString Shown(Gestures& t) {  // "open" or "closed", and what the user was asked
     QString asked;
     for (const DialogCall& call : t.dialogs.Calls()) asked += u" asked:"_s + call.text;
-    return u"page %1 rows %2 lines %3"_s.arg(t.Wizard().CurrentPage())
+    return (t.dialog->isVisible() ? u"open"_s : u"closed"_s) + asked;
+}
+QString WizardState(Gestures& t) {
+    return u"page %1 rows %2 lines %3 "_s.arg(t.Wizard().CurrentPage())
                .arg(t.Wizard().EffectRows().size())
                .arg(t.Script().Count()) +
-           asked;
-}
-QString LinesAndState(Gestures& t) {
-    QString out;
-    for (int i = 1; i <= t.Script().Count(); ++i)
-        out += QString::fromStdString(t.Script().LineAt(i).Text + "/" + t.Script().LineAt(i).Time + " ");
-    return out + (t.dialog->isVisible() ? u"open"_s : u"closed"_s);
+           Shown(t);
 }
 QString StoredTime(Gestures& t) {
     const auto& edit = static_cast<EditTimeDialog&>(*t.dialog);
     return edit.result() == QDialog::Accepted ? u"stores "_s + edit.Time() : u"stores nothing"_s;
 }
 QString Written(Gestures& t) {
-    return t.store.Writes().join(u',') + (t.dialog->isVisible() ? u" open"_s : u" closed"_s);
-}
-QString Clipboard(Gestures& t) {
-    return t.dialogs.clipboard + (t.dialog->isVisible() ? u" open"_s : u" closed"_s);
+    return t.store.Writes().join(u',') + u' ' + Shown(t);
 }
 bool editorShown = false;
 const auto kPage4WithWave = [](Gestures& t) {
@@ -136,60 +73,51 @@ const auto kPage4WithWave = [](Gestures& t) {
 INSTANTIATE_TEST_SUITE_P(
     Windows, EnterKey,
     testing::Values(
-        EnterCase{"WizardAdd", "frmWizard", "cmdAddEffect", kPage4WithWave, WizardState,
-                  "page 4 rows 1 lines 2"},
+        EnterCase{"WizardAdd", "frmWizard", "cmdAddEffect", kPage4WithWave, WizardState, "page 4 rows 1 lines 2 open"},
         EnterCase{"WizardPreview", "frmWizard", "cmdPreview", kPage4WithWave, WizardState,
-                  "page 4 rows 0 lines 2 asked:Preview not available yet!"},
-        EnterCase{"WizardBack", "frmWizard", "cmdBack", kPage4WithWave, WizardState, "page 3 rows 0 lines 2"},
+                  "page 4 rows 0 lines 2 open asked:Preview not available yet!"},
+        EnterCase{"WizardBack", "frmWizard", "cmdBack", kPage4WithWave, WizardState, "page 3 rows 0 lines 2 open"},
         EnterCase{"WizardCancel", "frmWizard", "cmdCancel",
                   [](Gestures& t) {
                       kPage4WithWave(t);
                       t.dialogs.QueueMessageAnswer(MsgAnswer::No);
                   },
-                  WizardState, "page 4 rows 0 lines 2 asked:Are you sure you want to exit the wizard?"},
-        EnterCase{"WizardColorEditor", "frmWizard", "cmdColor",
+                  WizardState, "page 4 rows 0 lines 2 open asked:Are you sure you want to exit the wizard?"},
+        EnterCase{"WizardColourEditor", "frmWizard", "cmdColor",
                   [](Gestures& t) {
                       t.ToWizardPage(3);
                       editorShown = false;
                       QTimer::singleShot(0, [] {
-                          if (auto* editor =
-                                  qobject_cast<ColourNameEditor*>(QApplication::activeModalWidget())) {
-                              editorShown = true;
-                              editor->close();
-                          }
+                          auto* editor = qobject_cast<ColourNameEditor*>(QApplication::activeModalWidget());
+                          editorShown = editor != nullptr;
+                          if (editor) editor->close();
                       });
                   },
-                  [](Gestures& t) {
-                      return u"page %1, "_s.arg(t.Wizard().CurrentPage()) +
-                             (editorShown ? u"editor shown"_s : u"no editor"_s);
-                  },
-                  "page 3, editor shown"},
+                  [](Gestures&) { return editorShown ? u"editor shown"_s : u"no editor"_s; }, "editor shown"},
         // In the wizard's boxes and list Enter is Next, and on the last page Finish.
         EnterCase{"WizardNameBox", "frmWizard", "txtNameOnly_0", [](Gestures& t) { t.ToWizardPage(3); },
-                  WizardState, "page 4 rows 0 lines 2"},
-        EnterCase{"WizardEffectList", "frmWizard", "lvwEffects", kPage4WithWave,
-                  [](Gestures& t) { return LinesAndState(t); }, "closed"},
+                  WizardState, "page 4 rows 0 lines 2 open"},
+        EnterCase{"WizardEffectList", "frmWizard", "lvwEffects", kPage4WithWave, Shown, "closed"},
         EnterCase{"EditCancel", "frmEdit", "cmdCancel", nullptr, StoredTime, "stores nothing"},
         EnterCase{"EditTimeBox", "frmEdit", "txtTime", nullptr, StoredTime, "stores 15"},
         EnterCase{"OptionsOk", "frmOptions", "cmdOK", nullptr, Written,
                   "EditItem,Name,Clantag,Reverse,OpenDir,SaveDir,GenerateDir closed"},
         EnterCase{"OptionsCancel", "frmOptions", "Command2", nullptr, Written, " closed"},
         EnterCase{"OptionsNameBoxHasNoDefault", "frmOptions", "txtName", nullptr, Written, " open"},
-        EnterCase{"HelpCopy", "frmHelp", "Command4", nullptr, Clipboard, "quillon@qzt-clan.example open"},
+        EnterCase{"HelpCopy", "frmHelp", "Command4", nullptr, [](Gestures& t) { return t.dialogs.clipboard; },
+                  "quillon@qzt-clan.example"},
         EnterCase{"ColourEditorCopy", "frmColorEditor", "cmdClipboard",
-                  [](Gestures& t) { QTest::keyClicks(t.Child(u"txtPreview"_s), u"Hi"_s); }, Clipboard,
-                  "Hi open"},
-        EnterCase{"SimpleEditSave", "frmSimpleEdit", "cmdSave", nullptr, LinesAndState, "open"}),
+                  [](Gestures& t) { QTest::keyClicks(t.Child(u"txtPreview"_s), u"Hi"_s); },
+                  [](Gestures& t) { return t.dialogs.clipboard; }, "Hi"},
+        EnterCase{"SimpleEditSave", "frmSimpleEdit", "cmdSave", nullptr, Shown, "open"}),
     testing::PrintToStringParamName());
 
 // --- a line break pasted into a one-line box becomes a blank
 
 struct BoxCase {
     const char* name;
-    // Opens the box for typing and gives it.
-    std::function<QLineEdit*(Gestures&)> open;
-    // What the box gave the program once the user was done.
-    std::function<QString(Gestures&, QLineEdit*)> result;
+    std::function<QLineEdit*(Gestures&)> open;                 // the box, ready for typing
+    std::function<QString(Gestures&, QLineEdit*)> result;  // what the program was given
     friend void PrintTo(const BoxCase& c, std::ostream* os) { *os << c.name; }
 };
 
@@ -210,92 +138,75 @@ TEST_P(PastedBreak, BecomesABlank) {
 QString BoxText(Gestures&, QLineEdit* edit) {
     return edit->text();
 }
-std::function<QLineEdit*(Gestures&)> WizardBox(const char* name, int page) {
-    return [name, page](Gestures& g) {
-        Gestures& t = g;
-        t.Open(u"frmWizard"_s);
-        t.ToWizardPage(page);
+std::function<QLineEdit*(Gestures&)> Box(const char* window, const char* name, int page = 0) {
+    return [window, name, page](Gestures& t) {
+        t.Open(QString::fromLatin1(window));
+        if (page > 0) t.ToWizardPage(page);
         if (page == 4) {
             t.Child<QComboBox>(u"cmbEffects"_s)->setCurrentIndex(1);
-            QTest::mouseClick(t.Child<QPushButton>(u"cmdAddEffect"_s), Qt::LeftButton);
+            t.Wizard().AddEffect();
         }
-        return t.Child<QLineEdit>(QString::fromLatin1(name));
-    };
-}
-std::function<QLineEdit*(Gestures&)> DialogBox(const char* window, const char* name) {
-    return [window, name](Gestures& t) {
-        t.Start({"A/10"}, 1);
-        t.Open(QString::fromLatin1(window));
         return t.Child<QLineEdit>(QString::fromLatin1(name));
     };
 }
 
 const BoxCase kBoxes[] = {
     {"ListInPlace",
-     [](Gestures& g) -> QLineEdit* {
-         Gestures& t = g;
-         t.store.WriteValue(u"EditItem"_s, u"1"_s);
-         t.MakeWindow();
-         t.Start({"old/15"}, 1);
-         t.window->show();
-         if (!QTest::qWaitForWindowExposed(t.window.get())) return nullptr;
+     [](Gestures& t) -> QLineEdit* {
+         t.Start({"old/15"});
          LineListView* list = t.window->LineList();
-         QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
-                           list->visualRect(list->model()->index(0, 0)).center());
-         QLineEdit* editor = nullptr;
-         const bool opened =
-             QTest::qWaitFor([&] { return (editor = list->viewport()->findChild<QLineEdit*>()) != nullptr; });
-         return opened ? editor : nullptr;
+         list->edit(list->model()->index(0, 0));
+         return list->viewport()->findChild<QLineEdit*>();
      },
-     [](Gestures& g, QLineEdit* edit) {
+     [](Gestures& t, QLineEdit* edit) {
          QPointer<QLineEdit> editor = edit;
          QTest::keyClick(edit, Qt::Key_Return);
          // The view commits once the key has been handled.
          [[maybe_unused]] const bool closed = QTest::qWaitFor([&] { return editor.isNull(); });
-         return QString::fromStdString(g.Script().LineAt(1).Text);
+         return QString::fromStdString(t.Script().LineAt(1).Text);
      }},
-    {"WizardName", WizardBox("txtNameOnly_0", 3), BoxText},
-    {"WizardTag", WizardBox("txtClanTag", 3), BoxText},
-    {"WizardTaggedName", WizardBox("txtNameOnly_1", 3), BoxText},
-    {"WizardRepeat", WizardBox("txtParam1", 4),
-     [](Gestures& g, QLineEdit*) {
-         return QString::fromStdString(g.Wizard().EffectRows().front().Parameter1);
-     }},
-    {"EditTime", DialogBox("frmEdit", "txtTime"),
-     [](Gestures& g, QLineEdit* edit) {
+    {"WizardName", Box("frmWizard", "txtNameOnly_0", 3), BoxText},
+    {"WizardTag", Box("frmWizard", "txtClanTag", 3), BoxText},
+    {"WizardTaggedName", Box("frmWizard", "txtNameOnly_1", 3), BoxText},
+    {"WizardRepeat", Box("frmWizard", "txtParam1", 4),
+     [](Gestures& t, QLineEdit*) { return QString::fromStdString(t.Wizard().EffectRows().front().Parameter1); }},
+    {"EditTime", Box("frmEdit", "txtTime"),
+     [](Gestures& t, QLineEdit* edit) {
          QTest::keyClick(edit, Qt::Key_Return);
-         return static_cast<EditTimeDialog&>(*g.dialog).Time();
+         return static_cast<EditTimeDialog&>(*t.dialog).Time();
      }},
-    {"OptionsName", DialogBox("frmOptions", "txtName"), BoxText},
-    {"OptionsClan", DialogBox("frmOptions", "txtClan"), BoxText},
+    {"OptionsName", Box("frmOptions", "txtName"), BoxText},
+    {"OptionsClan", Box("frmOptions", "txtClan"), BoxText},
 };
 
-INSTANTIATE_TEST_SUITE_P(Boxes, PastedBreak,
-                         testing::Combine(testing::ValuesIn(kBoxes), testing::Values("\r\n", "\r", "\n")),
+INSTANTIATE_TEST_SUITE_P(Boxes, PastedBreak, testing::Combine(testing::ValuesIn(kBoxes), testing::Values("\r\n", "\r", "\n")),
                          [](const auto& info) {
                              const std::string lineBreak = std::get<1>(info.param);
-                             return std::string(std::get<0>(info.param).name) + (lineBreak == "\r\n" ? "_CrLf"
-                                                                                 : lineBreak == "\r" ? "_Cr"
-                                                                                                     : "_Lf");
+                             return std::string(std::get<0>(info.param).name) +
+                                    (lineBreak == "\r\n" ? "_CrLf" : lineBreak == "\r" ? "_Cr" : "_Lf");
                          });
 
-// --- the pane shows the line that was selected last, whatever selected it
+// --- the pane shows the line selected last, whatever selected it
+
+QPoint Row(LineListView* list, int row) {
+    return list->visualRect(list->model()->index(row, 0)).center();
+}
 
 struct SelectCase {
     const char* name;
-    std::function<void(MainWindow&, LineListView*)> gesture;
+    std::function<void(MainWindowTest&, LineListView*)> gesture;
     int selected;  // the line typed into
     friend void PrintTo(const SelectCase& c, std::ostream* os) { *os << c.name; }
 };
 
-class SelectThenType : public LinesTest, public testing::WithParamInterface<SelectCase> {};
+class SelectThenType : public MainWindowTest, public testing::WithParamInterface<SelectCase> {};
 
 TEST_P(SelectThenType, EditsOnlyTheNewlySelectedLine) {
     const TextTimes lines = {"one/15", "two/15", "three/15", "four/15"};
     Start(lines, 2);
     window->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
-    GetParam().gesture(*window, window->LineList());
+    GetParam().gesture(*this, window->LineList());
     ASSERT_EQ(Script().SelectedIndex(), GetParam().selected);
     QTest::keyClicks(window->PaneEdit(), u"!"_s);
 
@@ -306,45 +217,48 @@ TEST_P(SelectThenType, EditsOnlyTheNewlySelectedLine) {
     EXPECT_EQ(Lines(), expected);
 }
 
-QPoint Row(LineListView* list, int row) {
-    return list->visualRect(list->model()->index(row, 0)).center();
-}
-std::function<void(MainWindow&, LineListView*)> Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-    return [key, modifiers](MainWindow&, LineListView* list) { QTest::keyClick(list, key, modifiers); };
+std::function<void(MainWindowTest&, LineListView*)> ListKey(Qt::Key key) {
+    return [key](MainWindowTest& t, LineListView*) { t.Key(key); };
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Gestures, SelectThenType,
-    testing::Values(SelectCase{"LeftClick",
-                               [](MainWindow&, LineListView* l) {
-                                   QTest::mouseClick(l->viewport(), Qt::LeftButton, {}, Row(l, 3));
-                               },
-                               4},
-                    SelectCase{"RightClick",
-                               [](MainWindow&, LineListView* l) {
-                                   QTest::mouseClick(l->viewport(), Qt::RightButton, {}, Row(l, 2));
-                               },
-                               3},
-                    SelectCase{"Drag",
-                               [](MainWindow&, LineListView* l) {
-                                   QTest::mousePress(l->viewport(), Qt::LeftButton, {}, Row(l, 1));
-                                   QTest::mouseMove(l->viewport(), Row(l, 2));
-                                   QTest::mouseMove(l->viewport(), Row(l, 3));
-                                   QTest::mouseRelease(l->viewport(), Qt::LeftButton, {}, Row(l, 3));
-                               },
-                               4},
-                    SelectCase{"Down", Key(Qt::Key_Down), 3},
-                    SelectCase{"PageDown", Key(Qt::Key_PageDown), 4},
-                    SelectCase{"PageUp", Key(Qt::Key_PageUp), 1}, SelectCase{"Home", Key(Qt::Key_Home), 1},
-                    SelectCase{"End", Key(Qt::Key_End), 4},
-                    // The toolbar's Remove selects the line behind the removed one.
-                    SelectCase{"Remove",
-                               [](MainWindow& w, LineListView*) { w.RunToolbarCommand(u"btnremove"_s); }, 2}),
+    testing::Values(
+        SelectCase{"LeftClick",
+                   [](MainWindowTest&, LineListView* l) {
+                       QTest::mouseClick(l->viewport(), Qt::LeftButton, {}, Row(l, 3));
+                   },
+                   4},
+        SelectCase{"RightClick",
+                   [](MainWindowTest&, LineListView* l) {
+                       QTest::mouseClick(l->viewport(), Qt::RightButton, {}, Row(l, 2));
+                   },
+                   3},
+        SelectCase{"Drag",
+                   [](MainWindowTest&, LineListView* l) {
+                       QTest::mousePress(l->viewport(), Qt::LeftButton, {}, Row(l, 1));
+                       QTest::mouseMove(l->viewport(), Row(l, 2));
+                       QTest::mouseMove(l->viewport(), Row(l, 3));
+                       QTest::mouseRelease(l->viewport(), Qt::LeftButton, {}, Row(l, 3));
+                   },
+                   4},
+        SelectCase{"ClickBelowTheLastKeepsTheLine",
+                   [](MainWindowTest&, LineListView* l) {
+                       QTest::mouseClick(l->viewport(), Qt::LeftButton, {}, QPoint(5, l->viewport()->height() - 3));
+                   },
+                   2},
+        SelectCase{"Down", ListKey(Qt::Key_Down), 3}, SelectCase{"PageDown", ListKey(Qt::Key_PageDown), 4},
+        SelectCase{"PageUp", ListKey(Qt::Key_PageUp), 1}, SelectCase{"Home", ListKey(Qt::Key_Home), 1},
+        SelectCase{"End", ListKey(Qt::Key_End), 4},
+        // The toolbar's Remove selects the line behind the removed one.
+        SelectCase{"Remove", [](MainWindowTest& t, LineListView*) { t.Trigger(u"btnremove"_s); }, 2}),
     testing::PrintToStringParamName());
 
-// --- the main window by keyboard and at its edges
+// --- the main window at its edges and by keyboard
 
-TEST_F(LinesTest, InPlaceEditKeepsALongTextWholeAndWritesNothingUnchanged) {
+using Edges = MainWindowTest;
+
+TEST_F(Edges, InPlaceEditKeepsALongTextWholeAndWritesNothingUnchanged) {
     store.WriteValue(u"EditItem"_s, u"1"_s);
     MakeWindow();
     const std::string text(40000, 'x');
@@ -356,7 +270,7 @@ TEST_F(LinesTest, InPlaceEditKeepsALongTextWholeAndWritesNothingUnchanged) {
     QObject::connect(list->model(), &QAbstractItemModel::dataChanged, [&] { ++writes; });
     const auto editor = [list] { return list->viewport()->findChild<QLineEdit*>(); };
     // Line 1 is edited without a change, line 2 with one; a click on a line
-    // that is not yet selected only selects it.
+    // not yet selected only selects it.
     for (const auto& [row, typed] : {std::pair{0, QString()}, std::pair{1, u"!"_s}, std::pair{1, u"!"_s}}) {
         const bool selected = Script().SelectedIndex() == row + 1;
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, Row(list, row));
@@ -371,29 +285,25 @@ TEST_F(LinesTest, InPlaceEditKeepsALongTextWholeAndWritesNothingUnchanged) {
     EXPECT_EQ(writes, 1) << "the commit that changed nothing wrote nothing";
 }
 
-TEST_F(LinesTest, TabReachesTheColourStripAndSpaceColoursThePanesSelection) {
-    Start({"abcd/15"}, 1);
+TEST_F(Edges, TabReachesTheColourStripAndSpaceColoursThePanesSelection) {
+    Start({"abcd/15"});
     window->ToggleColours();
-    window->show();
-    window->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    Show();
     QTextEdit* pane = window->PaneEdit();
     pane->setFocus();
-    QTest::keyClick(pane, Qt::Key_Home);
-    QTest::keyClick(pane, Qt::Key_Right);
-    QTest::keyClick(pane, Qt::Key_Right, Qt::ShiftModifier);
-    QTest::keyClick(pane, Qt::Key_Right, Qt::ShiftModifier);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    EXPECT_EQ(QApplication::focusWidget(), window->LineList());
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    for (const auto& [key, modifiers] :
+         {std::pair{Qt::Key_Home, Qt::KeyboardModifiers()}, std::pair{Qt::Key_Right, Qt::KeyboardModifiers()},
+          std::pair{Qt::Key_Right, Qt::KeyboardModifiers(Qt::ShiftModifier)},
+          std::pair{Qt::Key_Right, Qt::KeyboardModifiers(Qt::ShiftModifier)}})
+        QTest::keyClick(pane, key, modifiers);
+    for (int tab = 0; tab < 3; ++tab) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     ASSERT_EQ(QApplication::focusWidget()->objectName(), u"cmdColor_1"_s);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
     EXPECT_EQ(Script().LineAt(1).Text, "a^2bc^7d");
 }
 
-TEST_F(LinesTest, NoControlMovesAndNoColumnHidesWhileTheWindowIsUsed) {
-    FillTo(200);
+TEST_F(Edges, NoControlMovesAndNoColumnHidesWhileTheWindowIsUsed) {
+    Start(TextTimes(200, "x/15"));
     window->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
     LineListView* list = window->LineList();
@@ -404,27 +314,27 @@ TEST_F(LinesTest, NoControlMovesAndNoColumnHidesWhileTheWindowIsUsed) {
     const QRect generate = toolbar->widgetForAction(Named(u"btngenerate"_s))->geometry();
     window->TogglePlayback();
     QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-    EXPECT_EQ(Named(u"btnpreview"_s)->text(), u"Stop"_s);
     EXPECT_EQ(toolbar->widgetForAction(Named(u"btngenerate"_s))->geometry(), generate);
     window->TogglePlayback();
 }
 
-TEST_F(LinesTest, TheAddButtonsMenuIsOnTheAccessibilityTree) {
-    auto* add =
-        qobject_cast<QToolButton*>(Named<QToolBar>(u"tlbMain"_s)->widgetForAction(Named(u"btnadd"_s)));
+TEST_F(Edges, TheAddButtonsMenuIsOnTheAccessibilityTree) {
+    auto* add = qobject_cast<QToolButton*>(Named<QToolBar>(u"tlbMain"_s)->widgetForAction(Named(u"btnadd"_s)));
     QAccessibleInterface* button = QAccessible::queryAccessibleInterface(add);
     ASSERT_EQ(button->childCount(), 1);
     QAccessibleInterface* menu = button->child(0);
     QStringList entries;
     for (int i = 0; i < menu->childCount(); ++i) entries << menu->child(i)->text(QAccessible::Name);
-    EXPECT_EQ(entries, (QStringList{u"Before selection"_s, u"After selection"_s, QString(),
-                                    u"Copy selected line"_s, u"Copy selected line x times"_s, QString(),
-                                    u"Copy all lines"_s, u"Copy all lines (reverse)"_s}));
+    EXPECT_EQ(entries.join(u'|').toStdString(),
+              "Before selection|After selection||Copy selected line|Copy selected line x times||Copy all "
+              "lines|Copy all lines (reverse)");
+    add->click();
+    EXPECT_EQ(Script().Count(), 1) << "the button still adds a line";
 }
 
-// --- Simple edit takes a paste as plain text in the colour in force
-
-TEST_F(Gestures, SimpleEditPastesPlainTextInTheColourChosen) {
+// Simple edit and the preview pane take a paste or a drop as plain text in the
+// colour in force.
+TEST_F(Gestures, PasteAndDropArriveAsPlainText) {
     Open(u"frmSimpleEdit"_s);
     auto* pane = Child<QTextEdit>(u"txtPreview"_s);
     pane->setFocus();
@@ -436,6 +346,17 @@ TEST_F(Gestures, SimpleEditPastesPlainTextInTheColourChosen) {
     QTest::keyClick(pane, Qt::Key_V, Qt::ControlModifier);
     QTest::mouseClick(Child<QPushButton>(u"cmdSave"_s), Qt::LeftButton);
     EXPECT_EQ(Lines(), TextTimes({"^2one/15", "two/15"}));
+
+    QMimeData dropped;
+    dropped.setText(u"a\r\nb\nc"_s);
+    dropped.setHtml(u"<p style=\"color:#ff0000\">a</p>"_s);
+    QWidget* viewport = window->PaneEdit()->viewport();
+    const QPoint at(viewport->width() - 2, viewport->height() / 2);
+    QDragEnterEvent enter(at, Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(viewport, &enter);
+    QDropEvent drop(at, Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(viewport, &drop);
+    EXPECT_EQ(Script().LineAt(1).Text, "^2onea b c");
 }
 
 }  // namespace

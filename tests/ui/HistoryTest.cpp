@@ -8,13 +8,10 @@
 #include <QTest>
 #include <QTimer>
 #include <functional>
+#include <tuple>
 
-#include "FileTestSupport.h"
-#include "LineTestSupport.h"
+#include "MainWindowFixture.h"
 #include "ui/AnimationHistory.h"
-#include "ui/LineListView.h"
-#include "ui/SimpleEditWindow.h"
-#include "ui/WizardDialog.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -22,56 +19,33 @@ namespace flickerscribe::ui::testing_support {
 namespace {
 
 // What the user sees of the animation: its lines, the selected one and the pane.
-struct Seen {
-    TextTimes lines;
-    int selected;
-    std::string pane;
-    bool operator==(const Seen&) const = default;
-    friend void PrintTo(const Seen& s, std::ostream* os) {
-        *os << testing::PrintToString(s.lines) << " selected " << s.selected << " pane " << s.pane;
-    }
-};
+using Seen = std::tuple<TextTimes, int, std::string>;
 
-class History : public LinesTest {
+class History : public MainWindowTest {
 public:
     void SetUp() override {
-        ASSERT_TRUE(folder.isValid());
-        keptAnimation = folder.filePath(u"kept/last-animation.fsq"_s);
-        LinesTest::SetUp();
-    }
-
-    void Show() {
-        window->show();
-        window->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        keptAnimation = PathOf(u"kept/last-animation.fsq"_s);
+        MainWindowTest::SetUp();
     }
     Seen Now() { return {Lines(), Script().SelectedIndex(), PaneText()}; }
-    // A key pressed in the list, with the window active again after a dialog.
-    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
+    // Ctrl and a key in the list, with the window active again after a dialog.
+    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
         window->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-        QTest::keyClick(window->LineList(), key, modifiers);
+        Key(key, modifiers);
     }
-    // Picks the entry of a menu, which first readies its entries as it opens.
+    // Picks the entry of a menu, which readies its entries as it opens.
     void Choose(const char* menu, const char* entry) {
         emit Named<QMenu>(QString::fromLatin1(menu))->aboutToShow();
-        QAction* action = Named(QString::fromLatin1(entry));
-        ASSERT_TRUE(action->isEnabled()) << entry;
-        action->trigger();
+        ASSERT_TRUE(Named(QString::fromLatin1(entry))->isEnabled()) << entry;
+        Trigger(QString::fromLatin1(entry));
     }
-    // Runs `act` while a modal window stands, once it is there.
+    // Runs `act` on the modal window that the next command opens.
     void WhenModal(std::function<void(QWidget*)> act) {
         QTimer::singleShot(0, window.get(), [act] {
             if (QWidget* modal = QApplication::activeModalWidget()) act(modal);
         });
     }
-
-    using MainWindowTest::dialogs;
-    using MainWindowTest::keptAnimation;
-    using MainWindowTest::Named;
-    using MainWindowTest::Script;
-    using MainWindowTest::window;
-    QTemporaryDir folder;
 };
 
 struct StepCase {
@@ -83,9 +57,10 @@ struct StepCase {
 
 class EveryChange : public History, public testing::WithParamInterface<StepCase> {};
 
-// Each command is one step: Ctrl+Z and the menu's Undo bring back the lines,
+// Each change is one step: Ctrl+Z and the menu's Undo bring back the lines,
 // the selected line and the pane as they were; Ctrl+Y, Ctrl+Shift+Z and Redo
-// bring back the change.
+// bring back the change. (The commands over lines have theirs in the main
+// window's table.)
 TEST_P(EveryChange, IsOneStepThatUndoAndRedoTakeBackAndDoAgain) {
     Start(kABC, 2);
     Show();
@@ -98,22 +73,22 @@ TEST_P(EveryChange, IsOneStepThatUndoAndRedoTakeBackAndDoAgain) {
     ASSERT_NE(after, before);
     EXPECT_EQ(undo->text(), u"Undo "_s + QString::fromLatin1(GetParam().step));
 
-    Key(Qt::Key_Z);
+    Press(Qt::Key_Z);
     EXPECT_EQ(Now(), before);
     EXPECT_FALSE(undo->isEnabled()) << "one step, not more";
     EXPECT_TRUE(redo->isEnabled());
-    Key(Qt::Key_Y);
+    Press(Qt::Key_Y);
     EXPECT_EQ(Now(), after);
     undo->trigger();
     EXPECT_EQ(Now(), before);
-    Key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(Now(), after);
     redo->trigger();
     EXPECT_EQ(Now(), after) << "nothing more to redo";
 }
 
 void Trigger(History& t, const char* name) {
-    t.Named(QString::fromLatin1(name))->trigger();
+    t.Trigger(QString::fromLatin1(name));
 }
 std::function<void(History&)> Action(const char* name) {
     return [name](History& t) { Trigger(t, name); };
@@ -122,25 +97,6 @@ std::function<void(History&)> Action(const char* name) {
 INSTANTIATE_TEST_SUITE_P(
     Commands, EveryChange,
     testing::Values(
-        StepCase{"AddAfter", Action("btnadd"), "Add line"}, StepCase{"AddBefore", Action("btnaddbefore"), "Add line"},
-        StepCase{"CopySelected", Action("btncopylast"), "Copy lines"},
-        StepCase{"CopyTimes",
-                 [](History& t) {
-                     t.dialogs.QueueInput(u"3"_s);
-                     Trigger(t, "btncopylastx");
-                 },
-                 "Copy lines"},
-        StepCase{"CopyAll", Action("btncopyall"), "Copy lines"},
-        StepCase{"CopyAllReversed", Action("btncopyallreverse"), "Copy lines"},
-        StepCase{"Remove", Action("btnremove"), "Remove line"},
-        StepCase{"DeleteKey", [](History& t) { t.Key(Qt::Key_Delete, {}); }, "Remove line"},
-        StepCase{"Cut", [](History& t) { t.Key(Qt::Key_X); }, "Cut"},
-        StepCase{"Paste",
-                 [](History& t) {
-                     t.dialogs.clipboard = u"^1new"_s;
-                     t.Key(Qt::Key_V);
-                 },
-                 "Paste"},
         StepCase{"EditTime",
                  [](History& t) {
                      t.WhenModal([](QWidget* edit) {
@@ -172,7 +128,7 @@ INSTANTIATE_TEST_SUITE_P(
         StepCase{"New", Action("btnnew"), "New"},
         StepCase{"Open",
                  [](History& t) {
-                     const QString path = t.folder.filePath(u"a.fsq"_s);
+                     const QString path = t.PathOf(u"a.fsq"_s);
                      WriteBytes(path, "#v050#\r\n^1One\r\n9\r\n[none]\r\n");
                      t.dialogs.QueueOpen(path);
                      Trigger(t, "mnuFileOpen");
@@ -180,7 +136,7 @@ INSTANTIATE_TEST_SUITE_P(
                  "Open"},
         StepCase{"Import",
                  [](History& t) {
-                     const QString path = t.folder.filePath(u"a.cfg"_s);
+                     const QString path = t.PathOf(u"a.cfg"_s);
                      WriteBytes(path, "set name \"x\"\nwait 7\n");
                      t.dialogs.QueueOpen(path);
                      Trigger(t, "mnuFileImport");
@@ -221,10 +177,10 @@ TEST_F(History, TypingMergesUntilTheSelectionMovesOrACommandRuns) {
     Start(kABC, 1);
     Show();
     QTest::keyClicks(window->PaneEdit(), u"12"_s);
-    Key(Qt::Key_Down, {});
+    Press(Qt::Key_Down, {});
     QTest::keyClicks(window->PaneEdit(), u"3"_s);
     QTest::keyClicks(window->PaneEdit(), u"4"_s);
-    Trigger(*this, "btncopylast");
+    Trigger(u"btncopylast"_s);
     QTest::keyClicks(window->PaneEdit(), u"5"_s);
     const TextTimes typed = {"A12/10", "B345/20", "C/30", "B34/20"};
     EXPECT_EQ(Lines(), typed);
@@ -233,37 +189,31 @@ TEST_F(History, TypingMergesUntilTheSelectionMovesOrACommandRuns) {
                                 {"A12/10", "B/20", "C/30"},
                                 kABC};
     for (const TextTimes& expected : undone) {
-        Key(Qt::Key_Z);
+        Press(Qt::Key_Z);
         EXPECT_EQ(Lines(), expected);
     }
     EXPECT_FALSE(Named(u"mnuEditUndo"_s)->isEnabled());
 }
 
 // Cancel, a command on an empty list, a failed Open and a selection alone
-// change nothing, and make no step.
-TEST_F(History, NothingChangedIsNoStep) {
+// make no step; while playback runs, Undo and Redo wait.
+TEST_F(History, NothingChangedIsNoStepAndPlaybackWaits) {
     Show();
-    Trigger(*this, "btncopylast");  // "There are no lines to copy"
-    Trigger(*this, "btnnew");
-    dialogs.QueueOpen(folder.filePath(u"missing.fsq"_s));
-    Trigger(*this, "mnuFileOpen");
+    Trigger(u"btncopylast"_s);  // "There are no lines to copy"
+    Trigger(u"btnnew"_s);
+    dialogs.QueueOpen(PathOf(u"missing.fsq"_s));
+    Trigger(u"mnuFileOpen"_s);
     Start(kABC, 1);
-    Key(Qt::Key_Down, {});
+    Press(Qt::Key_Down, {});
     WhenModal([](QWidget* edit) { edit->close(); });
-    Trigger(*this, "btnedit");
-    EXPECT_FALSE(Named(u"mnuEditUndo"_s)->isEnabled());
+    Trigger(u"btnedit"_s);
     EXPECT_EQ(window->History().UndoableSteps(), 0);
-}
-
-TEST_F(History, PlaybackTurnsUndoAndRedoOff) {
-    Start(kABC, 1);
-    Show();
-    Trigger(*this, "btnadd");
-    Trigger(*this, "btnpreview");
+    Trigger(u"btnadd"_s);
+    Trigger(u"btnpreview"_s);
     EXPECT_FALSE(Named(u"mnuEditUndo"_s)->isEnabled());
-    Key(Qt::Key_Z);
+    Press(Qt::Key_Z);
     EXPECT_EQ(Script().Count(), 4);
-    Trigger(*this, "btnpreview");
+    Trigger(u"btnpreview"_s);
     EXPECT_TRUE(Named(u"mnuEditUndo"_s)->isEnabled());
 }
 
@@ -298,7 +248,7 @@ TEST(AnimationHistoryLimits, TheOldestStepsGoFirst) {
 
 TEST_F(History, TheAnimationIsKeptAtCloseAndAfterAChangeAndReopensAsOneStep) {
     Show();
-    Trigger(*this, "btnadd");
+    Trigger(u"btnadd"_s);
     window->close();
     EXPECT_EQ(ReadBytes(keptAnimation), "#v050#\r\nText\r\n15\r\n[none]\r\n");
 
@@ -307,20 +257,20 @@ TEST_F(History, TheAnimationIsKeptAtCloseAndAfterAChangeAndReopensAsOneStep) {
     EXPECT_EQ(Script().Count(), 0) << "the program starts empty";
     Named<QTimer>(u"timKeep"_s)->setInterval(10);
     Choose("mnuFile", "mnuFileReopen");
-    Trigger(*this, "btncopylast");
+    Trigger(u"btncopylast"_s);
     EXPECT_TRUE(QTest::qWaitFor([&] { return ReadBytes(keptAnimation).size() > 30; }));
     EXPECT_EQ(ReadBytes(keptAnimation), "#v050#\r\nText\r\n15\r\n[none]\r\nText\r\n15\r\n[none]\r\n");
-    Key(Qt::Key_Z);
-    Key(Qt::Key_Z);
+    Press(Qt::Key_Z);
+    Press(Qt::Key_Z);
     EXPECT_EQ(Script().Count(), 0) << "the reopen was one step";
     EXPECT_TRUE(dialogs.Messages().empty());
 }
 
 TEST_F(History, AKeptFileThatCantBeWrittenIsNoMessage) {
-    WriteBytes(folder.filePath(u"kept"_s), "a file where the folder should be");
+    WriteBytes(PathOf(u"kept"_s), "a file where the folder should be");
     MakeWindow();
     Show();
-    Trigger(*this, "btnadd");
+    Trigger(u"btnadd"_s);
     window->close();
     EXPECT_EQ(ReadBytes(keptAnimation), "<no file>");
     EXPECT_TRUE(dialogs.Calls().empty());

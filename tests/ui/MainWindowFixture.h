@@ -3,37 +3,75 @@
 #include <gmock/gmock.h>
 
 #include <QAction>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
 #include <QTextEdit>
-#include <initializer_list>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "MemorySettingsStore.h"
 #include "ScriptedDialogs.h"
-#include "colour/Pane.h"
+#include "colour/ColouredText.h"
+#include "ui/ColourNameEditor.h"
+#include "ui/EditTimeDialog.h"
+#include "ui/HelpDialog.h"
+#include "ui/LineListView.h"
 #include "ui/MainWindow.h"
+#include "ui/OptionsDialog.h"
+#include "ui/SimpleEditWindow.h"
+#include "ui/WizardDialog.h"
 
 namespace flickerscribe::ui::testing_support {
 
-constexpr Colour kRed = Rgb(255, 0, 0);
-constexpr Colour kGreen = Rgb(0, 255, 0);
+using namespace Qt::Literals::StringLiterals;
 
-// A fresh main window for each test, with scripted dialogs and a settings
-// store in memory (a first run unless the test fills `store` before
-// MakeWindow).
+// Lines written "text/time", all with the action "[none]".
+using TextTimes = std::vector<std::string>;
+inline const TextTimes kABC = {"A/10", "B/20", "C/30"};
+
+inline std::string ReadBytes(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "<no file>";
+}
+
+inline void WriteBytes(const QString& path, const std::string& bytes) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes.data(), qint64(bytes.size())) >= 0);
+}
+
+// A fresh main window for each test, with scripted dialogs, a settings store
+// in memory (a first run unless the test fills `store` and makes the window
+// anew) and a folder of the test's own. Public, so that table rows can use it.
 class MainWindowTest : public testing::Test {
-protected:
-    void SetUp() override { MakeWindow(); }
+public:
+    void SetUp() override {
+        ASSERT_TRUE(folder.isValid());
+        MakeWindow();
+    }
 
     void MakeWindow() {
         window.reset();
         window = std::make_unique<MainWindow>(dialogs, store, keptAnimation);
     }
-
     AnimationScript& Script() { return window->Script(); }
 
-    void AddLines(std::initializer_list<const char*> texts) {
-        for (const char* text : texts) ASSERT_TRUE(Script().AppendLine(text, "15", "[none]"));
+    // Puts the lines into the list, not as a command, and selects one.
+    void Start(const TextTimes& lines, int selected = 1) {
+        for (const std::string& line : lines) {
+            const auto slash = line.find('/');
+            ASSERT_TRUE(Script().AppendLine(line.substr(0, slash), line.substr(slash + 1), "[none]"));
+        }
+        Script().SelectLine(selected);
+    }
+    TextTimes Lines() {
+        TextTimes out;
+        for (const AnimationLine& line : Script().Lines()) {
+            EXPECT_EQ(line.Action, "[none]");
+            out.push_back(line.Text + "/" + line.Time);
+        }
+        return out;
     }
 
     template <class T = QAction>
@@ -42,16 +80,68 @@ protected:
         EXPECT_NE(found, nullptr) << name.toStdString();
         return found;
     }
+    void Trigger(const QString& name) { Named(name)->trigger(); }
 
     std::string PaneText() { return window->PreviewPane().Text(); }
     std::vector<ColouredRun> PaneRuns() { return window->PreviewPane().Runs(); }
     bool PaneLocked() { return window->PreviewPane().Locked(); }
 
+    // The window on screen and active, so that its shortcuts work.
+    void Show() {
+        window->show();
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+    // A key pressed in the list.
+    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(window->LineList(), key, modifiers);
+    }
+    QString PathOf(const QString& name) const { return folder.filePath(name); }
+
+    QTemporaryDir folder;
     ScriptedDialogs dialogs;
     settings::MemorySettingsStore store;
-    // Where the window keeps the last animation: nowhere unless a test says.
-    QString keptAnimation;
+    QString keptAnimation;  // none unless a test says
     std::unique_ptr<MainWindow> window;
+};
+
+// One of the program's dialogs, made for the test over the main window's
+// animation, settings and store, and closed at its end.
+class DialogTest : public MainWindowTest {
+public:
+    void TearDown() override {
+        if (dialog) dialog->close();
+    }
+    QDialog& Open(const QString& name) {
+        if (name == u"frmWizard"_s) {
+            dialog = std::make_unique<WizardDialog>(window->History(), dialogs, window->Settings());
+        } else if (name == u"frmEdit"_s) {
+            dialog = std::make_unique<EditTimeDialog>();
+        } else if (name == u"frmOptions"_s) {
+            dialog = std::make_unique<OptionsDialog>(store, dialogs, [this] { ++reloads; });
+        } else if (name == u"frmHelp"_s) {
+            dialog = std::make_unique<HelpDialog>(dialogs);
+        } else if (name == u"frmColorEditor"_s) {
+            dialog = std::make_unique<ColourNameEditor>(dialogs);
+        } else {
+            dialog = std::make_unique<SimpleEditWindow>(window->History(), dialogs);
+        }
+        dialog->show();
+        return *dialog;
+    }
+    template <class T = QWidget>
+    T* Child(const QString& name) {
+        T* found = dialog->findChild<T*>(name);
+        EXPECT_NE(found, nullptr) << name.toStdString();
+        return found;
+    }
+    WizardDialog& Wizard() { return static_cast<WizardDialog&>(*dialog); }
+    void ToWizardPage(int page) {
+        while (Wizard().CurrentPage() < page) Wizard().NextPage();
+    }
+
+    std::unique_ptr<QDialog> dialog;
+    int reloads = 0;  // of the settings, by the Options dialog
 };
 
 }  // namespace flickerscribe::ui::testing_support

@@ -1,406 +1,413 @@
+// The main window: what it shows at the start, its commands over lines, the
+// clipboard, editing in the pane and by keys, playback and its layout.
 #include <QApplication>
-#include <QHeaderView>
 #include <QMenu>
 #include <QMenuBar>
-#include <QSignalSpy>
-#include <QTest>
+#include <QPushButton>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
+#include <functional>
+#include <optional>
 
 #include "MainWindowFixture.h"
-#include "ui/LineListView.h"
-#include "ui/Twips.h"
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace flickerscribe::ui::testing_support {
 namespace {
 
-using MainWindow = MainWindowTest;
+using MainWindowCase = MainWindowTest;
 
-TEST_F(MainWindow, StartsEmptyWithALockedPaneAndNoColours) {
+// Each menu and the toolbar as the user reads them: "-" a separator, "(off)"
+// a greyed entry, "=" the shortcut.
+QString Read(const QList<QAction*>& actions) {
+    QStringList entries;
+    for (QAction* a : actions) {
+        QString entry = a->isSeparator() ? u"-"_s : a->text();
+        if (!a->shortcut().isEmpty()) entry += u'=' + a->shortcut().toString();
+        if (!a->isSeparator() && !a->isEnabled()) entry += u" (off)"_s;
+        entries << entry;
+    }
+    return entries.join(u", "_s);
+}
+
+TEST_F(MainWindowCase, StartsEmptyWithItsMenusAndToolbar) {
     EXPECT_EQ(window->windowTitle(), u"Flickerscribe - by [QZT]Quillon"_s);
-    EXPECT_FALSE(window->windowIcon().isNull());
-    EXPECT_EQ(Script().Count(), 0);
-    EXPECT_TRUE(PaneLocked());
     EXPECT_EQ(PaneText(), "Preview");
-    EXPECT_FALSE(window->ColoursVisible());
+    EXPECT_TRUE(PaneLocked());
     EXPECT_FALSE(Named<QWidget>(u"picColors"_s)->isVisibleTo(window.get()));
-    EXPECT_FALSE(Named(u"mnuEditShowColors"_s)->isChecked());
-    EXPECT_FALSE(Named(u"mnuFileSave"_s)->isEnabled());
-    EXPECT_FALSE(window->PreviewBusy());
-    EXPECT_EQ(Named(u"btnpreview"_s)->text(), u"Play"_s);
-    EXPECT_FALSE(Named<QTimer>(u"timAni"_s)->isActive());
-    EXPECT_EQ(Named<QTimer>(u"timAni"_s)->interval(), 100);
-    // A first run: settings read, nothing written.
     EXPECT_EQ(store.Reads(), (QStringList{u"OpenDir"_s, u"SaveDir"_s, u"Name"_s, u"Clantag"_s, u"Reverse"_s,
                                           u"EditItem"_s}));
     EXPECT_FALSE(store.Written());
-}
 
-TEST_F(MainWindow, ThePaneIsGreyBoldAndOneLineHigh) {
-    auto* pane = Named<QTextEdit>(u"txtPreview"_s);
-    EXPECT_EQ(pane->palette().color(QPalette::Base), QColor(128, 128, 128));
-    EXPECT_TRUE(pane->font().bold());
-    EXPECT_DOUBLE_EQ(pane->font().pointSizeF(), 14.25);
-    EXPECT_EQ(pane->lineWrapMode(), QTextEdit::NoWrap);
-    EXPECT_EQ(pane->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
-    EXPECT_EQ(pane->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
-}
-
-TEST_F(MainWindow, TheColourButtonsStandForDigitsOneToEight) {
-    const QColor expected[] = {Qt::red,  Qt::green,   Qt::yellow, Qt::blue,
-                               Qt::cyan, Qt::magenta, Qt::white,  Qt::black};
-    auto* strip = Named<QWidget>(u"picColors"_s);
-    for (int index = 0; index < 8; ++index) {
-        SCOPED_TRACE(index);
-        auto* button = Named<QWidget>(u"cmdColor_%1"_s.arg(index));
-        ASSERT_NE(button, nullptr);
-        EXPECT_EQ(button->parentWidget(), strip);
-        EXPECT_EQ(button->geometry(), TwipsRect(480 * index, 50, 375, 375));
-        EXPECT_TRUE(button->styleSheet().contains(expected[index].name()))
-            << button->styleSheet().toStdString();
-    }
-    EXPECT_EQ(window->findChild<QWidget*>(u"cmdColor_8"_s), nullptr);
-}
-
-TEST_F(MainWindow, TheListShowsThreeColumnsInAFixedRowHeight) {
-    auto* list = Named<LineListView>(u"lvwMain"_s);
-    ASSERT_NE(list, nullptr);
-    const QStringList captions{u"Text"_s, u"Time"_s, u"Action"_s};
-    const int widths[] = {5000, 1440, 1440};
-    for (int column = 0; column < 3; ++column) {
-        EXPECT_EQ(list->model()->headerData(column, Qt::Horizontal).toString(), captions[column]);
-        EXPECT_EQ(list->columnWidth(column), Twips(widths[column]));
-    }
-    EXPECT_EQ(list->verticalHeader()->sectionResizeMode(0), QHeaderView::Fixed);
-    EXPECT_EQ(list->selectionMode(), QAbstractItemView::SingleSelection);
-    EXPECT_EQ(list->selectionBehavior(), QAbstractItemView::SelectRows);
-    EXPECT_FALSE(list->isSortingEnabled());
-    EXPECT_FALSE(list->font().bold());
-    EXPECT_DOUBLE_EQ(list->font().pointSizeF(), 9.75);
-}
-
-// --- menus
-
-// One menu entry: its key ("-" for a separator), caption and shortcut. No
-// caption carries an access key.
-struct EntryRow {
-    const char* name;
-    const char* caption = "";
-    QKeySequence shortcut = {};
-};
-
-struct MenuCase {
-    const char* menu;
-    const char* caption;
-    std::vector<EntryRow> entries;
-};
-
-TEST_F(MainWindow, MenusHoldTheirEntriesInOrder) {
-    const EntryRow sep{"-"};
-    const MenuCase menus[] = {
-        {"mnuFile",
-         "File",
-         {{"mnuFileNew", "New"},
-          {"mnuFileOpen", "Open"},
-          {"mnuFileImport", "Import"},
-          {"mnuFileReopen", "Reopen last animation"},
-          sep,
-          {"mnuFileSave", "Save"},
-          {"mnuFileSaveAs", "Save As"},
-          sep,
-          {"mnuFileExit", "Exit"}}},
-        {"mnuEdit",
-         "Edit",
-         {{"mnuEditUndo", "Undo", QKeySequence(Qt::CTRL | Qt::Key_Z)},
-          {"mnuEditRedo", "Redo", QKeySequence(Qt::CTRL | Qt::Key_Y)},
-          sep,
-          {"mnuEditCut", "Cut", QKeySequence(Qt::CTRL | Qt::Key_X)},
-          {"mnuEditCopy", "Copy", QKeySequence(Qt::CTRL | Qt::Key_C)},
-          {"mnuEditPaste", "Paste", QKeySequence(Qt::CTRL | Qt::Key_V)},
-          sep,
-          {"mnuEditShowColors", "Show colors"},
-          {"mnuHelpColor", "Color name editor"},
-          {"mnuEditSimple", "Simple Edit"},
-          sep,
-          {"mnuEditOptions", "Options"}}},
-        {"mnuHelp",
-         "Help",
-         {{"mnuHelpHelp", "Help!"}, sep, {"mnuHelpAbout", "About", QKeySequence(Qt::Key_F1)}}},
-    };
-    QStringList menuOrder;
-    for (QAction* action : window->menuBar()->actions()) menuOrder << action->menu()->objectName();
-    EXPECT_EQ(menuOrder, (QStringList{u"mnuFile"_s, u"mnuEdit"_s, u"mnuHelp"_s}));
-    for (const MenuCase& c : menus) {
-        SCOPED_TRACE(c.menu);
-        auto* menu = Named<QMenu>(QString::fromLatin1(c.menu));
-        ASSERT_NE(menu, nullptr);
-        EXPECT_EQ(menu->title(), QString::fromLatin1(c.caption));
-        const QList<QAction*> actions = menu->actions();
-        ASSERT_EQ(actions.size(), qsizetype(c.entries.size()));
-        for (qsizetype i = 0; i < actions.size(); ++i) {
-            const EntryRow& row = c.entries[std::size_t(i)];
-            SCOPED_TRACE(row.name);
-            EXPECT_EQ(actions[i]->isSeparator() ? "-" : actions[i]->objectName().toStdString(), row.name);
-            if (actions[i]->isSeparator()) continue;
-            EXPECT_EQ(actions[i]->text().toStdString(), row.caption);
-            EXPECT_EQ(actions[i]->shortcut().toString().toStdString(), row.shortcut.toString().toStdString());
-        }
-    }
-}
-
-// --- toolbar
-
-struct ToolCase {
-    const char* key;  // "-" for a separator
-    const char* caption;
-    const char* tip;
-};
-
-TEST_F(MainWindow, ToolbarHasItsButtonsInOrderWithCaptionsUnderImages) {
-    const ToolCase buttons[] = {
-        {"btnnew", "New", "New Animation Script"},
-        {"btnopen", "Open", "Open Animation Script"},
-        {"btnsave", "Save", "Save Animation Script"},
-        {"-", "", ""},
-        {"btnadd", "Add", "Add line"},
-        {"btnremove", "Remove", "Remove Line"},
-        {"btnedit", "Edit", "Edit Line"},
-        {"-", "", ""},
-        {"btnwizard", "Wizard", "Animation Script Wizard"},
-        {"btnpreview", "Play", "Preview animation"},
-        {"btngenerate", "Generate", "Generate Brennock Script"},
-    };
+    QStringList menus;
+    for (QAction* menu : window->menuBar()->actions()) menus << menu->text() + u": "_s + Read(menu->menu()->actions());
+    EXPECT_EQ(menus.join(u'\n').toStdString(),
+              "File: New, Open, Import, Reopen last animation (off), -, Save (off), Save As, -, Exit\n"
+              "Edit: Undo=Ctrl+Z (off), Redo=Ctrl+Y (off), -, Cut=Ctrl+X, Copy=Ctrl+C, Paste=Ctrl+V, -, "
+              "Show colors, Color name editor, Simple Edit, -, Options\n"
+              "Help: Help!, -, About=F1");
+    EXPECT_EQ(Named(u"mnuEditRedo"_s)->shortcuts().last(), QKeySequence(u"Ctrl+Shift+Z"_s));
     auto* toolbar = Named<QToolBar>(u"tlbMain"_s);
-    ASSERT_NE(toolbar, nullptr);
-    EXPECT_EQ(toolbar->toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
-    EXPECT_EQ(toolbar->iconSize(), QSize(27, 32));
-    const QList<QAction*> actions = toolbar->actions();
-    ASSERT_EQ(actions.size(), 11);
-    for (int i = 0; i < 11; ++i) {
-        SCOPED_TRACE(buttons[i].key);
-        if (QString::fromLatin1(buttons[i].key) == u"-"_s) {
-            EXPECT_TRUE(actions[i]->isSeparator());
-            continue;
-        }
-        EXPECT_EQ(actions[i]->objectName(), QString::fromLatin1(buttons[i].key));
-        EXPECT_EQ(actions[i]->text(), QString::fromLatin1(buttons[i].caption));
-        EXPECT_EQ(actions[i]->toolTip(), QString::fromLatin1(buttons[i].tip));
-        EXPECT_FALSE(actions[i]->icon().isNull());
-    }
-}
-
-TEST_F(MainWindow, TheAddButtonDropsDownItsEightEntries) {
+    EXPECT_EQ(Read(toolbar->actions()).toStdString(),
+              "New, Open, Save, -, Add, Remove, Edit, -, Wizard, Play, Generate");
+    QStringList tips;
+    for (QAction* a : toolbar->actions()) tips << a->toolTip();
+    EXPECT_EQ(tips.join(u'|').toStdString(),
+              "New Animation Script|Open Animation Script|Save Animation Script||Add line|Remove Line|Edit "
+              "Line||Animation Script Wizard|Preview animation|Generate Brennock Script");
     QAction* add = Named(u"btnadd"_s);
-    ASSERT_NE(add, nullptr);
-    QMenu* menu = add->menu();
-    ASSERT_NE(menu, nullptr);
-    auto* button = qobject_cast<QToolButton*>(Named<QToolBar>(u"tlbMain"_s)->widgetForAction(add));
-    ASSERT_NE(button, nullptr);
-    EXPECT_EQ(button->popupMode(), QToolButton::MenuButtonPopup);
-    EXPECT_FALSE(menu->toolTipsVisible());
-    QStringList entries;
-    for (QAction* action : menu->actions())
-        entries << (action->isSeparator() ? u"-"_s : action->objectName() + u'=' + action->text());
-    EXPECT_EQ(entries,
-              (QStringList{u"btnaddbefore=Before selection"_s, u"btnaddafter=After selection"_s, u"-"_s,
-                           u"btncopylast=Copy selected line"_s, u"btncopylastx=Copy selected line x times"_s,
-                           u"-"_s, u"btncopyall=Copy all lines"_s,
-                           u"btncopyallreverse=Copy all lines (reverse)"_s}));
+    EXPECT_EQ(Read(add->menu()->actions()).toStdString(),
+              "Before selection, After selection, -, Copy selected line, Copy selected line x times, -, Copy all "
+              "lines, Copy all lines (reverse)");
+    EXPECT_EQ(qobject_cast<QToolButton*>(toolbar->widgetForAction(add))->popupMode(),
+              QToolButton::MenuButtonPopup);
 }
 
-// --- dispatch by key
+// --- the commands over lines, the clipboard and the list's keys, each taken
+// back by Undo and done again by Redo. A, B, C with the times 10, 20, 30, B
+// selected, unless a row says otherwise.
 
-TEST_F(MainWindow, ButtonKeysReachTheirCommands) {
-    AddLines({"a", "b"});
-    window->RunToolbarCommand(u"btnnew"_s);
-    EXPECT_EQ(Script().Count(), 0) << "btnnew is New";
-
-    dialogs.QueueMessageAnswer(MsgAnswer::Ok);
-    window->RunToolbarCommand(u"btnpreview"_s);
-    EXPECT_EQ(dialogs.Messages().size(), 1u) << "btnpreview is Play, which has nothing to play";
-
-    AddLines({"a"});
-    for (const QString& key : {u"BTNNEW"_s, u"btnnew "_s, u"btnaddbefore"_s, QString()})
-        window->RunToolbarCommand(key);
-    EXPECT_EQ(Script().Count(), 1) << "only the exact key text counts";
-    for (const QString& key : {u"btnnew"_s, u"btnpreview"_s, QString()}) window->RunAddMenuCommand(key);
-    EXPECT_EQ(Script().Count(), 1) << "toolbar keys are no menu keys";
-    EXPECT_FALSE(window->Playing());
+using Run = std::function<void(MainWindowTest&)>;
+Run Press(const char* name) {
+    return [name](MainWindowTest& t) { t.Trigger(QString::fromLatin1(name)); };
+}
+Run Times(std::optional<QString> answer) {  // "Copy selected line x times"; nullopt: Cancel
+    return [answer](MainWindowTest& t) {
+        t.dialogs.QueueInput(answer);
+        t.Trigger(u"btncopylastx"_s);
+    };
+}
+Run Paste(std::optional<QString> text) {  // nullopt: a clipboard that can't be read
+    return [text](MainWindowTest& t) {
+        t.dialogs.clipboardUnreadable = !text;
+        t.dialogs.clipboard = text.value_or(QString());
+        t.Trigger(u"mnuEditPaste"_s);
+    };
+}
+Run ListKey(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    return [key, modifiers](MainWindowTest& t) { t.Key(key, modifiers); };
 }
 
-// --- New and SetPreview
-
-TEST_F(MainWindow, NewEmptiesTheListAndLocksThePane) {
-    AddLines({"^1Hi", "b"});
-    EXPECT_EQ(PaneText(), "Hi");
-    window->NewAnimation();
-    EXPECT_EQ(Script().Count(), 0);
-    EXPECT_EQ(PaneText(), "Preview");
-    EXPECT_TRUE(PaneLocked());
-}
-
-TEST_F(MainWindow, SetPreviewShowsTheSelectedLineInItsColours) {
-    AddLines({"first", "^1A^2B", "third"});
-    Script().SelectLine(2);
-    window->SetPreview();
-    EXPECT_FALSE(PaneLocked());
-    EXPECT_EQ(PaneRuns(), (std::vector<ColouredRun>{{"A", kRed}, {"B", kGreen}}));
-}
-
-TEST_F(MainWindow, SetPreviewOfAnEmptyTextEmptiesThePane) {
-    AddLines({""});
-    window->SetPreview();
-    EXPECT_FALSE(PaneLocked());
-    EXPECT_EQ(PaneText(), "");
-}
-
-struct BusyCase {
+struct CommandCase {
     const char* name;
-    bool busyBefore;
-    bool withLines;
-    friend void PrintTo(const BusyCase& c, std::ostream* os) { *os << c.name; }
+    Run run;
+    TextTimes expected;
+    int selectedAfter;
+    TextTimes start = kABC;
+    int selected = 2;
+    const char* asked = "";             // the messages, "title [icon]: text"
+    const char* clipboard = "before";   // afterwards
+    friend void PrintTo(const CommandCase& c, std::ostream* os) { *os << c.name; }
 };
 
-class SetPreviewBusy : public MainWindowTest, public testing::WithParamInterface<BusyCase> {};
+class Command : public MainWindowTest, public testing::WithParamInterface<CommandCase> {};
 
-// The pane's change event fires while SetPreview draws, always with
-// PreviewBusy set, and PreviewBusy is given back its old value.
-TEST_P(SetPreviewBusy, DrawsBusyAndRestoresTheFlag) {
-    if (GetParam().withLines) AddLines({"^3x", "y"});
-    window->SetPreviewBusy(GetParam().busyBefore);
-    std::vector<bool> seen;
-    QObject::connect(window->PaneEdit(), &QTextEdit::textChanged, window.get(),
-                     [&] { seen.push_back(window->PreviewBusy()); });
-    window->SetPreview();
-    ASSERT_FALSE(seen.empty());
-    for (bool busy : seen) EXPECT_TRUE(busy);
-    EXPECT_EQ(window->PreviewBusy(), GetParam().busyBefore);
+// The pane stays as it was while the selected line stays the same; a command
+// that selects another line, Paste and a key in the list show it.
+TEST_P(Command, ChangesTheListAndUndoAndRedoTakeItBackAndAgain) {
+    const CommandCase& c = GetParam();
+    Start(c.start, c.selected);
+    dialogs.clipboard = u"before"_s;
+    window->SetPreviewBusy(true);
+    RenderCodedText("marker", window->PreviewPane());
+    window->SetPreviewBusy(false);
+    const auto shown = [this] { return Script().Count() ? Script().LineAt(Script().SelectedIndex()).Text : "Preview"; };
+    const std::string before = shown();
+    c.run(*this);
+    EXPECT_EQ(Lines(), c.expected);
+    EXPECT_EQ(Script().SelectedIndex(), c.selectedAfter);
+    EXPECT_EQ(window->LineList()->currentIndex().row(), c.selectedAfter - 1);
+    // Paste and a key in the list redraw the pane in any case.
+    const bool redrawn = std::string(c.name).starts_with("Paste") || std::string(c.name).starts_with("Key");
+    std::string plain = Script().Count() ? "" : "Preview";
+    for (const ColouredRun& run : RenderRuns(shown())) plain += Script().Count() ? run.text : "";
+    EXPECT_EQ(PaneText(), shown() == before && !redrawn ? "marker" : plain);
+    EXPECT_EQ(dialogs.Asked().join(u'|').toStdString(), c.asked);
+    EXPECT_EQ(dialogs.clipboard.toStdString(), c.clipboard);
+    for (const DialogCall& call : dialogs.Calls()) {
+        if (call.kind == DialogCall::Kind::InputBox) {
+            EXPECT_EQ(call.title + u'|' + call.text + u'|' + call.state.fileName,
+                      u"Copy selected line x times|Copy the selected line how many times?|5"_s);
+        }
+    }
+    if (c.expected == c.start) {
+        EXPECT_FALSE(Named(u"mnuEditUndo"_s)->isEnabled()) << "nothing changed: no step";
+        return;
+    }
+    Trigger(u"mnuEditUndo"_s);
+    EXPECT_EQ(Lines(), c.start);
+    EXPECT_EQ(Script().SelectedIndex(), c.selected);
+    Trigger(u"mnuEditRedo"_s);
+    EXPECT_EQ(Lines(), c.expected);
+    EXPECT_EQ(Script().SelectedIndex(), c.selectedAfter);
 }
 
-INSTANTIATE_TEST_SUITE_P(Cases, SetPreviewBusy,
-                         testing::Values(BusyCase{"IdleWithLines", false, true},
-                                         BusyCase{"IdleEmpty", false, false},
-                                         BusyCase{"BusyWithLines", true, true},
-                                         BusyCase{"BusyEmpty", true, false}),
+TextTimes WithCopiesOfB(std::size_t copies) {
+    TextTimes lines = kABC;
+    lines.insert(lines.end(), copies, "B/20");
+    return lines;
+}
+TextTimes WithPasted(const char* text) {
+    return {"A/10", "B/20", std::string(text) + "/15", "C/30"};
+}
+const char* const kNoLines = "Add line [warning]: There are no lines to copy";
+const TextTimes kAC = {"A/10", "C/30"};
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, Command,
+    testing::Values(
+        CommandCase{"AddAfterB", Press("btnadd"), {"A/10", "B/20", "Text/15", "C/30"}, 2},
+        CommandCase{"AddBeforeB", Press("btnaddbefore"), {"A/10", "Text/15", "B/20", "C/30"}, 3},
+        CommandCase{"AddAfterC", Press("btnaddafter"), {"A/10", "B/20", "C/30", "Text/15"}, 3, kABC, 3},
+        CommandCase{"AddBeforeA", Press("btnaddbefore"), {"Text/15", "A/10", "B/20", "C/30"}, 2, kABC, 1},
+        CommandCase{"AddToEmpty", Press("btnaddbefore"), {"Text/15"}, 1, {}, 0},
+        CommandCase{"RemoveB", Press("btnremove"), kAC, 2},
+        CommandCase{"RemoveC", Press("btnremove"), {"A/10", "B/20"}, 2, kABC, 3},
+        CommandCase{"RemoveTheOnly", Press("btnremove"), {}, 0, {"A/10"}, 1},
+        CommandCase{"CopySelected", Press("btncopylast"), WithCopiesOfB(1), 2},
+        CommandCase{"CopyAll", Press("btncopyall"), {"A/10", "B/20", "C/30", "A/10", "B/20", "C/30"}, 2},
+        CommandCase{"CopyAllReversed", Press("btncopyallreverse"), {"A/10", "B/20", "C/30", "C/30", "B/20", "A/10"},
+                    2},
+        CommandCase{"CopyAllOfOne", Press("btncopyallreverse"), {"A/10", "A/10"}, 1, {"A/10"}, 1},
+        CommandCase{"TwoTimes", Times(u"2"_s), WithCopiesOfB(2), 2},
+        CommandCase{"ZeroTimes", Times(u"0"_s), kABC, 2},
+        CommandCase{"HalfToEven", Times(u"2.5"_s), WithCopiesOfB(2), 2},
+        CommandCase{"Exponent", Times(u"1e1"_s), WithCopiesOfB(10), 2},
+        CommandCase{"WordTimes", Times(u"abc"_s), kABC, 2, kABC, 2,
+                    "Error [stop]: Can't copy the selected line. Invalid input (abc)"},
+        CommandCase{"TooManyTimes", Times(u"32768"_s), kABC, 2, kABC, 2,
+                    "Error [stop]: Can't copy the selected line. Invalid input (32768)"},
+        CommandCase{"CancelTimes", Times(std::nullopt), kABC, 2, kABC, 2,
+                    "Error [stop]: Can't copy the selected line. Invalid input ()"},
+        CommandCase{"CopySelectedOfNone", Press("btncopylast"), {}, 0, {}, 0, kNoLines},
+        CommandCase{"CopyTimesOfNoneAsksNothing", Press("btncopylastx"), {}, 0, {}, 0, kNoLines},
+        CommandCase{"CopyAllOfNone", Press("btncopyall"), {}, 0, {}, 0, kNoLines},
+        CommandCase{"RemoveOfNone", Press("btnremove"), {}, 0, {}, 0, " [info]: Can't remove line."},
+        CommandCase{"EditOfNone", Press("btnedit"), {}, 0, {}, 0, "Edit [warning]: No items to edit"},
+        CommandCase{"Copy", Press("mnuEditCopy"), kABC, 2, kABC, 2, "", "B"},
+        CommandCase{"CopyOfNone", Press("mnuEditCopy"), {}, 0, {}, 0},
+        CommandCase{"Cut", Press("mnuEditCut"), kAC, 2, kABC, 2, "", "B"},
+        CommandCase{"CutTheOnly", Press("mnuEditCut"), {}, 0, {"^1A/10"}, 1, "", "^1A"},
+        CommandCase{"CutOfNone", Press("mnuEditCut"), {}, 0, {}, 0},
+        CommandCase{"Paste", Paste(u" ^1x ^^ "_s), WithPasted(" ^1x ^^ "), 2, kABC, 2, "", " ^1x ^^ "},
+        CommandCase{"PasteEmpty", Paste(u""_s), WithPasted(""), 2, kABC, 2, "", ""},
+        CommandCase{"PasteFirstLineOfCrLf", Paste(u"one\r\ntwo"_s), WithPasted("one"), 2, kABC, 2, "", "one\r\ntwo"},
+        CommandCase{"PasteFirstLineOfCr", Paste(u"one\rtwo"_s), WithPasted("one"), 2, kABC, 2, "", "one\rtwo"},
+        CommandCase{"PasteFirstLineOfLf", Paste(u"\ntwo"_s), WithPasted(""), 2, kABC, 2, "", "\ntwo"},
+        CommandCase{"PasteWindowsCharacters", Paste(u"\u20ac\u00e9"_s), WithPasted("\x80\xE9"), 2, kABC, 2, "",
+                    "\u20ac\u00e9"},
+        CommandCase{"PasteBehindTheLast", Paste(u"D"_s), {"A/10", "B/20", "C/30", "D/15"}, 3, kABC, 3, "", "D"},
+        CommandCase{"PasteIntoEmpty", Paste(u"^1Hi"_s), {"^1Hi/15"}, 1, {}, 0, "", "^1Hi"},
+        CommandCase{"UnreadablePaste", Paste(std::nullopt), kABC, 2, kABC, 2, "", ""},
+        CommandCase{"KeyDown", ListKey(Qt::Key_Down), kABC, 3, kABC, 2},
+        CommandCase{"KeyUpAtTheTop", ListKey(Qt::Key_Up), kABC, 1, kABC, 1},
+        CommandCase{"KeyDelete", ListKey(Qt::Key_Delete), kAC, 2},
+        CommandCase{"KeyShiftDelete", ListKey(Qt::Key_Delete, Qt::ShiftModifier), kAC, 2},
+        CommandCase{"KeyDeleteTheOnly", ListKey(Qt::Key_Delete), {}, 0, {"^1A/10"}, 1},
+        CommandCase{"KeyDeleteOfNone", ListKey(Qt::Key_Delete), {}, 0, {}, 0, " [info]: Can't remove line."}),
+    testing::PrintToStringParamName());
+
+struct LimitCase {
+    const char* name;
+    int linesBefore;
+    Run run;
+    friend void PrintTo(const LimitCase& c, std::ostream* os) { *os << c.name; }
+};
+
+class AtTheLineLimit : public MainWindowTest, public testing::WithParamInterface<LimitCase> {};
+
+TEST_P(AtTheLineLimit, AddingStopsThereWithOneMessage) {
+    Start(TextTimes(std::size_t(GetParam().linesBefore), "x/15"), GetParam().linesBefore);
+    GetParam().run(*this);
+    EXPECT_EQ(Script().Count(), kMaxLines);
+    EXPECT_EQ(dialogs.Asked().join(u'|').toStdString(),
+              "Line limit reached [warning]: An animation holds at most 32767 lines. The lines up to that limit "
+              "are kept; the rest could not be added.");
+}
+
+INSTANTIATE_TEST_SUITE_P(Commands, AtTheLineLimit,
+                         testing::Values(LimitCase{"Add", kMaxLines, Press("btnadd")},
+                                         LimitCase{"CopySelected", kMaxLines, Press("btncopylast")},
+                                         LimitCase{"CopyTimes", kMaxLines - 2, Times(u"5"_s)},
+                                         LimitCase{"CopyAll", 20000, Press("btncopyall")},
+                                         LimitCase{"Paste", kMaxLines, Paste(u"x"_s)}),
                          testing::PrintToStringParamName());
 
-// --- the list and the selection
+// --- editing in the pane and by keys
 
-TEST_F(MainWindow, AClickOnARowSelectsItsLineAndShowsIt) {
-    AddLines({"one", "^1two", "three"});
-    window->show();
-    auto* list = Named<LineListView>(u"lvwMain"_s);
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
-    const QRect row = list->visualRect(list->model()->index(1, 1));
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, row.center());
-    EXPECT_EQ(Script().SelectedIndex(), 2);
-    EXPECT_EQ(PaneRuns(), (std::vector<ColouredRun>{{"two", kRed}}));
+struct TypedCase {
+    const char* before;
+    int caret;          // -1: at the end, where the pane's drawing leaves it
+    const char* typed;  // "\b" is Backspace, "\r" Enter
+    const char* after;
+    friend void PrintTo(const TypedCase& c, std::ostream* os) { *os << c.before << '+' << c.typed; }
+};
 
-    // A click below the last row, or with Ctrl on the selected row, keeps it.
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, QPoint(5, list->viewport()->height() - 3));
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, row.center());
-    EXPECT_EQ(Script().SelectedIndex(), 2);
-    EXPECT_TRUE(list->selectionModel()->isRowSelected(1, {}));
+class TypedInThePane : public MainWindowTest, public testing::WithParamInterface<TypedCase> {};
+
+// Each keystroke reaches the selected line at once, in its normal form: a
+// code only where the colour changes; the caret stays behind what was typed.
+TEST_P(TypedInThePane, ReachesTheLineInNormalForm) {
+    Start({std::string(GetParam().before) + "/30", "other/20"}, 1);
+    if (GetParam().caret >= 0) window->PreviewPane().SetSelStart(GetParam().caret);
+    const int caret = window->PreviewPane().SelStart();
+    const auto length = PaneText().size();
+    QTest::keyClicks(window->PaneEdit(), QString::fromLatin1(GetParam().typed));
+    EXPECT_EQ(Lines(), TextTimes({std::string(GetParam().after) + "/30", "other/20"}));
+    EXPECT_EQ(window->PreviewPane().SelStart(), caret + int(PaneText().size()) - int(length));
 }
 
-TEST_F(MainWindow, TheListFollowsTheScriptsSelection) {
-    auto* list = Named<LineListView>(u"lvwMain"_s);
-    AddLines({"a", "b", "c"});
-    EXPECT_EQ(list->currentIndex().row(), 0);
-    Script().SelectLine(3);
-    EXPECT_EQ(list->currentIndex().row(), 2);
-    ASSERT_TRUE(Script().InsertLine(1, "new", "15", "[none]"));
-    EXPECT_EQ(Script().SelectedIndex(), 4);
-    EXPECT_EQ(list->currentIndex().row(), 3);
-    // Removing the selected line: the script picks the next one, and the list
-    // shows that one, not the one its own rule would pick.
-    Script().SelectLine(2);
-    ASSERT_TRUE(Script().RemoveLine(2));
-    EXPECT_EQ(Script().SelectedIndex(), 2);
-    EXPECT_EQ(list->currentIndex().row(), 1);
-    EXPECT_TRUE(list->selectionModel()->isRowSelected(1, {}));
-    Script().ClearLines();
-    EXPECT_FALSE(list->selectionModel()->hasSelection());
-    AddLines({"x"});
-    EXPECT_EQ(list->currentIndex().row(), 0);
+INSTANTIATE_TEST_SUITE_P(
+    Cases, TypedInThePane,
+    testing::Values(TypedCase{"^1ab^2cd", -1, "x", "^1ab^2cdx"}, TypedCase{"^8x^2y^7z", -1, "!", "^8x^2y^7z!"},
+                    TypedCase{"^7Hello", -1, "!", "Hello!"}, TypedCase{"ab^7cd", -1, "e", "abcde"},
+                    TypedCase{"^1ab^1cd", -1, "e", "^1abcde"}, TypedCase{"^0Hi^9you", -1, "!", "Hi^1you!"},
+                    TypedCase{"ab^1", -1, "c", "abc"}, TypedCase{"a^xb", -1, "c", "abc"},
+                    TypedCase{"", -1, "x", "^8x"}, TypedCase{"abc", 1, "^1", "a^1bc"},
+                    TypedCase{"^1abcd", 2, "X", "^1abXcd"}, TypedCase{"^1abc", -1, "\b\b\b", ""},
+                    TypedCase{"ab", 1, "\r", "ab"}));
+
+struct ColourCase {
+    const char* before;
+    int selStart, selLength, button;
+    const char* typedAfter;
+    const char* after;
+    friend void PrintTo(const ColourCase& c, std::ostream* os) { *os << c.before << '@' << c.button; }
+};
+
+class ColourStrip : public MainWindowTest, public testing::WithParamInterface<ColourCase> {};
+
+// A colour button colours the pane's selection, which then ends, or what is
+// typed next; an empty pane takes no colour.
+TEST_P(ColourStrip, ColoursTheSelectionOrWhatIsTypedNext) {
+    const ColourCase& c = GetParam();
+    Start({std::string(c.before) + "/15"}, 1);
+    window->ToggleColours();
+    window->PreviewPane().SetSelStart(c.selStart);
+    window->PreviewPane().SetSelLength(c.selLength);
+    QTest::mouseClick(Named<QPushButton>(u"cmdColor_%1"_s.arg(c.button)), Qt::LeftButton);
+    EXPECT_EQ(window->PreviewPane().SelStart(), c.selStart);
+    EXPECT_EQ(window->PreviewPane().SelLength(), 0);
+    QTest::keyClicks(window->PaneEdit(), QString::fromLatin1(c.typedAfter));
+    EXPECT_EQ(Script().LineAt(1).Text, c.after);
 }
 
-// --- in-place editing follows the setting
+INSTANTIATE_TEST_SUITE_P(Cases, ColourStrip,
+                         testing::Values(ColourCase{"abcd", 1, 2, 0, "", "a^1bc^7d"},
+                                         ColourCase{"abcd", 1, 2, 7, "", "a^8bc^7d"},
+                                         ColourCase{"^1abcd", 0, 1, 6, "", "a^1bcd"},
+                                         ColourCase{"ab", 2, 0, 1, "c", "ab^2c"},
+                                         ColourCase{"", 0, 0, 0, "x", "^8x"}));
 
-TEST_F(MainWindow, TheEditItemSettingDecidesWhetherTheTextCanBeEditedInPlace) {
-    const std::pair<QString, QAbstractItemView::EditTriggers> cases[] = {
-        {u"1"_s, QAbstractItemView::SelectedClicked},
-        {u"0"_s, QAbstractItemView::NoEditTriggers},
-        {u"true"_s, QAbstractItemView::NoEditTriggers},
-    };
-    for (const auto& [stored, expected] : cases) {
-        SCOPED_TRACE(stored.toStdString());
-        store.WriteValue(u"EditItem"_s, stored);
-        MakeWindow();
-        EXPECT_EQ(Named<LineListView>(u"lvwMain"_s)->editTriggers(), expected);
+// The Ctrl key alone takes the focus from the pane to the list, so that the
+// Edit menu's shortcuts work on lines from anywhere.
+TEST_F(MainWindowCase, CtrlLeavesThePaneAndItsShortcutsWorkOnLines) {
+    Start({"line/15"}, 1);
+    Show();
+    for (Qt::Key key : {Qt::Key_Shift, Qt::Key_Q, Qt::Key_Control}) {
+        window->PaneEdit()->setFocus();
+        QTest::keyClick(window->PaneEdit(), key);
+        EXPECT_EQ(QApplication::focusWidget() == window->LineList(), key == Qt::Key_Control) << key;
+    }
+    window->PaneEdit()->setFocus();
+    QTest::keyClick(window->PaneEdit(), Qt::Key_C, Qt::ControlModifier);
+    QTest::keyClick(window->PaneEdit(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(Lines(), TextTimes({"lineq/15", "lineq/15"}));
+    EXPECT_EQ(PaneText(), "lineq") << "not the pane's own copy and paste";
+}
+
+// --- settings, layout and the way out
+
+TEST_F(MainWindowCase, TheEditItemSettingDecidesWhetherALineCanBeEditedInPlace) {
+    for (const char* stored : {"1", "true", "0"}) {
+        store.WriteValue(u"EditItem"_s, QString::fromLatin1(stored));
+        window->LoadSettings();
+        EXPECT_EQ(window->LineList()->editTriggers(), stored == std::string("1") ? QAbstractItemView::SelectedClicked
+                                                                                  : QAbstractItemView::NoEditTriggers);
     }
 }
 
-TEST_F(MainWindow, LoadSettingsAgainAppliesAChangedSetting) {
-    auto* list = Named<LineListView>(u"lvwMain"_s);
-    EXPECT_EQ(list->editTriggers(), QAbstractItemView::NoEditTriggers);
-    store.WriteValue(u"EditItem"_s, u"1"_s);
-    store.WriteValue(u"Name"_s, u"Quillon"_s);
-    window->LoadSettings();
-    EXPECT_EQ(list->editTriggers(), QAbstractItemView::SelectedClicked);
-    EXPECT_EQ(window->Settings().name, u"Quillon"_s);
+// The pane and the strip keep their row; the list fills the width and the
+// rest of the height; "Show colors" puts the strip flush right.
+TEST_F(MainWindowCase, TheListFillsTheWindowAndTheStripStandsFlushRight) {
+    Show();
+    QWidget* pane = window->PaneEdit();
+    QWidget* strip = Named<QWidget>(u"picColors"_s);
+    QWidget* list = window->LineList();
+    const int width = pane->parentWidget()->width();
+    EXPECT_EQ(pane->width(), width);
+    EXPECT_EQ(list->width(), width);
+    EXPECT_NEAR(list->geometry().bottom(), pane->parentWidget()->height(), 2);
+    Trigger(u"mnuEditShowColors"_s);
+    EXPECT_TRUE(Named(u"mnuEditShowColors"_s)->isChecked());
+    EXPECT_TRUE(strip->isVisible());
+    EXPECT_EQ(strip->x(), pane->width());
+    EXPECT_EQ(strip->geometry().right() + 1, width);
+    EXPECT_EQ(strip->y(), pane->y());
+    window->resize(100, window->height());
+    EXPECT_EQ(window->width(), window->minimumWidth());
+    Trigger(u"mnuEditShowColors"_s);
+    EXPECT_FALSE(strip->isVisibleTo(window.get()));
+    EXPECT_EQ(pane->width(), list->width());
 }
 
-TEST_F(MainWindow, AnInPlaceEditWritesTheTextAndNothingElse) {
-    store.WriteValue(u"EditItem"_s, u"1"_s);
-    MakeWindow();
-    AddLines({"^1old"});
-    window->SetPreview();
-    auto* list = Named<LineListView>(u"lvwMain"_s);
-    QAbstractItemModel* model = list->model();
-    EXPECT_TRUE(model->flags(model->index(0, 0)) & Qt::ItemIsEditable);
-    EXPECT_FALSE(model->flags(model->index(0, 1)) & Qt::ItemIsEditable);
-    EXPECT_FALSE(model->flags(model->index(0, 2)) & Qt::ItemIsEditable);
-    EXPECT_TRUE(model->setData(model->index(0, 0), u"^2new \u00e9"_s));
-    EXPECT_FALSE(model->setData(model->index(0, 1), u"99"_s));
-    EXPECT_EQ(Script().LineAt(1), (AnimationLine{"^2new \xE9", "15", "[none]"}));
-    EXPECT_EQ(PaneText(), "new \xE9") << "the pane shows the line as it is now";
-}
-
-// --- the Edit menu's shortcuts work on lines wherever the focus is
-
-TEST_F(MainWindow, CutCopyPasteKeysReachTheMenuFromThePaneAndTheList) {
+TEST_F(MainWindowCase, ExitEndsWithoutAQuestion) {
+    Start({"unsaved/15"});
     window->show();
-    window->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-    AddLines({"line"});
-    window->SetPreview();
-    QSignalSpy cut(Named(u"mnuEditCut"_s), &QAction::triggered);
-    QSignalSpy copy(Named(u"mnuEditCopy"_s), &QAction::triggered);
-    QSignalSpy paste(Named(u"mnuEditPaste"_s), &QAction::triggered);
-    for (QWidget* target :
-         {static_cast<QWidget*>(window->PaneEdit()), static_cast<QWidget*>(window->LineList())}) {
-        target->setFocus();
-        QTest::keyClick(target, Qt::Key_X, Qt::ControlModifier);
-        QTest::keyClick(target, Qt::Key_C, Qt::ControlModifier);
-        QTest::keyClick(target, Qt::Key_V, Qt::ControlModifier);
-    }
-    EXPECT_EQ(cut.count(), 2);
-    EXPECT_EQ(copy.count(), 2);
-    EXPECT_EQ(paste.count(), 2);
-    EXPECT_EQ(PaneText(), "line") << "the pane's own cut must not run";
-}
-
-TEST_F(MainWindow, ExitClosesTheWindowWithoutAQuestion) {
-    AddLines({"unsaved"});
-    window->show();
-    Named(u"mnuFileExit"_s)->trigger();
+    Trigger(u"mnuFileExit"_s);
     EXPECT_FALSE(window->isVisible());
     EXPECT_TRUE(dialogs.Calls().empty());
-    EXPECT_FALSE(store.Written());
+}
+
+// --- playback: one line a tick of 100 ms, once
+
+TEST_F(MainWindowCase, PlaybackShowsEachLineOnceAndLeavesTheLast) {
+    Start({"^1one/5", "two/99", "three/15"}, 2);
+    auto* timer = Named<QTimer>(u"timAni"_s);
+    QAction* play = Named(u"btnpreview"_s);
+    play->trigger();
+    EXPECT_EQ(timer->interval(), 100);
+    EXPECT_TRUE(timer->isActive());
+    EXPECT_EQ(play->text(), u"Stop"_s);
+    EXPECT_FALSE(Named(u"btnadd"_s)->isEnabled());
+    EXPECT_FALSE(Named(u"btnremove"_s)->isEnabled());
+    EXPECT_TRUE(window->PreviewBusy());
+    EXPECT_EQ(PaneText(), "two") << "nothing before the first tick";
+    QTest::keyClicks(window->PaneEdit(), u"x"_s);
+    for (const char* frame : {"^1one", "two"}) {
+        window->ShowNextFrame();
+        EXPECT_EQ(PaneRuns(), RenderRuns(frame));
+    }
+    window->ShowClickedLine(1);
+    EXPECT_EQ(PaneText(), "one") << "a click shows its line until the next tick";
+    window->ShowNextFrame();
+    EXPECT_EQ(PaneText(), "three") << "the last frame stays";
+    EXPECT_FALSE(timer->isActive());
+    EXPECT_EQ(play->text(), u"Play"_s);
+    EXPECT_TRUE(Named(u"btnadd"_s)->isEnabled() && Named(u"btnremove"_s)->isEnabled());
+    EXPECT_FALSE(window->PreviewBusy());
+    EXPECT_EQ(Lines(), TextTimes({"^1one/5", "two/99", "three/15"})) << "playback changes no line";
+    EXPECT_EQ(Script().SelectedIndex(), 1);
+}
+
+TEST_F(MainWindowCase, AStopForgetsThePlaceAndAnEmptiedListEndsPlayback) {
+    Start({"1/15", "2/15", "3/15"});
+    window->TogglePlayback();
+    window->ShowNextFrame();
+    window->ShowNextFrame();
+    window->TogglePlayback();
+    EXPECT_EQ(PaneText(), "2") << "a stop draws nothing";
+    window->TogglePlayback();
+    window->ShowNextFrame();
+    EXPECT_EQ(PaneText(), "1") << "the next Play starts again";
+    Trigger(u"btnnew"_s);
+    window->ShowNextFrame();
+    EXPECT_FALSE(window->Playing());
+    EXPECT_TRUE(dialogs.Calls().empty());
+    dialogs.QueueMessageAnswer(MsgAnswer::Cancel);
+    Trigger(u"btnpreview"_s);
+    EXPECT_EQ(dialogs.Asked().join(u'|'), u"Preview Animation [warning]: There is no animation to play!"_s);
+    EXPECT_FALSE(window->Playing());
 }
 
 }  // namespace

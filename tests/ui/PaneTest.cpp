@@ -1,0 +1,99 @@
+// The rich text pane over a real QTextEdit behaves as the pane the core's
+// walks are written for; and the wizard's pictures look as approved.
+#include <QCryptographicHash>
+#include <QTextEdit>
+#include <random>
+
+#include "MainWindowFixture.h"
+#include "colour/MemoryPane.h"
+#include "ui/RichPane.h"
+#include "ui/WizardArt.h"
+
+namespace flickerscribe::ui::testing_support {
+namespace {
+
+constexpr Colour kColours[] = {kBlack, kWhite, Rgb(255, 0, 0), Rgb(0, 255, 0), Rgb(128, 0, 0)};
+
+std::string State(const Pane& pane) {
+    std::string state = pane.Text() + " @" + std::to_string(pane.SelStart()) + "+" + std::to_string(pane.SelLength()) +
+                        " colour " + std::to_string(pane.SelColour()) + " runs";
+    for (const ColouredRun& run : pane.Runs()) state += " " + run.text + "=" + std::to_string(run.colour);
+    return state;
+}
+
+// The same random gestures on both panes leave them alike at every step:
+// text, selection, the colour for typing and the colours of the characters.
+TEST(RichPane, BehavesAsThePaneInMemory) {
+    for (unsigned seed = 1; seed <= 20; ++seed) {
+        std::mt19937 random(seed);
+        const auto pick = [&random](int n) { return static_cast<int>(random() % unsigned(n)); };
+        QTextEdit edit;
+        RichPane rich(&edit);
+        MemoryPane memory;
+        for (int step = 0; step < 60; ++step) {
+            const std::string text(std::size_t(pick(4)), char('a' + pick(26)));
+            const Colour colour = kColours[pick(5)];
+            const Colour other = kColours[pick(5)];
+            const int position = pick(12) - 1;
+            const int gesture = step % 7 == 0 ? 0 : pick(6);
+            for (Pane* pane : {static_cast<Pane*>(&rich), static_cast<Pane*>(&memory)}) {
+                switch (gesture) {
+                    case 0:
+                        pane->SetRuns({{text, colour}, {"xy", other}, {"", colour}});
+                        break;
+                    case 1:
+                        pane->SetSelStart(position);
+                        break;
+                    case 2:
+                        pane->SetSelLength(position);
+                        break;
+                    case 3:
+                        pane->SetSelColour(colour);
+                        break;
+                    case 4:
+                        pane->SetSelText(text);
+                        break;
+                    default:
+                        pane->SetText(text);
+                        break;
+                }
+            }
+            ASSERT_EQ(State(rich), State(memory)) << "seed " << seed << " step " << step;
+        }
+        rich.SetLocked(true);
+        EXPECT_TRUE(rich.Locked() && edit.isReadOnly());
+    }
+}
+
+// A line break in a multi-line pane is one character '\\n' that takes the
+// colour in front of it.
+TEST(RichPane, ALineBreakIsOneCharacterInTheColourBeforeIt) {
+    QTextEdit edit;
+    RichPane pane(&edit);
+    pane.SetRuns({{"ab\n", Rgb(255, 0, 0)}, {"\ncd", Rgb(0, 255, 0)}});
+    EXPECT_EQ(pane.Text(), "ab\n\ncd");
+    EXPECT_EQ(pane.Runs(), (std::vector<ColouredRun>{{"ab\n\n", Rgb(255, 0, 0)}, {"cd", Rgb(0, 255, 0)}}));
+    pane.SetSelStart(3);
+    pane.SetSelLength(1);
+    EXPECT_EQ(pane.SelColour(), Rgb(255, 0, 0));
+}
+
+// The wizard's pictures are painted in code; a change to them shows here. When
+// the art is changed on purpose, look at the new pictures and take their sums.
+TEST(WizardArt, ThePicturesLookAsApproved) {
+    const auto sum = [](const QPixmap& picture) {
+        const QImage image = picture.toImage().convertToFormat(QImage::Format_ARGB32);
+        return QCryptographicHash::hash(QByteArrayView(image.constBits(), image.sizeInBytes()),
+                                        QCryptographicHash::Sha1)
+            .toHex()
+            .left(12)
+            .toStdString();
+    };
+    EXPECT_EQ(WizardSidePicture().deviceIndependentSize().toSize(), QSize(164, 313));
+    EXPECT_EQ(sum(WizardSidePicture()), "7a150c62383a");
+    EXPECT_EQ(sum(WizardBandPicture(2)) + " " + sum(WizardBandPicture(3)) + " " + sum(WizardBandPicture(4)),
+              "c2f8aedbf966 aede8fcd23bb d00dfeabc91f");
+}
+
+}  // namespace
+}  // namespace flickerscribe::ui::testing_support
