@@ -18,9 +18,10 @@ namespace {
 TEST(QSettingsStore, KeepsEveryTextExactly) {
     QTemporaryDir dir;
     const QString path = dir.filePath(u"sub/Flickerscribe.conf"_s);
-    const QString values[] = {u"Quillon"_s,   QString(),        u"  two  blanks  "_s, u"a=b;c"_s,
-                              u"#x, y,"_s,    u"\"q\" 'x'"_s,   u"C:\\Games\\"_s,      u"[QZT]^1Fl"_s,
-                              u"@Variant(x)"_s, u"Zo\u00eb \u20ac"_s, u"100%20\tb"_s};
+    const QString values[] = {u"Quillon"_s,         QString(),      u"  two  blanks  "_s,
+                              u"a=b;c"_s,           u"#x, y,"_s,    u"\"q\" 'x'"_s,
+                              u"C:\\Games\\"_s,     u"[QZT]^1Fl"_s, u"@Variant(x)"_s,
+                              u"Zo\u00eb \u20ac"_s, u"100%20\tb"_s};
     {
         const QSettingsStore store(path);
         EXPECT_EQ(store.ReadValue(u"Name"_s, u"fallback"_s), u"fallback"_s);
@@ -39,9 +40,9 @@ TEST(QSettingsStore, KeepsEveryTextExactly) {
 
 // The settings in memory: texts unchanged, a flag true only for the text "1".
 TEST(LoadSettings, TextsAsTheyAreAndFlagsOnlyForOne) {
-    const QMap<QString, QString> stored = {{u"OpenDir"_s, u"/o"_s},  {u"SaveDir"_s, u"/s"_s},
-                                           {u"Name"_s, u"^1Q"_s},     {u"Clantag"_s, u"[T]"_s},
-                                           {u"Reverse"_s, u"1"_s},    {u"EditItem"_s, u"true"_s}};
+    const QMap<QString, QString> stored = {{u"OpenDir"_s, u"/o"_s}, {u"SaveDir"_s, u"/s"_s},
+                                           {u"Name"_s, u"^1Q"_s},   {u"Clantag"_s, u"[T]"_s},
+                                           {u"Reverse"_s, u"1"_s},  {u"EditItem"_s, u"true"_s}};
     const Settings s = LoadSettings(MemorySettingsStore(stored));
     EXPECT_EQ(QStringList({s.openFolder, s.saveFolder, s.name, s.clanTag}).join(u'|'), u"/o|/s|^1Q|[T]"_s);
     EXPECT_TRUE(s.reverse);

@@ -7,7 +7,9 @@ namespace {
 
 // The answer of a box closed without a choice.
 MsgAnswer Refusal(MsgButtons buttons) {
-    return buttons == MsgButtons::Ok ? MsgAnswer::Ok : buttons == MsgButtons::YesNo ? MsgAnswer::No : MsgAnswer::Cancel;
+    return buttons == MsgButtons::Ok      ? MsgAnswer::Ok
+           : buttons == MsgButtons::YesNo ? MsgAnswer::No
+                                          : MsgAnswer::Cancel;
 }
 
 // The answer queued first; false, and a failed test, when there is none.
@@ -25,14 +27,8 @@ bool Take(std::deque<Answer>& queue, const QString& about, Answer& answer) {
 }  // namespace
 
 ScriptedDialogs::~ScriptedDialogs() {
-    EXPECT_TRUE(AllAnswersUsed()) << "queued answers were left over";
-}
-
-std::vector<DialogCall> ScriptedDialogs::Messages() const {
-    std::vector<DialogCall> out;
-    for (const DialogCall& call : calls_)
-        if (call.kind == DialogCall::Kind::Message) out.push_back(call);
-    return out;
+    EXPECT_TRUE(answers_.empty() && inputs_.empty() && opens_.empty() && saves_.empty() && folders_.empty())
+        << "queued answers were left over";
 }
 
 QStringList ScriptedDialogs::Asked() const {
@@ -42,24 +38,15 @@ QStringList ScriptedDialogs::Asked() const {
         if (c.kind == DialogCall::Kind::Message)
             out << QStringLiteral("%1 [%2]: %3").arg(c.title, QLatin1String(kIcons[int(c.icon)]), c.text);
         else if (c.kind == DialogCall::Kind::Open || c.kind == DialogCall::Kind::Save)
-            out << (c.kind == DialogCall::Kind::Open ? QStringLiteral("open ") : QStringLiteral("save ")) + c.title;
+            out << (c.kind == DialogCall::Kind::Open ? QStringLiteral("open ") : QStringLiteral("save ")) +
+                       c.title;
     }
     return out;
 }
 
-bool ScriptedDialogs::AllAnswersUsed() const {
-    return answers_.empty() && inputs_.empty() && opens_.empty() && saves_.empty() && folders_.empty();
-}
-
 DialogCall& ScriptedDialogs::Record(DialogCall::Kind kind, QWidget* parent, const QString& title,
                                     const QString& text) {
-    DialogCall call;
-    call.kind = kind;
-    call.parent = parent;
-    call.title = title;
-    call.text = text;
-    calls_.push_back(call);
-    return calls_.back();
+    return calls_.emplace_back(DialogCall{kind, parent, title, text, MsgIcon::None, MsgButtons::Ok, {}});
 }
 
 MsgAnswer ScriptedDialogs::Message(QWidget* parent, const QString& text, const QString& title, MsgIcon icon,
@@ -75,15 +62,9 @@ MsgAnswer ScriptedDialogs::Message(QWidget* parent, const QString& text, const Q
 std::optional<QString> ScriptedDialogs::InputBox(QWidget* parent, const QString& prompt, const QString& title,
                                                  const QString& defaultText) {
     Record(DialogCall::Kind::InputBox, parent, title, prompt).state.fileName = defaultText;
-    QString text;
-    bool given = false;
     std::optional<QString> answer;
-    if (Take(inputs_, prompt, answer) && answer) {
-        given = true;
-        text = *answer;
-    }
-    if (!given) return std::nullopt;
-    return text;
+    Take(inputs_, prompt, answer);
+    return answer;
 }
 
 bool ScriptedDialogs::AnswerFile(DialogCall::Kind kind, QWidget* parent, FileDialogState& state) {

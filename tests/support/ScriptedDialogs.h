@@ -39,10 +39,8 @@ public:
     bool clipboardUnreadable = false;
 
     const std::vector<DialogCall>& Calls() const { return calls_; }
-    std::vector<DialogCall> Messages() const;
     // Each question in one line: "title [icon]: text", or "open|save title".
     QStringList Asked() const;
-    bool AllAnswersUsed() const;
 
     MsgAnswer Message(QWidget* parent, const QString& text, const QString& title, MsgIcon icon,
                       MsgButtons buttons) override;

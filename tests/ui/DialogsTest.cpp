@@ -28,8 +28,8 @@ TEST_F(Dialog, TheEditDialogHoldsOnlyNumbersAndOnlyOkGivesATime) {
     EXPECT_EQ(Child<QLabel>(u"lblSpeed"_s)->text(), u"15 = fast\n20 = regular\n30 = slow"_s);
     EXPECT_EQ(Child<QComboBox>(u"cmbAction"_s)->currentText(), u"Under construction"_s);
     const std::pair<QString, QString> texts[] = {
-        {u"25"_s, u"25"_s}, {u"-5"_s, u"-5"_s},   {u"1.5"_s, u"1.5"_s},  {u" 25 "_s, u" 25 "_s},
-        {u""_s, u"20"_s},   {u"abc"_s, u"20"_s},  {u"32768"_s, u"20"_s}, {u"15a"_s, u"20"_s}};
+        {u"25"_s, u"25"_s}, {u"-5"_s, u"-5"_s},  {u"1.5"_s, u"1.5"_s},  {u" 25 "_s, u" 25 "_s},
+        {u""_s, u"20"_s},   {u"abc"_s, u"20"_s}, {u"32768"_s, u"20"_s}, {u"15a"_s, u"20"_s}};
     for (const auto& [set, shown] : texts) {
         box->setText(set);
         EXPECT_EQ(box->text(), shown) << set.toStdString();
@@ -42,7 +42,8 @@ TEST_F(Dialog, TheEditDialogHoldsOnlyNumbersAndOnlyOkGivesATime) {
         Child<QLineEdit>(u"txtTime"_s)->setText(u"25"_s);
         if (close == std::string("Escape")) QTest::keyClick(Child(u"txtTime"_s), Qt::Key_Escape);
         if (close == std::string("close box")) dialog->close();
-        if (std::string(close).starts_with("cmd")) QTest::mouseClick(Child<QPushButton>(QString::fromLatin1(close)), Qt::LeftButton);
+        if (std::string(close).starts_with("cmd"))
+            QTest::mouseClick(Child<QPushButton>(QString::fromLatin1(close)), Qt::LeftButton);
         EXPECT_FALSE(dialog->isVisible());
         EXPECT_EQ(dialog->result() == QDialog::Accepted, close == std::string("cmdOK")) << close;
     }
@@ -52,15 +53,17 @@ TEST_F(Dialog, TheEditDialogHoldsOnlyNumbersAndOnlyOkGivesATime) {
 // The Options dialog shows what the store holds; OK writes all seven values
 // and has them take effect; Cancel writes nothing, even after browsing.
 TEST_F(Dialog, OptionsShowTheStoreAndOkWritesAllSevenValues) {
-    const QMap<QString, QString> stored = {{u"Name"_s, u"Quillon"_s},   {u"Clantag"_s, u"[QZT]"_s},
+    const QMap<QString, QString> stored = {{u"Name"_s, u"Quillon"_s},    {u"Clantag"_s, u"[QZT]"_s},
                                            {u"OpenDir"_s, u"/q/open"_s}, {u"SaveDir"_s, u"/q/save"_s},
                                            {u"Reverse"_s, u" 1"_s},      {u"EditItem"_s, u"1"_s}};
     for (auto it = stored.begin(); it != stored.end(); ++it) store.WriteValue(it.key(), it.value());
     const auto written = store.Writes().size();
     Open(u"frmOptions"_s);
     const auto shown = [this] {
-        return QStringList{Child<QLineEdit>(u"txtName"_s)->text(), Child<QLineEdit>(u"txtClan"_s)->text(),
-                           Child<QLineEdit>(u"txtOpen"_s)->text(), Child<QLineEdit>(u"txtSave"_s)->text(),
+        return QStringList{Child<QLineEdit>(u"txtName"_s)->text(),
+                           Child<QLineEdit>(u"txtClan"_s)->text(),
+                           Child<QLineEdit>(u"txtOpen"_s)->text(),
+                           Child<QLineEdit>(u"txtSave"_s)->text(),
                            Child<QCheckBox>(u"chkReverse"_s)->isChecked() ? u"1"_s : u"0"_s,
                            Child<QCheckBox>(u"chkEditItem"_s)->isChecked() ? u"1"_s : u"0"_s}
             .join(u'|');
@@ -81,7 +84,7 @@ TEST_F(Dialog, OptionsShowTheStoreAndOkWritesAllSevenValues) {
     QTest::mouseClick(Child<QPushButton>(u"cmdOK"_s), Qt::LeftButton);
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_EQ(store.Writes().mid(written), (QStringList{u"EditItem"_s, u"Name"_s, u"Clantag"_s, u"Reverse"_s,
-                                                         u"OpenDir"_s, u"SaveDir"_s, u"GenerateDir"_s}));
+                                                        u"OpenDir"_s, u"SaveDir"_s, u"GenerateDir"_s}));
     EXPECT_EQ(QStringList(store.Values().values()).join(u'|'), u"[QZT]!|0|/new/save|Quillon||1|/new/save"_s);
     EXPECT_EQ(reloads, 1);
 
@@ -164,7 +167,8 @@ INSTANTIATE_TEST_SUITE_P(
         PaintCase{"empty pane", {}, ""},
         PaintCase{"painted black is never painted", {Type{"Name"}, Select{0, 4}, Paint{7}}, "Name"},
         PaintCase{"ninth button paints the red of code 1", {Type{"Name"}, Select{0, 4}, Paint{8}}, "^1Name"},
-        PaintCase{"colour at the caret takes what is typed next", {Type{"ab"}, Paint{2}, Type{"xy"}}, "ab^3xy"},
+        PaintCase{
+            "colour at the caret takes what is typed next", {Type{"ab"}, Paint{2}, Type{"xy"}}, "ab^3xy"},
         PaintCase{"typed carets are plain characters", {Type{"^1x"}, Select{0, 3}, Paint{5}}, "^6^1x"},
         PaintCase{"Enter keeps the pane on one line", {Type{"ab\ncd"}}, "abcd"}),
     RowName);
@@ -179,7 +183,8 @@ TEST_P(SimpleEditSave, ReplacesTheListWithThePanesLines) {
     Perform(*this, static_cast<SimpleEditWindow&>(*dialog).PreviewPane(), GetParam().steps);
     QTest::mouseClick(Child<QPushButton>(u"cmdSave"_s), Qt::LeftButton);
     std::string lines;
-    for (const AnimationLine& line : Script().Lines()) lines += (lines.empty() ? "" : "|") + line.Text + "/" + line.Time;
+    for (const AnimationLine& line : Script().Lines())
+        lines += (lines.empty() ? "" : "|") + line.Text + "/" + line.Time;
     EXPECT_EQ(lines, GetParam().result);
     EXPECT_EQ(Script().SelectedIndex(), Script().Count() > 0 ? 1 : 0);
     EXPECT_TRUE(dialogs.Calls().empty());
@@ -194,11 +199,12 @@ INSTANTIATE_TEST_SUITE_P(
         // Pane positions: "ab" 0-1, break 2, "cde" 3-5, break 6, blanks 7-9,
         // breaks 10 and 11, "f" 12.
         PaintCase{"worked example",
-                  {Type{"ab\ncde\n   \n\nf"}, Select{0, 2}, Paint{0}, Select{3, 2}, Paint{0}, Select{5, 1}, Paint{1},
-                   Select{7, 3}, Paint{1}, Select{12, 1}, Paint{6}},
+                  {Type{"ab\ncde\n   \n\nf"}, Select{0, 2}, Paint{0}, Select{3, 2}, Paint{0}, Select{5, 1},
+                   Paint{1}, Select{7, 3}, Paint{1}, Select{12, 1}, Paint{6}},
                   "^1ab/15|cd^2e/15|^7f/15"},
         PaintCase{"empty pane empties the list", {}, ""},
-        PaintCase{"white blanks and empty lines empty the list", {Type{"   \n\n  \n"}, Select{0, 9}, Paint{6}}, ""},
+        PaintCase{
+            "white blanks and empty lines empty the list", {Type{"   \n\n  \n"}, Select{0, 9}, Paint{6}}, ""},
         PaintCase{"never painted text gets code 8", {Type{"plain"}}, "^8plain/15"},
         PaintCase{"Shift Enter starts a new line too", {Type{"ab\rcd"}}, "^8ab/15|cd/15"}),
     RowName);
@@ -225,17 +231,17 @@ TEST(About, ShowsNameVersionAndMakerInColourAndTheAddressesWhole) {
     AboutDialog window;
     EXPECT_EQ(window.windowTitle(), u"About Flickerscribe"_s);
     const Colour red = Rgb(255, 0, 0), green = Rgb(0, 255, 0);
-    EXPECT_EQ(window.PreviewPane().Runs(),
-              (std::vector<ColouredRun>{{"Flicker", red},
-                                        {"scribe\n\nVersion ", kWhite},
-                                        {"0.5.0\nMade by ", kBlack},
-                                        {"[QZT]", kWhite},
-                                        {"Quillon\n", green}}));
+    EXPECT_EQ(window.PreviewPane().Runs(), (std::vector<ColouredRun>{{"Flicker", red},
+                                                                     {"scribe\n\nVersion ", kWhite},
+                                                                     {"0.5.0\nMade by ", kBlack},
+                                                                     {"[QZT]", kWhite},
+                                                                     {"Quillon\n", green}}));
     const auto* label = window.findChild<QLabel*>(u"Label1"_s);
     const QStringList lines = label->text().split(u'\n');
     EXPECT_EQ(lines, (QStringList{u"Flickerscribe website @ http://www.qzt-clan.example/flickerscribe"_s,
                                   u"[QZT] Website @ http://www.qzt-clan.example/clanqzt"_s}));
-    for (const QString& line : lines) EXPECT_LE(label->fontMetrics().horizontalAdvance(line), label->contentsRect().width());
+    for (const QString& line : lines)
+        EXPECT_LE(label->fontMetrics().horizontalAdvance(line), label->contentsRect().width());
     EXPECT_GE(label->contentsRect().height(), 2 * label->fontMetrics().lineSpacing());
     EXPECT_EQ(label->font(), window.font());
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {

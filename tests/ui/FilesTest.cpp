@@ -34,7 +34,8 @@ public:
     void TearDown() override { write_seam::Reset(); }
 
     ScriptWindow& GeneratedScript() {
-        if (!scriptWindow) scriptWindow = std::make_unique<ScriptWindow>(Script(), dialogs, window->Settings());
+        if (!scriptWindow)
+            scriptWindow = std::make_unique<ScriptWindow>(Script(), dialogs, window->Settings());
         return *scriptWindow;
     }
     // The command with these answers to its file dialog (nullopt: Cancel).
@@ -57,8 +58,9 @@ public:
 
 const auto kRowName = [](const auto& info) {
     std::string name;
-    std::apply([&name](const auto&... v) { ((name += (name.empty() ? "" : "_") + testing::PrintToString(v)), ...); },
-               info.param);
+    std::apply(
+        [&name](const auto&... v) { ((name += (name.empty() ? "" : "_") + testing::PrintToString(v)), ...); },
+        info.param);
     return name;
 };
 
@@ -82,15 +84,17 @@ TEST_F(Files, EachDialogHasItsTitleFilterAndFolderAndCancelChangesNothing) {
             store.WriteValue(u"OpenDir"_s, folder);
             store.WriteValue(u"SaveDir"_s, folder);
             window->LoadSettings();
-            (c.command == Command::SaveScript ? GeneratedScript().SaveDialog() : window->FileDialog()).initialFolder =
-                u"/last"_s;
+            (c.command == Command::SaveScript ? GeneratedScript().SaveDialog() : window->FileDialog())
+                .initialFolder = u"/last"_s;
             Run(c.command, {std::nullopt});
             const FileDialogState& shown = dialogs.Calls().back().state;
             EXPECT_EQ((shown.title + u'|' + shown.filter).toStdString(), c.shown);
             EXPECT_EQ(shown.initialFolder, c.setting && !folder.isEmpty() ? folder : u"/last"_s);
         }
     }
-    EXPECT_EQ(dialogs.Asked().filter(u"Import note [info]: Note: Currently only .cfg files can be imported!"_s).size(),
+    EXPECT_EQ(dialogs.Asked()
+                  .filter(u"Import note [info]: Note: Currently only .cfg files can be imported!"_s)
+                  .size(),
               2);
     EXPECT_EQ(Lines(), kABC);
     EXPECT_TRUE(QDir(folder.path()).isEmpty());
@@ -127,8 +131,9 @@ TEST_P(MissingFiles, AreNotFoundAndLeaveTheList) {
 
 INSTANTIATE_TEST_SUITE_P(Table, MissingFiles,
                          testing::Combine(testing::Values(Command::Open, Command::Import),
-                                          testing::Values(Missing::NoSuchFile, Missing::Folder, Missing::Unreadable,
-                                                          Missing::Pipe, Missing::IoError)),
+                                          testing::Values(Missing::NoSuchFile, Missing::Folder,
+                                                          Missing::Unreadable, Missing::Pipe,
+                                                          Missing::IoError)),
                          kRowName);
 
 class Overwrite : public Files, public testing::WithParamInterface<std::tuple<Command, MsgAnswer>> {};
@@ -171,8 +176,8 @@ TEST_P(FailedSave, KeepsTheOldFileAndTellsTheError) {
     dialogs.QueueMessageAnswer(MsgAnswer::Yes);
     write_seam::FailNextWriteAfter(3, ENOSPC);
     Run(GetParam(), {path});
-    EXPECT_EQ(dialogs.Asked().last(),
-              u"Error [stop]: Error saving script!\n%1\n%2"_s.arg(ENOSPC).arg(QString::fromLocal8Bit(std::strerror(ENOSPC))));
+    EXPECT_EQ(dialogs.Asked().last(), u"Error [stop]: Error saving script!\n%1\n%2"_s.arg(ENOSPC).arg(
+                                          QString::fromLocal8Bit(std::strerror(ENOSPC))));
     EXPECT_EQ(ReadBytes(path), "old");
 }
 
@@ -185,7 +190,8 @@ TEST_F(Files, SavedAnimationsAndScriptsComeBack) {
     ASSERT_TRUE(Script().AppendLine("^1Hi", "15", "[none]"));
     ASSERT_TRUE(Script().AppendLine("\xE9 x", "abc", "kept out"));
     Run(Command::SaveAs, {PathOf(u"anim.fsq"_s)});
-    EXPECT_EQ(ReadBytes(PathOf(u"anim.fsq"_s)), "#v050#\r\n^1Hi\r\n15\r\n[none]\r\n\xE9 x\r\nabc\r\nkept out\r\n");
+    EXPECT_EQ(ReadBytes(PathOf(u"anim.fsq"_s)),
+              "#v050#\r\n^1Hi\r\n15\r\n[none]\r\n\xE9 x\r\nabc\r\nkept out\r\n");
     Trigger(u"btnnew"_s);
     Run(Command::Open, {PathOf(u"anim.fsq"_s)});
     EXPECT_EQ(Lines(), TextTimes({"^1Hi/15", "\xE9 x/abc"}));
@@ -215,8 +221,10 @@ INSTANTIATE_TEST_SUITE_P(Table, TooLong, testing::Values(Command::Open, Command:
 // --- the generated script's window
 
 const std::string kBanner =
-    "\r\n//--------------------------\\\\\r\n//----- SCRIPT MADE WITH ---\\\\\r\n//------ Flickerscribe -----\\\\"
-    "\r\n//----- by: [QZT]Quillon ---\\\\\r\n//--------------------------\\\\\r\n//-quillon@qzt-clan.example-\\\\"
+    "\r\n//--------------------------\\\\\r\n//----- SCRIPT MADE WITH ---\\\\\r\n//------ Flickerscribe "
+    "-----\\\\"
+    "\r\n//----- by: [QZT]Quillon "
+    "---\\\\\r\n//--------------------------\\\\\r\n//-quillon@qzt-clan.example-\\\\"
     "\r\n//--------------------------\\\\";
 
 TEST_F(Files, TheScriptWindowShowsTheScriptAndSavesWhatItsBoxHolds) {
@@ -225,9 +233,10 @@ TEST_F(Files, TheScriptWindowShowsTheScriptAndSavesWhatItsBoxHolds) {
     Start({"^1Fl^7ick/15", "/250", " ^2up/0", "\x80\xE9/1.5"});
     ScriptWindow& w = GeneratedScript();
     EXPECT_EQ(w.windowTitle(), u"Generate Brennock Script"_s);
-    EXPECT_EQ(w.ScriptFileBytes(), kBanner +
-                                       "\r\nset name \"^1Fl^7ick\"\r\nwait 15\r\nset name \"^7 \"\r\nwait 99"
-                                       "\r\nset name \"^7 ^2up\"\r\nwait 5\r\nset name \"\x80\xE9\"\r\nwait 1.5\r\n");
+    EXPECT_EQ(w.ScriptFileBytes(),
+              kBanner +
+                  "\r\nset name \"^1Fl^7ick\"\r\nwait 15\r\nset name \"^7 \"\r\nwait 99"
+                  "\r\nset name \"^7 ^2up\"\r\nwait 5\r\nset name \"\x80\xE9\"\r\nwait 1.5\r\n");
     // What the user types goes to the file as Windows-1252, "?" where it has
     // no character, each line break as CR LF.
     w.ScriptBox()->setPlainText(u"\u20ac\u00e9\u6f22\nx\u2028y"_s);

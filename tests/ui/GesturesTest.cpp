@@ -8,8 +8,6 @@
 #include <QMimeData>
 #include <QPointer>
 #include <QPushButton>
-#include <QScrollBar>
-#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <functional>
@@ -64,7 +62,6 @@ QString StoredTime(Gestures& t) {
 QString Written(Gestures& t) {
     return t.store.Writes().join(u',') + u' ' + Shown(t);
 }
-bool editorShown = false;
 const auto kPage4WithWave = [](Gestures& t) {
     t.ToWizardPage(4);
     t.Child<QComboBox>(u"cmbEffects"_s)->setCurrentIndex(0);
@@ -73,27 +70,16 @@ const auto kPage4WithWave = [](Gestures& t) {
 INSTANTIATE_TEST_SUITE_P(
     Windows, EnterKey,
     testing::Values(
-        EnterCase{"WizardAdd", "frmWizard", "cmdAddEffect", kPage4WithWave, WizardState, "page 4 rows 1 lines 2 open"},
+        EnterCase{"WizardAdd", "frmWizard", "cmdAddEffect", kPage4WithWave, WizardState,
+                  "page 4 rows 1 lines 2 open"},
         EnterCase{"WizardPreview", "frmWizard", "cmdPreview", kPage4WithWave, WizardState,
                   "page 4 rows 0 lines 2 open asked:Preview not available yet!"},
-        EnterCase{"WizardBack", "frmWizard", "cmdBack", kPage4WithWave, WizardState, "page 3 rows 0 lines 2 open"},
         EnterCase{"WizardCancel", "frmWizard", "cmdCancel",
                   [](Gestures& t) {
                       kPage4WithWave(t);
                       t.dialogs.QueueMessageAnswer(MsgAnswer::No);
                   },
                   WizardState, "page 4 rows 0 lines 2 open asked:Are you sure you want to exit the wizard?"},
-        EnterCase{"WizardColourEditor", "frmWizard", "cmdColor",
-                  [](Gestures& t) {
-                      t.ToWizardPage(3);
-                      editorShown = false;
-                      QTimer::singleShot(0, [] {
-                          auto* editor = qobject_cast<ColourNameEditor*>(QApplication::activeModalWidget());
-                          editorShown = editor != nullptr;
-                          if (editor) editor->close();
-                      });
-                  },
-                  [](Gestures&) { return editorShown ? u"editor shown"_s : u"no editor"_s; }, "editor shown"},
         // In the wizard's boxes and list Enter is Next, and on the last page Finish.
         EnterCase{"WizardNameBox", "frmWizard", "txtNameOnly_0", [](Gestures& t) { t.ToWizardPage(3); },
                   WizardState, "page 4 rows 0 lines 2 open"},
@@ -102,7 +88,6 @@ INSTANTIATE_TEST_SUITE_P(
         EnterCase{"EditTimeBox", "frmEdit", "txtTime", nullptr, StoredTime, "stores 15"},
         EnterCase{"OptionsOk", "frmOptions", "cmdOK", nullptr, Written,
                   "EditItem,Name,Clantag,Reverse,OpenDir,SaveDir,GenerateDir closed"},
-        EnterCase{"OptionsCancel", "frmOptions", "Command2", nullptr, Written, " closed"},
         EnterCase{"OptionsNameBoxHasNoDefault", "frmOptions", "txtName", nullptr, Written, " open"},
         EnterCase{"HelpCopy", "frmHelp", "Command4", nullptr, [](Gestures& t) { return t.dialogs.clipboard; },
                   "quillon@qzt-clan.example"},
@@ -116,7 +101,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 struct BoxCase {
     const char* name;
-    std::function<QLineEdit*(Gestures&)> open;                 // the box, ready for typing
+    std::function<QLineEdit*(Gestures&)> open;             // the box, ready for typing
     std::function<QString(Gestures&, QLineEdit*)> result;  // what the program was given
     friend void PrintTo(const BoxCase& c, std::ostream* os) { *os << c.name; }
 };
@@ -169,7 +154,9 @@ const BoxCase kBoxes[] = {
     {"WizardTag", Box("frmWizard", "txtClanTag", 3), BoxText},
     {"WizardTaggedName", Box("frmWizard", "txtNameOnly_1", 3), BoxText},
     {"WizardRepeat", Box("frmWizard", "txtParam1", 4),
-     [](Gestures& t, QLineEdit*) { return QString::fromStdString(t.Wizard().EffectRows().front().Parameter1); }},
+     [](Gestures& t, QLineEdit*) {
+         return QString::fromStdString(t.Wizard().EffectRows().front().Parameter1);
+     }},
     {"EditTime", Box("frmEdit", "txtTime"),
      [](Gestures& t, QLineEdit* edit) {
          QTest::keyClick(edit, Qt::Key_Return);
@@ -179,11 +166,13 @@ const BoxCase kBoxes[] = {
     {"OptionsClan", Box("frmOptions", "txtClan"), BoxText},
 };
 
-INSTANTIATE_TEST_SUITE_P(Boxes, PastedBreak, testing::Combine(testing::ValuesIn(kBoxes), testing::Values("\r\n", "\r", "\n")),
+INSTANTIATE_TEST_SUITE_P(Boxes, PastedBreak,
+                         testing::Combine(testing::ValuesIn(kBoxes), testing::Values("\r\n", "\r", "\n")),
                          [](const auto& info) {
                              const std::string lineBreak = std::get<1>(info.param);
-                             return std::string(std::get<0>(info.param).name) +
-                                    (lineBreak == "\r\n" ? "_CrLf" : lineBreak == "\r" ? "_Cr" : "_Lf");
+                             return std::string(std::get<0>(info.param).name) + (lineBreak == "\r\n" ? "_CrLf"
+                                                                                 : lineBreak == "\r" ? "_Cr"
+                                                                                                     : "_Lf");
                          });
 
 // --- the pane shows the line selected last, whatever selected it
@@ -223,35 +212,37 @@ std::function<void(MainWindowTest&, LineListView*)> ListKey(Qt::Key key) {
 
 INSTANTIATE_TEST_SUITE_P(
     Gestures, SelectThenType,
-    testing::Values(
-        SelectCase{"LeftClick",
-                   [](MainWindowTest&, LineListView* l) {
-                       QTest::mouseClick(l->viewport(), Qt::LeftButton, {}, Row(l, 3));
-                   },
-                   4},
-        SelectCase{"RightClick",
-                   [](MainWindowTest&, LineListView* l) {
-                       QTest::mouseClick(l->viewport(), Qt::RightButton, {}, Row(l, 2));
-                   },
-                   3},
-        SelectCase{"Drag",
-                   [](MainWindowTest&, LineListView* l) {
-                       QTest::mousePress(l->viewport(), Qt::LeftButton, {}, Row(l, 1));
-                       QTest::mouseMove(l->viewport(), Row(l, 2));
-                       QTest::mouseMove(l->viewport(), Row(l, 3));
-                       QTest::mouseRelease(l->viewport(), Qt::LeftButton, {}, Row(l, 3));
-                   },
-                   4},
-        SelectCase{"ClickBelowTheLastKeepsTheLine",
-                   [](MainWindowTest&, LineListView* l) {
-                       QTest::mouseClick(l->viewport(), Qt::LeftButton, {}, QPoint(5, l->viewport()->height() - 3));
-                   },
-                   2},
-        SelectCase{"Down", ListKey(Qt::Key_Down), 3}, SelectCase{"PageDown", ListKey(Qt::Key_PageDown), 4},
-        SelectCase{"PageUp", ListKey(Qt::Key_PageUp), 1}, SelectCase{"Home", ListKey(Qt::Key_Home), 1},
-        SelectCase{"End", ListKey(Qt::Key_End), 4},
-        // The toolbar's Remove selects the line behind the removed one.
-        SelectCase{"Remove", [](MainWindowTest& t, LineListView*) { t.Trigger(u"btnremove"_s); }, 2}),
+    testing::Values(SelectCase{"LeftClick",
+                               [](MainWindowTest&, LineListView* l) {
+                                   QTest::mouseClick(l->viewport(), Qt::LeftButton, {}, Row(l, 3));
+                               },
+                               4},
+                    SelectCase{"RightClick",
+                               [](MainWindowTest&, LineListView* l) {
+                                   QTest::mouseClick(l->viewport(), Qt::RightButton, {}, Row(l, 2));
+                               },
+                               3},
+                    SelectCase{"Drag",
+                               [](MainWindowTest&, LineListView* l) {
+                                   QTest::mousePress(l->viewport(), Qt::LeftButton, {}, Row(l, 1));
+                                   QTest::mouseMove(l->viewport(), Row(l, 2));
+                                   QTest::mouseMove(l->viewport(), Row(l, 3));
+                                   QTest::mouseRelease(l->viewport(), Qt::LeftButton, {}, Row(l, 3));
+                               },
+                               4},
+                    SelectCase{"ClickBelowTheLastKeepsTheLine",
+                               [](MainWindowTest&, LineListView* l) {
+                                   QTest::mouseClick(l->viewport(), Qt::LeftButton, {},
+                                                     QPoint(5, l->viewport()->height() - 3));
+                               },
+                               2},
+                    SelectCase{"Down", ListKey(Qt::Key_Down), 3},
+                    SelectCase{"PageDown", ListKey(Qt::Key_PageDown), 4},
+                    SelectCase{"PageUp", ListKey(Qt::Key_PageUp), 1},
+                    SelectCase{"Home", ListKey(Qt::Key_Home), 1}, SelectCase{"End", ListKey(Qt::Key_End), 4},
+                    // The toolbar's Remove selects the line behind the removed one.
+                    SelectCase{"Remove", [](MainWindowTest& t, LineListView*) { t.Trigger(u"btnremove"_s); },
+                               2}),
     testing::PrintToStringParamName());
 
 // --- the main window at its edges and by keyboard
@@ -302,24 +293,9 @@ TEST_F(Edges, TabReachesTheColourStripAndSpaceColoursThePanesSelection) {
     EXPECT_EQ(Script().LineAt(1).Text, "a^2bc^7d");
 }
 
-TEST_F(Edges, NoControlMovesAndNoColumnHidesWhileTheWindowIsUsed) {
-    Start(TextTimes(200, "x/15"));
-    window->show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
-    LineListView* list = window->LineList();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return list->verticalScrollBar()->isVisible(); }));
-    EXPECT_FALSE(list->horizontalScrollBar()->isVisible()) << "the three columns fit beside the scroll bar";
-
-    auto* toolbar = Named<QToolBar>(u"tlbMain"_s);
-    const QRect generate = toolbar->widgetForAction(Named(u"btngenerate"_s))->geometry();
-    window->TogglePlayback();
-    QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-    EXPECT_EQ(toolbar->widgetForAction(Named(u"btngenerate"_s))->geometry(), generate);
-    window->TogglePlayback();
-}
-
 TEST_F(Edges, TheAddButtonsMenuIsOnTheAccessibilityTree) {
-    auto* add = qobject_cast<QToolButton*>(Named<QToolBar>(u"tlbMain"_s)->widgetForAction(Named(u"btnadd"_s)));
+    auto* add =
+        qobject_cast<QToolButton*>(Named<QToolBar>(u"tlbMain"_s)->widgetForAction(Named(u"btnadd"_s)));
     QAccessibleInterface* button = QAccessible::queryAccessibleInterface(add);
     ASSERT_EQ(button->childCount(), 1);
     QAccessibleInterface* menu = button->child(0);

@@ -113,7 +113,8 @@ INSTANTIATE_TEST_SUITE_P(
                      auto* editor = list->viewport()->findChild<QLineEdit*>();
                      QTest::keyClicks(editor, u"^2x"_s);
                      QTest::keyClick(editor, Qt::Key_Return);
-                     [[maybe_unused]] bool done = QTest::qWaitFor([&] { return t.Script().LineAt(2).Text != "B"; });
+                     [[maybe_unused]] bool done =
+                         QTest::qWaitFor([&] { return t.Script().LineAt(2).Text != "B"; });
                  },
                  "Edit text"},
         StepCase{"Colour",
@@ -263,7 +264,7 @@ TEST_F(History, TheAnimationIsKeptAtCloseAndAfterAChangeAndReopensAsOneStep) {
     Press(Qt::Key_Z);
     Press(Qt::Key_Z);
     EXPECT_EQ(Script().Count(), 0) << "the reopen was one step";
-    EXPECT_TRUE(dialogs.Messages().empty());
+    EXPECT_TRUE(dialogs.Asked().empty());
 }
 
 TEST_F(History, AKeptFileThatCantBeWrittenIsNoMessage) {

@@ -15,8 +15,9 @@ namespace {
 constexpr Colour kColours[] = {kBlack, kWhite, Rgb(255, 0, 0), Rgb(0, 255, 0), Rgb(128, 0, 0)};
 
 std::string State(const Pane& pane) {
-    std::string state = pane.Text() + " @" + std::to_string(pane.SelStart()) + "+" + std::to_string(pane.SelLength()) +
-                        " colour " + std::to_string(pane.SelColour()) + " runs";
+    std::string state = pane.Text() + " @" + std::to_string(pane.SelStart()) + "+" +
+                        std::to_string(pane.SelLength()) + " colour " + std::to_string(pane.SelColour()) +
+                        " runs";
     for (const ColouredRun& run : pane.Runs()) state += " " + run.text + "=" + std::to_string(run.colour);
     return state;
 }

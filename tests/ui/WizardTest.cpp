@@ -36,7 +36,8 @@ public:
     }
     void ClickRow(int row) {
         auto* list = Child<QTreeWidget>(u"lvwEffects"_s);
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->topLevelItem(row)).center());
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                          list->visualItemRect(list->topLevelItem(row)).center());
     }
     // The effect list and the parameter boxes with their labels, as shown.
     QString Effects() {
@@ -44,8 +45,8 @@ public:
         for (const EffectRow& row : Wizard().EffectRows())
             rows << QString::fromStdString(row.Name + "," + row.Parameter1 + "," + row.Parameter2);
         return rows.join(u';') + u" | "_s + Child<QLabel>(u"lblParam1"_s)->text() + u'=' +
-               Child<QLineEdit>(u"txtParam1"_s)->text() + u' ' + Child<QLabel>(u"lblParam2"_s)->text() + u'=' +
-               Child<QLineEdit>(u"txtParam2"_s)->text();
+               Child<QLineEdit>(u"txtParam1"_s)->text() + u' ' + Child<QLabel>(u"lblParam2"_s)->text() +
+               u'=' + Child<QLineEdit>(u"txtParam2"_s)->text();
     }
     std::string Texts() {
         std::string texts;
@@ -73,8 +74,9 @@ TEST_F(WizardTest, OpensWithTheSettingsAndPagesByNextBackAndEnter) {
     EXPECT_FALSE(Child<QRadioButton>(u"optWizStyle_1"_s)->isEnabled());
     // One page on show at a time; Back off on page 1; Next reads Finish on
     // the last page.
-    const std::pair<const char*, int> steps[] = {{"", 1}, {"Enter", 2}, {"cmdNext", 3}, {"cmdNext", 4},
-                                                 {"cmdBack", 3}, {"cmdBack", 2}, {"cmdBack", 1}};
+    const std::pair<const char*, int> steps[] = {{"", 1},        {"Enter", 2},   {"cmdNext", 3},
+                                                 {"cmdNext", 4}, {"cmdBack", 3}, {"cmdBack", 2},
+                                                 {"cmdBack", 1}};
     for (const auto& [press, page] : steps) {
         if (press == std::string("Enter")) {
             QTest::keyClick(dialog.get(), Qt::Key_Return);
@@ -162,7 +164,8 @@ TEST_F(WizardTest, QuestionsAndLimitsOfARun) {
         int lines;
     } cases[] = {
         {2, "5", MsgAnswer::No,
-         "Processing effect list... [question]: Are you sure you want to repeat the BOUNCE EFFECT 5 times?", 0},
+         "Processing effect list... [question]: Are you sure you want to repeat the BOUNCE EFFECT 5 times?",
+         0},
         {7, "12", MsgAnswer::Yes, "Line limit reached [warning]: An", kMaxLines},
         {32768, "1", std::nullopt,
          "Animation Script Wizard [warning]: A name or a clan tag can hold at most 32767 characters. The "
@@ -179,7 +182,8 @@ TEST_F(WizardTest, QuestionsAndLimitsOfARun) {
         Type(u"txtParam1"_s, QString::fromLatin1(c.repeat));
         if (c.answer) dialogs.QueueMessageAnswer(*c.answer);
         Click(u"cmdNext"_s);
-        EXPECT_TRUE(dialogs.Asked().last().startsWith(QString::fromLatin1(c.asked))) << dialogs.Asked().last().toStdString();
+        EXPECT_TRUE(dialogs.Asked().last().startsWith(QString::fromLatin1(c.asked)))
+            << dialogs.Asked().last().toStdString();
         EXPECT_EQ(dialogs.Calls().back().parent, dialog.get());
         EXPECT_EQ(Script().Count(), c.lines);
         EXPECT_FALSE(dialog->isVisible());
@@ -212,7 +216,8 @@ TEST_F(WizardTest, LeavingWithoutFinishAndPreview) {
         EXPECT_EQ(dialog->isVisible(), c.stays) << c.how;
         EXPECT_EQ(Lines(), TextTimes{"mine/20"});
     }
-    EXPECT_EQ(dialogs.Asked().first(), u"Exit wizard? [question]: Are you sure you want to exit the wizard?"_s);
+    EXPECT_EQ(dialogs.Asked().first(),
+              u"Exit wizard? [question]: Are you sure you want to exit the wizard?"_s);
     OpenWith({}, {}, false);
     ToWizardPage(4);
     Click(u"cmdPreview"_s);
