@@ -9,14 +9,13 @@
 namespace flickerscribe::settings {
 
 // A settings store in memory for tests: starts empty (a first run) or with
-// the values given, and tells what was read and whether anything was written.
+// the values given, and tells the names written, in order.
 class MemorySettingsStore : public SettingsStore {
 public:
     MemorySettingsStore() = default;
     explicit MemorySettingsStore(QMap<QString, QString> values) : values_(std::move(values)) {}
 
     QString ReadValue(const QString& valueName, const QString& defaultValue = {}) const override {
-        reads_.append(valueName);
         const auto it = values_.constFind(valueName);
         return it == values_.constEnd() ? defaultValue : *it;
     }
@@ -27,15 +26,10 @@ public:
     }
 
     const QMap<QString, QString>& Values() const { return values_; }
-    bool Has(const QString& valueName) const { return values_.contains(valueName); }
-    // The names read and written, in order.
-    const QStringList& Reads() const { return reads_; }
     const QStringList& Writes() const { return writes_; }
-    bool Written() const { return !writes_.isEmpty(); }
 
 private:
     QMap<QString, QString> values_;
-    mutable QStringList reads_;
     QStringList writes_;
 };
 

@@ -7,7 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <variant>
+#include <cstdlib>
 
 #include "MainWindowFixture.h"
 #include "colour/Palette.h"
@@ -99,115 +99,71 @@ TEST_F(Dialog, OptionsShowTheStoreAndOkWritesAllSevenValues) {
 
 // --- the painting windows, step by step
 
-struct Type {
-    const char* text;  // '\n' presses Enter, '\r' Shift+Enter
+struct PaintCase {
+    const char* window;
+    // Typed text, where "[s,l]" selects l characters from s, "#n" clicks
+    // colour button n, "\n" is Enter and "\r" Shift+Enter.
+    const char* steps;
+    const char* result;  // the clipboard, or the saved lines joined by '|'
+    friend void PrintTo(const PaintCase& c, std::ostream* os) { *os << c.window << ' ' << c.steps; }
 };
-struct Select {
-    int start, length;
-};
-struct Paint {
-    int button;
-};
-using Step = std::variant<Type, Select, Paint>;
 
-void Perform(DialogTest& t, Pane& pane, const std::vector<Step>& steps) {
-    auto* edit = t.Child<QTextEdit>(u"txtPreview"_s);
-    for (const Step& step : steps) {
-        if (const auto* type = std::get_if<Type>(&step)) {
-            for (const char* c = type->text; *c != '\0'; ++c) {
-                if (*c == '\n' || *c == '\r')
-                    QTest::keyClick(edit, Qt::Key_Return, *c == '\r' ? Qt::ShiftModifier : Qt::NoModifier);
-                else
-                    QTest::keyClicks(edit, QString(QChar::fromLatin1(*c)));
-            }
-        } else if (const auto* select = std::get_if<Select>(&step)) {
-            pane.SetSelStart(select->start);
-            pane.SetSelLength(select->length);
-        } else {
-            QTest::mouseClick(t.Child<QPushButton>(u"cmdColor_%1"_s.arg(std::get<Paint>(step).button)),
+class Painting : public DialogTest, public testing::WithParamInterface<PaintCase> {};
+
+// The colour name editor copies its pane as coded text, never-painted black
+// needing no code; Simple Edit's Save replaces the list by the pane's lines,
+// asks nothing and stays open.
+TEST_P(Painting, GivesThePaneAsCodedText) {
+    const PaintCase& c = GetParam();
+    const bool editor = c.window == std::string("frmColorEditor");
+    Start({"^1old/40", "older/abc"}, 2);
+    Open(QString::fromLatin1(c.window));
+    Pane& pane = editor ? static_cast<ColourNameEditor&>(*dialog).PreviewPane()
+                        : static_cast<SimpleEditWindow&>(*dialog).PreviewPane();
+    auto* edit = Child<QTextEdit>(u"txtPreview"_s);
+    for (const char* step = c.steps; *step != '\0'; ++step) {
+        char* end = nullptr;
+        if (*step == '[') {
+            pane.SetSelStart(int(std::strtol(step + 1, &end, 10)));
+            pane.SetSelLength(int(std::strtol(end + 1, &end, 10)));
+            step = end;
+        } else if (*step == '#') {
+            QTest::mouseClick(Child<QPushButton>(u"cmdColor_"_s + QChar::fromLatin1(*++step)),
                               Qt::LeftButton);
+        } else if (*step == '\n' || *step == '\r') {
+            QTest::keyClick(edit, Qt::Key_Return, *step == '\r' ? Qt::ShiftModifier : Qt::NoModifier);
+        } else {
+            QTest::keyClicks(edit, QString(QChar::fromLatin1(*step)));
         }
     }
-}
-
-struct PaintCase {
-    const char* name;
-    std::vector<Step> steps;
-    const char* result;  // the clipboard, or the saved lines joined by '|'
-    friend void PrintTo(const PaintCase& c, std::ostream* os) { *os << c.name; }
-};
-std::string RowName(const testing::TestParamInfo<PaintCase>& info) {
-    std::string name = info.param.name;
-    for (char& c : name) c = std::isalnum(static_cast<unsigned char>(c)) ? c : '_';
-    return name;
-}
-
-class ColourNameEditorCopy : public DialogTest, public testing::WithParamInterface<PaintCase> {};
-
-// The copy is the pane as coded text, never-painted black needing no code.
-TEST_P(ColourNameEditorCopy, PutsThePaneOnTheClipboardAsCodedText) {
-    Open(u"frmColorEditor"_s);
-    EXPECT_EQ(dialog->windowTitle(), u"Color name editor"_s);
-    Perform(*this, static_cast<ColourNameEditor&>(*dialog).PreviewPane(), GetParam().steps);
-    QTest::mouseClick(Child<QPushButton>(u"cmdClipboard"_s), Qt::LeftButton);
-    EXPECT_EQ(dialogs.clipboard.toStdString(), GetParam().result);
-    EXPECT_TRUE(dialog->isVisible());
-    QTest::keyClick(dialog.get(), Qt::Key_Escape);
-    EXPECT_FALSE(dialog->isVisible());
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Table, ColourNameEditorCopy,
-    testing::Values(
-        PaintCase{"never painted", {Type{"plain"}}, "plain"},
-        PaintCase{"red then never painted", {Type{"Name"}, Select{0, 2}, Paint{0}}, "^1Na^8me"},
-        PaintCase{"red white red",
-                  {Type{"Name!"}, Select{0, 2}, Paint{0}, Select{2, 2}, Paint{6}, Select{4, 1}, Paint{0}},
-                  "^1Na^7me^1!"},
-        PaintCase{"empty pane", {}, ""},
-        PaintCase{"painted black is never painted", {Type{"Name"}, Select{0, 4}, Paint{7}}, "Name"},
-        PaintCase{"ninth button paints the red of code 1", {Type{"Name"}, Select{0, 4}, Paint{8}}, "^1Name"},
-        PaintCase{
-            "colour at the caret takes what is typed next", {Type{"ab"}, Paint{2}, Type{"xy"}}, "ab^3xy"},
-        PaintCase{"typed carets are plain characters", {Type{"^1x"}, Select{0, 3}, Paint{5}}, "^6^1x"},
-        PaintCase{"Enter keeps the pane on one line", {Type{"ab\ncd"}}, "abcd"}),
-    RowName);
-
-class SimpleEditSave : public DialogTest, public testing::WithParamInterface<PaintCase> {};
-
-// Save replaces the list by the pane's text lines; the window stays open with
-// its text, and asks nothing.
-TEST_P(SimpleEditSave, ReplacesTheListWithThePanesLines) {
-    Start({"^1old/40", "older/abc"}, 2);
-    Open(u"frmSimpleEdit"_s);
-    Perform(*this, static_cast<SimpleEditWindow&>(*dialog).PreviewPane(), GetParam().steps);
-    QTest::mouseClick(Child<QPushButton>(u"cmdSave"_s), Qt::LeftButton);
+    QTest::mouseClick(Child<QPushButton>(editor ? u"cmdClipboard"_s : u"cmdSave"_s), Qt::LeftButton);
     std::string lines;
     for (const AnimationLine& line : Script().Lines())
         lines += (lines.empty() ? "" : "|") + line.Text + "/" + line.Time;
-    EXPECT_EQ(lines, GetParam().result);
-    EXPECT_EQ(Script().SelectedIndex(), Script().Count() > 0 ? 1 : 0);
-    EXPECT_TRUE(dialogs.Calls().empty());
-    EXPECT_TRUE(dialog->isVisible());
-    QTest::keyClick(Child(u"txtPreview"_s), Qt::Key_Escape);
-    EXPECT_TRUE(dialog->isVisible()) << "Escape would throw the pane away";
+    EXPECT_EQ(editor ? dialogs.clipboard.toStdString() : lines, c.result);
+    EXPECT_EQ(Script().SelectedIndex(), editor ? 2 : Script().Count() > 0 ? 1 : 0);
+    EXPECT_EQ(dialogs.Calls().size(), editor ? 1u : 0u);
+    QTest::keyClick(edit, Qt::Key_Escape);
+    EXPECT_EQ(dialog->isVisible(), !editor) << "Escape would throw Simple Edit's pane away";
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Table, SimpleEditSave,
-    testing::Values(
-        // Pane positions: "ab" 0-1, break 2, "cde" 3-5, break 6, blanks 7-9,
-        // breaks 10 and 11, "f" 12.
-        PaintCase{"worked example",
-                  {Type{"ab\ncde\n   \n\nf"}, Select{0, 2}, Paint{0}, Select{3, 2}, Paint{0}, Select{5, 1},
-                   Paint{1}, Select{7, 3}, Paint{1}, Select{12, 1}, Paint{6}},
-                  "^1ab/15|cd^2e/15|^7f/15"},
-        PaintCase{"empty pane empties the list", {}, ""},
-        PaintCase{
-            "white blanks and empty lines empty the list", {Type{"   \n\n  \n"}, Select{0, 9}, Paint{6}}, ""},
-        PaintCase{"never painted text gets code 8", {Type{"plain"}}, "^8plain/15"},
-        PaintCase{"Shift Enter starts a new line too", {Type{"ab\rcd"}}, "^8ab/15|cd/15"}),
-    RowName);
+    Table, Painting,
+    testing::Values(PaintCase{"frmColorEditor", "plain", "plain"},
+                    PaintCase{"frmColorEditor", "Name[0,2]#0", "^1Na^8me"},
+                    PaintCase{"frmColorEditor", "Name![0,2]#0[2,2]#6[4,1]#0", "^1Na^7me^1!"},
+                    PaintCase{"frmColorEditor", "", ""}, PaintCase{"frmColorEditor", "Name[0,4]#7", "Name"},
+                    PaintCase{"frmColorEditor", "Name[0,4]#8", "^1Name"},  // the ninth button is code 1
+                    PaintCase{"frmColorEditor", "ab#2xy", "ab^3xy"},
+                    PaintCase{"frmColorEditor", "^1x[0,3]#5", "^6^1x"},
+                    PaintCase{"frmColorEditor", "ab\ncd", "abcd"},
+                    // Pane positions: "ab" 0-1, break 2, "cde" 3-5, break 6,
+                    // blanks 7-9, breaks 10 and 11, "f" 12.
+                    PaintCase{"frmSimpleEdit", "ab\ncde\n   \n\nf[0,2]#0[3,2]#0[5,1]#1[7,3]#1[12,1]#6",
+                              "^1ab/15|cd^2e/15|^7f/15"},
+                    PaintCase{"frmSimpleEdit", "", ""}, PaintCase{"frmSimpleEdit", "   \n\n  \n[0,9]#6", ""},
+                    PaintCase{"frmSimpleEdit", "plain", "^8plain/15"},
+                    PaintCase{"frmSimpleEdit", "ab\rcd", "^8ab/15|cd/15"}));
 
 TEST_F(Dialog, SimpleEditStopsAtTheLineLimitAndCloseSavesNothing) {
     Open(u"frmSimpleEdit"_s);

