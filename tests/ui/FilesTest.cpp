@@ -64,32 +64,25 @@ const auto kRowName = [](const auto& info) {
     return name;
 };
 
-// The dialog's title and filter; its folder is the setting of the moment, or,
-// without one, wherever the dialog was last. Cancel changes nothing.
-TEST_F(Files, EachDialogHasItsTitleFilterAndFolderAndCancelChangesNothing) {
+// Each file dialog opens in the folder the settings give at the moment, or,
+// without one, wherever it was last. Cancel changes nothing.
+TEST_F(Files, EachDialogOpensInItsFolderAndCancelChangesNothing) {
     Start(kABC);
-    const struct {
-        Command command;
-        const char* setting;  // the folder setting it follows
-        const char* shown;
-    } cases[] = {
-        {Command::Open, "OpenDir", "Open Brennock Animation|Brennock Animation Script (*.fsq)|*.fsq"},
-        {Command::SaveAs, "SaveDir", "Save Brennock Animation|Brennock Animation Script (*.fsq)|*.fsq"},
-        {Command::Import, nullptr, "Import file|Brennock Scripts (*.cfg)|*.cfg"},
-        {Command::SaveScript, "SaveDir", "Save Script|Brennock Script (*.cfg)|*.cfg|All Files(*.*)|*.*"},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(testing::PrintToString(c.command));
+    const std::pair<Command, bool> cases[] = {{Command::Open, true},
+                                              {Command::SaveAs, true},
+                                              {Command::Import, false},
+                                              {Command::SaveScript, true}};
+    for (const auto& [command, followsSetting] : cases) {
+        SCOPED_TRACE(testing::PrintToString(command));
         for (const QString& folder : {u"/set"_s, QString()}) {
             store.WriteValue(u"OpenDir"_s, folder);
             store.WriteValue(u"SaveDir"_s, folder);
             window->LoadSettings();
-            (c.command == Command::SaveScript ? GeneratedScript().SaveDialog() : window->FileDialog())
+            (command == Command::SaveScript ? GeneratedScript().SaveDialog() : window->FileDialog())
                 .initialFolder = u"/last"_s;
-            Run(c.command, {std::nullopt});
-            const FileDialogState& shown = dialogs.Calls().back().state;
-            EXPECT_EQ((shown.title + u'|' + shown.filter).toStdString(), c.shown);
-            EXPECT_EQ(shown.initialFolder, c.setting && !folder.isEmpty() ? folder : u"/last"_s);
+            Run(command, {std::nullopt});
+            EXPECT_EQ(dialogs.Calls().back().state.initialFolder,
+                      followsSetting && !folder.isEmpty() ? folder : u"/last"_s);
         }
     }
     EXPECT_EQ(dialogs.Asked()
@@ -232,7 +225,6 @@ TEST_F(Files, TheScriptWindowShowsTheScriptAndSavesWhatItsBoxHolds) {
     scriptWindow.reset();
     Start({"^1Fl^7ick/15", "/250", " ^2up/0", "\x80\xE9/1.5"});
     ScriptWindow& w = GeneratedScript();
-    EXPECT_EQ(w.windowTitle(), u"Generate Brennock Script"_s);
     EXPECT_EQ(w.ScriptFileBytes(),
               kBanner +
                   "\r\nset name \"^1Fl^7ick\"\r\nwait 15\r\nset name \"^7 \"\r\nwait 99"

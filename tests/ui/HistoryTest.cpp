@@ -94,6 +94,15 @@ std::function<void(History&)> Action(const char* name) {
     return [name](History& t) { Trigger(t, name); };
 }
 
+// The command, given a file of these bytes.
+std::function<void(History&)> OpenFile(const char* command, const char* bytes) {
+    return [=](History& t) {
+        WriteBytes(t.PathOf(u"file"_s), bytes);
+        t.dialogs.QueueOpen(t.PathOf(u"file"_s));
+        Trigger(t, command);
+    };
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Commands, EveryChange,
     testing::Values(
@@ -127,22 +136,8 @@ INSTANTIATE_TEST_SUITE_P(
                  "Colour"},
         StepCase{"Typing", [](History& t) { QTest::keyClicks(t.window->PaneEdit(), u"xyz"_s); }, "Typing"},
         StepCase{"New", Action("btnnew"), "New"},
-        StepCase{"Open",
-                 [](History& t) {
-                     const QString path = t.PathOf(u"a.fsq"_s);
-                     WriteBytes(path, "#v050#\r\n^1One\r\n9\r\n[none]\r\n");
-                     t.dialogs.QueueOpen(path);
-                     Trigger(t, "mnuFileOpen");
-                 },
-                 "Open"},
-        StepCase{"Import",
-                 [](History& t) {
-                     const QString path = t.PathOf(u"a.cfg"_s);
-                     WriteBytes(path, "set name \"x\"\nwait 7\n");
-                     t.dialogs.QueueOpen(path);
-                     Trigger(t, "mnuFileImport");
-                 },
-                 "Import"},
+        StepCase{"Open", OpenFile("mnuFileOpen", "#v050#\r\n^1One\r\n9\r\n[none]\r\n"), "Open"},
+        StepCase{"Import", OpenFile("mnuFileImport", "set name \"x\"\nwait 7\n"), "Import"},
         StepCase{"Wizard",
                  [](History& t) {
                      Trigger(t, "btnwizard");
