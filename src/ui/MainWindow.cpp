@@ -122,8 +122,8 @@ MainWindow::MainWindow(Dialogs& dialogs, settings::SettingsStore& store, QString
 }
 
 MainWindow::~MainWindow() {
-    // The model listens to the script, which goes before the widgets do.
-    lineList_->setModel(nullptr);
+    // The model listens to the script, which goes before the widgets do: the
+    // model goes first, and the list is left without one.
     delete model_;
 }
 
@@ -188,7 +188,6 @@ void MainWindow::BuildToolbar() {
     toolbar_ = addToolBar(u"Toolbar"_s);
     toolbar_->setObjectName(names::kToolbar);
     toolbar_->setMovable(false);
-    toolbar_->setFloatable(false);
     toolbar_->toggleViewAction()->setEnabled(false);
     toolbar_->setContextMenuPolicy(Qt::PreventContextMenu);
     toolbar_->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);

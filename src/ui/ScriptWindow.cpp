@@ -81,7 +81,6 @@ ScriptWindow::ScriptWindow(const AnimationScript& script, Dialogs& dialogs,
 ScriptWindow::~ScriptWindow() = default;
 
 void ScriptWindow::BuildScript() {
-    scriptBox_->clear();
     // The window isn't shown yet: the messages stand over its owner.
     QWidget* owner = parentWidget();
     const std::string text = BuildScriptText(script_, [this, owner](const std::string& message) {

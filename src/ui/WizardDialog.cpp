@@ -192,17 +192,10 @@ void WizardDialog::LoadEffectRow(int row) {
     parameter1Box_->setText(item->text(1));
     parameter2Box_->setText(item->text(2));
 
-    const QString effect = item->text(kNameColumn);
-    if (effect == u"Wave 2"_s) {
-        parameter1Label_->setText(u"No options"_s);
-        parameter2Label_->setText(u"No options"_s);
-    } else if (effect == u"Bounce"_s) {
-        parameter1Label_->setText(u"Repeat"_s);
-        parameter2Label_->setText(u"No options"_s);
-    } else {
-        parameter1Label_->setText(u"Parameter 1"_s);
-        parameter2Label_->setText(u"Parameter 2"_s);
-    }
+    // Bounce repeats; Wave 2 takes no options.
+    const bool bounce = item->text(kNameColumn) == u"Bounce"_s;
+    parameter1Label_->setText(bounce ? u"Repeat"_s : u"No options"_s);
+    parameter2Label_->setText(u"No options"_s);
 }
 
 void WizardDialog::StoreParameter(int column, const QString& text) {
