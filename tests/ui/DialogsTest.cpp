@@ -163,6 +163,17 @@ INSTANTIATE_TEST_SUITE_P(
                     PaintCase{"frmSimpleEdit", "plain", "^8plain/15"},
                     PaintCase{"frmSimpleEdit", "ab\rcd", "^8ab/15|cd/15"}));
 
+// Each dialog opens with the focus where the user types first.
+TEST_F(Dialog, OpensWithTheFocusWhereTheUserTypesFirst) {
+    for (const auto& [name, focus] :
+         {std::pair{u"frmSimpleEdit"_s, u"txtPreview"_s}, std::pair{u"frmColorEditor"_s, u"txtPreview"_s},
+          std::pair{u"frmEdit"_s, u"txtTime"_s}, std::pair{u"frmOptions"_s, u"cmdOK"_s}}) {
+        Open(name).activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
+        EXPECT_EQ(QApplication::focusWidget()->objectName(), focus) << name.toStdString();
+    }
+}
+
 TEST_F(Dialog, SimpleEditStopsAtTheLineLimitAndCloseSavesNothing) {
     Open(u"frmSimpleEdit"_s);
     std::string text;
@@ -197,6 +208,16 @@ TEST(About, ShowsNameVersionAndMakerInColourAndTheAddressesWhole) {
         EXPECT_LE(label->fontMetrics().horizontalAdvance(line), label->contentsRect().width());
     EXPECT_GE(label->contentsRect().height(), 2 * label->fontMetrics().lineSpacing());
     EXPECT_EQ(label->font(), window.font());
+    // Over the addresses an etched line, grey over white; below them OK,
+    // inside the window.
+    const QImage shot = window.grab().toImage();
+    for (const auto& [name, colour] :
+         {std::pair{u"Line1_1"_s, QColor(128, 128, 128)}, std::pair{u"Line1_0"_s, QColor(Qt::white)}}) {
+        const auto* line = window.findChild<QWidget*>(name);
+        ASSERT_NE(line, nullptr);
+        EXPECT_EQ(shot.pixelColor(line->geometry().center()), colour) << name.toStdString();
+    }
+    EXPECT_TRUE(window.rect().contains(window.findChild<QPushButton*>(u"cmdOK"_s)->geometry()));
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
         window.show();
         QTest::keyClick(&window, key);

@@ -220,6 +220,11 @@ TEST(AnimationHistoryLimits, TheOldestStepsGoFirst) {
     ASSERT_TRUE(script.AppendLine("a", "15", "[none]"));
     for (int i = 0; i <= AnimationHistory::kMaxSteps; ++i) history.SetText(u"Edit"_s, 1, std::to_string(i));
     EXPECT_EQ(history.UndoableSteps(), AnimationHistory::kMaxSteps);
+    // Texts of 1 MB: each step keeps 2 MB, and 64 MB hold 32 of them; a step
+    // that goes lets go of both its texts.
+    for (int i = 0; i < 40; ++i) history.SetText(u"Edit"_s, 1, std::string(1 << 20, char('a' + i % 2)));
+    EXPECT_LE(history.KeptBytes(), AnimationHistory::kMaxBytes);
+    EXPECT_EQ(history.UndoableSteps(), 32);
 
     // A full list of long texts, then none, twice: each step that empties the
     // list keeps 36 MB, and the second of them pushes out the first, and with

@@ -23,6 +23,9 @@
 #include "ui/SimpleEditWindow.h"
 #include "ui/WizardDialog.h"
 
+// Failed checks show texts as text.
+inline void PrintTo(const QString& text, std::ostream* os) { *os << '"' << text.toStdString() << '"'; }
+
 namespace flickerscribe::ui::testing_support {
 
 using namespace Qt::Literals::StringLiterals;

@@ -1,6 +1,7 @@
 // The main window: what it shows at the start, its commands over lines, the
 // clipboard, editing in the pane and by keys, playback and its layout.
 #include <QApplication>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
@@ -68,6 +69,16 @@ Run Paste(std::optional<QString> text) {  // nullopt: a clipboard that can't be 
         t.dialogs.clipboardUnreadable = !text;
         t.dialogs.clipboard = text.value_or(QString());
         t.Trigger(u"mnuEditPaste"_s);
+    };
+}
+Run EditTime(QString time) {  // the Edit dialog, answered with this time
+    return [time](MainWindowTest& t) {
+        QTimer::singleShot(0, [time] {
+            auto* box = QApplication::activeModalWidget()->findChild<QLineEdit*>(u"txtTime"_s);
+            box->setText(time);
+            QTest::keyClick(box, Qt::Key_Return);
+        });
+        t.Trigger(u"btnedit"_s);
     };
 }
 Run ListKey(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
@@ -164,6 +175,7 @@ INSTANTIATE_TEST_SUITE_P(
         CommandCase{"CopyTimesOfNoneAsksNothing", Press("btncopylastx"), {}, 0, {}, 0, kNoLines},
         CommandCase{"CopyAllOfNone", Press("btncopyall"), {}, 0, {}, 0, kNoLines},
         CommandCase{"RemoveOfNone", Press("btnremove"), {}, 0, {}, 0, " [info]: Can't remove line."},
+        CommandCase{"EditTheOnly", EditTime(u"25"_s), {"A/25"}, 1, {"A/10"}, 1},
         CommandCase{"EditOfNone", Press("btnedit"), {}, 0, {}, 0, "Edit [warning]: No items to edit"},
         CommandCase{"Copy", Press("mnuEditCopy"), kABC, 2, kABC, 2, "", "B"},
         CommandCase{"Cut", Press("mnuEditCut"), kAC, 2, kABC, 2, "", "B"},

@@ -2,6 +2,7 @@
 // walks are written for; and the wizard's pictures look as approved.
 #include <QCryptographicHash>
 #include <QTextEdit>
+#include <algorithm>
 #include <random>
 
 #include "MainWindowFixture.h"
@@ -36,7 +37,19 @@ TEST(RichPane, BehavesAsThePaneInMemory) {
             const Colour colour = kColours[pick(5)];
             const Colour other = kColours[pick(5)];
             const int position = pick(12) - 1;
-            const int gesture = step % 7 == 0 ? 0 : pick(6);
+            const int gesture = step % 7 == 0 ? 0 : pick(7);
+            if (gesture == 6 && position < static_cast<int>(memory.Text().size())) {
+                // The user selects from the right to the left, in the widget.
+                const int length = static_cast<int>(memory.Text().size());
+                const int start = std::clamp(position, 0, length),
+                          end = std::min(start + 1 + pick(3), length);
+                QTextCursor cursor = edit.textCursor();
+                cursor.setPosition(end);
+                cursor.setPosition(start, QTextCursor::KeepAnchor);
+                edit.setTextCursor(cursor);
+                memory.SetSelStart(start);
+                memory.SetSelLength(end - start);
+            }
             for (Pane* pane : {static_cast<Pane*>(&rich), static_cast<Pane*>(&memory)}) {
                 switch (gesture) {
                     case 0:
@@ -54,7 +67,7 @@ TEST(RichPane, BehavesAsThePaneInMemory) {
                     case 4:
                         pane->SetSelText(text);
                         break;
-                    default:
+                    case 5:
                         pane->SetText(text);
                         break;
                 }
