@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QStringList>
 #include <deque>
 #include <optional>
@@ -17,17 +19,20 @@ struct DialogCall {
     QString title;
     QString text;  // the message or prompt, or the text put on the clipboard
     MsgIcon icon = MsgIcon::None;
-    MsgButtons buttons = MsgButtons::Ok;
     FileDialogState state;  // a file dialog as it was shown
 };
 
 // Dialogs for tests: every call is recorded and answered from what the test
 // queued. A question with nothing queued fails the test and is answered like
 // Cancel (No for Yes/No), so a test never blocks; a message with the one
-// button OK needs no answer.
+// button OK needs no answer. Answers left over at the end fail the test.
 class ScriptedDialogs : public Dialogs {
 public:
-    ~ScriptedDialogs() override;
+    ~ScriptedDialogs() override {
+        EXPECT_TRUE(answers_.empty() && inputs_.empty() && opens_.empty() && saves_.empty() &&
+                    folders_.empty())
+            << "queued answers were left over";
+    }
 
     void QueueMessageAnswer(MsgAnswer answer) { answers_.push_back(answer); }
     void QueueInput(std::optional<QString> text) { inputs_.push_back(std::move(text)); }  // nullopt: Cancel
@@ -39,22 +44,70 @@ public:
     bool clipboardUnreadable = false;
 
     const std::vector<DialogCall>& Calls() const { return calls_; }
-    // Each question in one line: "title [icon]: text", or "open|save title".
-    QStringList Asked() const;
+    // Each message as "title [icon]: text", each file dialog as "open|save title".
+    QStringList Asked() const {
+        static const char* const kIcons[] = {"none", "stop", "question", "warning", "info"};
+        QStringList out;
+        for (const DialogCall& c : calls_) {
+            if (c.kind == DialogCall::Kind::Message)
+                out << QStringLiteral("%1 [%2]: %3").arg(c.title, QLatin1String(kIcons[int(c.icon)]), c.text);
+            if (c.kind == DialogCall::Kind::Open || c.kind == DialogCall::Kind::Save)
+                out << (c.kind == DialogCall::Kind::Open ? QStringLiteral("open ")
+                                                         : QStringLiteral("save ")) +
+                           c.title;
+        }
+        return out;
+    }
 
     MsgAnswer Message(QWidget* parent, const QString& text, const QString& title, MsgIcon icon,
-                      MsgButtons buttons) override;
+                      MsgButtons buttons) override {
+        calls_.push_back({DialogCall::Kind::Message, parent, title, text, icon, {}});
+        if (buttons == MsgButtons::Ok && answers_.empty()) return MsgAnswer::Ok;
+        return Take(answers_, text, buttons == MsgButtons::YesNo ? MsgAnswer::No : MsgAnswer::Cancel);
+    }
     std::optional<QString> InputBox(QWidget* parent, const QString& prompt, const QString& title,
-                                    const QString& defaultText) override;
-    bool ShowOpen(QWidget* parent, FileDialogState& state) override;
-    bool ShowSave(QWidget* parent, FileDialogState& state) override;
-    QString BrowseForFolder(QWidget* parent, const QString& title) override;
-    void SetClipboardText(const QString& text) override;
-    std::optional<QString> ClipboardText() override;
+                                    const QString&) override {
+        calls_.push_back({DialogCall::Kind::InputBox, parent, title, prompt, MsgIcon::None, {}});
+        return Take(inputs_, prompt, std::optional<QString>());
+    }
+    bool ShowOpen(QWidget* parent, FileDialogState& state) override {
+        return AnswerFile(DialogCall::Kind::Open, parent, state, opens_);
+    }
+    bool ShowSave(QWidget* parent, FileDialogState& state) override {
+        return AnswerFile(DialogCall::Kind::Save, parent, state, saves_);
+    }
+    QString BrowseForFolder(QWidget* parent, const QString& title) override {
+        calls_.push_back({DialogCall::Kind::Folder, parent, title, {}, MsgIcon::None, {}});
+        return Take(folders_, title, QString());
+    }
+    void SetClipboardText(const QString& text) override {
+        calls_.push_back({DialogCall::Kind::SetClipboard, nullptr, {}, text, MsgIcon::None, {}});
+        clipboard = text;
+    }
+    std::optional<QString> ClipboardText() override {
+        calls_.push_back({DialogCall::Kind::GetClipboard, nullptr, {}, {}, MsgIcon::None, {}});
+        return clipboardUnreadable ? std::nullopt : std::optional<QString>(clipboard);
+    }
 
 private:
-    DialogCall& Record(DialogCall::Kind kind, QWidget* parent, const QString& title, const QString& text);
-    bool AnswerFile(DialogCall::Kind kind, QWidget* parent, FileDialogState& state);
+    // The answer queued first, or `refusal` and a failed test when there is none.
+    template <typename Answer>
+    static Answer Take(std::deque<Answer>& queue, const QString& about, Answer refusal) {
+        if (queue.empty()) {
+            ADD_FAILURE() << "nothing queued to answer: " << about.toStdString();
+            return refusal;
+        }
+        Answer answer = std::move(queue.front());
+        queue.pop_front();
+        return answer;
+    }
+    bool AnswerFile(DialogCall::Kind kind, QWidget* parent, FileDialogState& state,
+                    std::deque<std::optional<QString>>& queue) {
+        calls_.push_back({kind, parent, state.title, {}, MsgIcon::None, state});
+        const std::optional<QString> path = Take(queue, state.title, std::optional<QString>());
+        if (path) state.fileName = *path;
+        return path.has_value();
+    }
 
     std::vector<DialogCall> calls_;
     std::deque<MsgAnswer> answers_;

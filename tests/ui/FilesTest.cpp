@@ -9,25 +9,13 @@
 #include <QPlainTextEdit>
 #include <QTimer>
 #include <cstring>
-#include <tuple>
 
 #include "MainWindowFixture.h"
 #include "document/SafeWrite.h"
 #include "ui/ScriptWindow.h"
 
-namespace flickerscribe::ui {
-
-inline void PrintTo(MsgAnswer answer, std::ostream* os) {
-    *os << (answer == MsgAnswer::Yes ? "Yes" : answer == MsgAnswer::No ? "No" : "Cancel");
-}
-
-namespace testing_support {
+namespace flickerscribe::ui::testing_support {
 namespace {
-
-enum class Command { Open, SaveAs, Import, SaveScript };
-void PrintTo(Command command, std::ostream* os) {
-    *os << std::array{"Open", "SaveAs", "Import", "SaveScript"}[std::size_t(command)];
-}
 
 class Files : public MainWindowTest {
 public:
@@ -38,51 +26,36 @@ public:
             scriptWindow = std::make_unique<ScriptWindow>(Script(), dialogs, window->Settings());
         return *scriptWindow;
     }
-    // The command with these answers to its file dialog (nullopt: Cancel).
-    void Run(Command command, const std::vector<std::optional<QString>>& files) {
-        const bool save = command == Command::SaveAs || command == Command::SaveScript;
-        for (const auto& file : files) save ? dialogs.QueueSave(file) : dialogs.QueueOpen(file);
-        switch (command) {
-            case Command::Open:
-                return Trigger(u"mnuFileOpen"_s);
-            case Command::SaveAs:
-                return Trigger(u"mnuFileSaveAs"_s);
-            case Command::Import:
-                return Trigger(u"mnuFileImport"_s);
-            case Command::SaveScript:
-                return GeneratedScript().SaveScript();
-        }
+    // "Open", "SaveAs", "Import" or "SaveScript" (the script window's Save),
+    // with these answers to its file dialog (nullopt: Cancel).
+    void Run(const std::string& command, const std::vector<std::optional<QString>>& files) {
+        for (const auto& file : files)
+            command.starts_with("Save") ? dialogs.QueueSave(file) : dialogs.QueueOpen(file);
+        if (command == "SaveScript") return GeneratedScript().SaveScript();
+        Trigger(command == "Open"     ? u"mnuFileOpen"_s
+                : command == "SaveAs" ? u"mnuFileSaveAs"_s
+                                      : u"mnuFileImport"_s);
     }
     std::unique_ptr<ScriptWindow> scriptWindow;
-};
-
-const auto kRowName = [](const auto& info) {
-    std::string name;
-    std::apply(
-        [&name](const auto&... v) { ((name += (name.empty() ? "" : "_") + testing::PrintToString(v)), ...); },
-        info.param);
-    return name;
 };
 
 // Each file dialog opens in the folder the settings give at the moment, or,
 // without one, wherever it was last. Cancel changes nothing.
 TEST_F(Files, EachDialogOpensInItsFolderAndCancelChangesNothing) {
     Start(kABC);
-    const std::pair<Command, bool> cases[] = {{Command::Open, true},
-                                              {Command::SaveAs, true},
-                                              {Command::Import, false},
-                                              {Command::SaveScript, true}};
-    for (const auto& [command, followsSetting] : cases) {
-        SCOPED_TRACE(testing::PrintToString(command));
+    for (const auto& [command, followsSetting] :
+         {std::pair{"Open", true}, std::pair{"SaveAs", true}, std::pair{"Import", false},
+          std::pair{"SaveScript", true}}) {
         for (const QString& folder : {u"/set"_s, QString()}) {
             store.WriteValue(u"OpenDir"_s, folder);
             store.WriteValue(u"SaveDir"_s, folder);
             window->LoadSettings();
-            (command == Command::SaveScript ? GeneratedScript().SaveDialog() : window->FileDialog())
+            (command == std::string("SaveScript") ? GeneratedScript().SaveDialog() : window->FileDialog())
                 .initialFolder = u"/last"_s;
             Run(command, {std::nullopt});
             EXPECT_EQ(dialogs.Calls().back().state.initialFolder,
-                      followsSetting && !folder.isEmpty() ? folder : u"/last"_s);
+                      followsSetting && !folder.isEmpty() ? folder : u"/last"_s)
+                << command;
         }
     }
     EXPECT_EQ(dialogs.Asked()
@@ -95,121 +68,69 @@ TEST_F(Files, EachDialogOpensInItsFolderAndCancelChangesNothing) {
 
 // Whatever can't be read to its end as a plain file leaves the animation as
 // it was and gets "File not found!": a pipe with no writer must not hold the
-// window, and an I/O error half way must not cost the lines.
-enum class Missing { NoSuchFile, Folder, Unreadable, Pipe, IoError };
-void PrintTo(Missing m, std::ostream* os) {
-    *os << std::array{"NoSuchFile", "Folder", "Unreadable", "Pipe", "IoError"}[std::size_t(m)];
-}
-class MissingFiles : public Files, public testing::WithParamInterface<std::tuple<Command, Missing>> {};
-
-TEST_P(MissingFiles, AreNotFoundAndLeaveTheList) {
-    const auto [command, missing] = GetParam();
-    if (missing == Missing::Unreadable && ::geteuid() == 0) GTEST_SKIP() << "root reads every file";
-    const QString path = missing == Missing::Folder    ? folder.path()
-                         : missing == Missing::IoError ? u"/proc/self/mem"_s
-                                                       : PathOf(u"gone.fsq"_s);
-    if (missing == Missing::Unreadable) {
-        WriteBytes(path, "#v050#\r\nx\r\n15\r\n[none]\r\n");
-        QFile::setPermissions(path, QFileDevice::WriteOwner);
+// window, and an I/O error half way must not cost the lines. A file of more
+// lines than an animation holds gives the first ones, and says so.
+TEST_F(Files, UnreadableFilesAreNotFoundAndLongOnesCut) {
+    const QString pipe = PathOf(u"pipe"_s), locked = PathOf(u"locked"_s), gone = PathOf(u"gone"_s);
+    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    WriteBytes(locked, "#v050#\r\nx\r\n15\r\n[none]\r\n");
+    QFile::setPermissions(locked, QFileDevice::WriteOwner);
+    const bool root = ::geteuid() == 0;  // root reads every file
+    for (const char* command : {"Open", "Import"}) {
+        for (const QString& path : {gone, folder.path(), pipe, u"/proc/self/mem"_s, root ? gone : locked}) {
+            Trigger(u"btnnew"_s);
+            Start({"a/15"});
+            Run(command, {path});
+            EXPECT_EQ(dialogs.Asked().last(), command == std::string("Open")
+                                                  ? u"Error [stop]: File not found!\n"_s + path
+                                                  : u"Import error [stop]: File not found!"_s);
+            EXPECT_EQ(Lines(), TextTimes{"a/15"}) << command << " " << path.toStdString();
+        }
+        std::string bytes = command == std::string("Open") ? "plain list\r\n" : "";
+        for (int i = 0; i <= kMaxLines; ++i)
+            bytes += command == std::string("Open") ? "n\r\n" : "set name n\r\n";
+        WriteBytes(PathOf(u"long"_s), bytes);
+        Run(command, {PathOf(u"long"_s)});
+        EXPECT_EQ(Script().Count(), kMaxLines);
+        EXPECT_TRUE(dialogs.Asked().last().startsWith(u"Line limit reached"_s));
     }
-    if (missing == Missing::Pipe) {
-        ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
-    }
-    Start({"a/15"});
-    Run(command, {path});
-    EXPECT_EQ(dialogs.Asked().last(), command == Command::Open ? u"Error [stop]: File not found!\n"_s + path
-                                                               : u"Import error [stop]: File not found!"_s);
-    EXPECT_EQ(Lines(), TextTimes{"a/15"});
-}
-
-INSTANTIATE_TEST_SUITE_P(Table, MissingFiles,
-                         testing::Combine(testing::Values(Command::Open, Command::Import),
-                                          testing::Values(Missing::NoSuchFile, Missing::Folder,
-                                                          Missing::Unreadable, Missing::Pipe,
-                                                          Missing::IoError)),
-                         kRowName);
-
-class Overwrite : public Files, public testing::WithParamInterface<std::tuple<Command, MsgAnswer>> {};
-
-// Yes replaces the file; No shows the dialog again with the name last chosen;
-// Cancel writes nothing.
-TEST_P(Overwrite, OnlyYesReplacesTheFile) {
-    const auto [command, answer] = GetParam();
-    const bool saveAs = command == Command::SaveAs;
-    const QString path = PathOf(u"old"_s);
-    WriteBytes(path, "old");
-    dialogs.QueueMessageAnswer(answer);
-    // After No the dialog shows again, and is cancelled.
-    Run(command, answer == MsgAnswer::No ? std::vector<std::optional<QString>>{path, std::nullopt}
-                                         : std::vector<std::optional<QString>>{path});
-    const QString shown = saveAs ? u"save Save Brennock Animation"_s : u"save Save Script"_s;
-    QStringList expected{shown, saveAs ? u"Save Brennock Animation [question]: File exists! Overwrite?"_s
-                                       : u"Save script [question]: File Exists! Overwrite?"_s};
-    if (answer == MsgAnswer::No) {
-        expected << shown;
-        EXPECT_EQ(dialogs.Calls().back().state.fileName, path);
-    }
-    EXPECT_EQ(dialogs.Asked(), expected);
-    EXPECT_EQ(ReadBytes(path) == "old", answer != MsgAnswer::Yes);
 }
 
-INSTANTIATE_TEST_SUITE_P(Table, Overwrite,
-                         testing::Combine(testing::Values(Command::SaveAs, Command::SaveScript),
-                                          testing::Values(MsgAnswer::Yes, MsgAnswer::No, MsgAnswer::Cancel)),
-                         kRowName);
-
-class FailedSave : public Files, public testing::WithParamInterface<Command> {};
-
-// A disk that fills up half way: the old file stays whole, and the user is
-// told the error number and text.
-TEST_P(FailedSave, KeepsTheOldFileAndTellsTheError) {
+// Over a file, only Yes replaces it; No shows the dialog again with the name
+// last chosen; Cancel writes nothing. A disk that fills up half way keeps the
+// old file whole, and the user is told the error number and text.
+TEST_F(Files, SavesReplaceAFileOnlyWhenAskedAndKeepItWhenTheDiskIsFull) {
     Start({"a/15"});
     const QString path = PathOf(u"old"_s);
-    WriteBytes(path, "old");
-    dialogs.QueueMessageAnswer(MsgAnswer::Yes);
-    write_seam::FailNextWriteAfter(3, ENOSPC);
-    Run(GetParam(), {path});
-    EXPECT_EQ(dialogs.Asked().last(), u"Error [stop]: Error saving script!\n%1\n%2"_s.arg(ENOSPC).arg(
-                                          QString::fromLocal8Bit(std::strerror(ENOSPC))));
-    EXPECT_EQ(ReadBytes(path), "old");
+    for (const char* command : {"SaveAs", "SaveScript"}) {
+        const bool saveAs = command == std::string("SaveAs");
+        const QString shown = saveAs ? u"save Save Brennock Animation"_s : u"save Save Script"_s;
+        const QString asked = saveAs ? u"Save Brennock Animation [question]: File exists! Overwrite?"_s
+                                     : u"Save script [question]: File Exists! Overwrite?"_s;
+        for (const MsgAnswer answer : {MsgAnswer::No, MsgAnswer::Cancel, MsgAnswer::Yes}) {
+            WriteBytes(path, "old");
+            const auto before = dialogs.Asked().size();
+            dialogs.QueueMessageAnswer(answer);
+            // After No the dialog shows again, and is cancelled.
+            Run(command, answer == MsgAnswer::No ? std::vector<std::optional<QString>>{path, std::nullopt}
+                                                 : std::vector<std::optional<QString>>{path});
+            QStringList expected{shown, asked};
+            if (answer == MsgAnswer::No) {
+                expected << shown;
+                EXPECT_EQ(dialogs.Calls().back().state.fileName, path);
+            }
+            EXPECT_EQ(dialogs.Asked().mid(before), expected);
+            EXPECT_EQ(ReadBytes(path) == "old", answer != MsgAnswer::Yes) << command << int(answer);
+        }
+        WriteBytes(path, "old");
+        dialogs.QueueMessageAnswer(MsgAnswer::Yes);
+        write_seam::FailNextWriteAfter(3, ENOSPC);
+        Run(command, {path});
+        EXPECT_EQ(dialogs.Asked().last(), u"Error [stop]: Error saving script!\n%1\n%2"_s.arg(ENOSPC).arg(
+                                              QString::fromLocal8Bit(std::strerror(ENOSPC))));
+        EXPECT_EQ(ReadBytes(path), "old");
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Table, FailedSave, testing::Values(Command::SaveAs, Command::SaveScript),
-                         testing::PrintToStringParamName());
-
-// Save As, New, Open: the lines come back and the first shows; the script
-// saved from its window imports back with its times.
-TEST_F(Files, SavedAnimationsAndScriptsComeBack) {
-    ASSERT_TRUE(Script().AppendLine("^1Hi", "15", "[none]"));
-    ASSERT_TRUE(Script().AppendLine("\xE9 x", "abc", "kept out"));
-    Run(Command::SaveAs, {PathOf(u"anim.fsq"_s)});
-    EXPECT_EQ(ReadBytes(PathOf(u"anim.fsq"_s)),
-              "#v050#\r\n^1Hi\r\n15\r\n[none]\r\n\xE9 x\r\nabc\r\nkept out\r\n");
-    Trigger(u"btnnew"_s);
-    Run(Command::Open, {PathOf(u"anim.fsq"_s)});
-    EXPECT_EQ(Lines(), TextTimes({"^1Hi/15", "\xE9 x/abc"}));
-    EXPECT_EQ(PaneText(), "Hi");
-
-    Script().SetLineTime(2, "7");
-    Run(Command::SaveScript, {PathOf(u"made.cfg"_s)});
-    Run(Command::Import, {PathOf(u"made.cfg"_s)});
-    EXPECT_EQ(Lines(), TextTimes({"^1Hi/15", "\xE9 x/7"}));
-}
-
-class TooLong : public Files, public testing::WithParamInterface<Command> {};
-
-TEST_P(TooLong, KeepsTheFirstLinesAndSaysSo) {
-    const bool open = GetParam() == Command::Open;
-    std::string bytes = open ? "plain list\r\n" : "";
-    for (int i = 0; i <= kMaxLines; ++i) bytes += open ? "n\r\n" : "set name n\r\n";
-    WriteBytes(PathOf(u"long"_s), bytes);
-    Run(GetParam(), {PathOf(u"long"_s)});
-    EXPECT_EQ(Script().Count(), kMaxLines);
-    EXPECT_TRUE(dialogs.Asked().last().startsWith(u"Line limit reached"_s));
-}
-
-INSTANTIATE_TEST_SUITE_P(Table, TooLong, testing::Values(Command::Open, Command::Import),
-                         testing::PrintToStringParamName());
 
 // --- the generated script's window
 
@@ -264,5 +185,4 @@ TEST_F(Files, GenerateTellsBadTimesFirstAndStartsAnewEachTime) {
 }
 
 }  // namespace
-}  // namespace testing_support
-}  // namespace flickerscribe::ui
+}  // namespace flickerscribe::ui::testing_support
