@@ -54,24 +54,24 @@ TEST_F(MainWindowCase, StartsEmptyWithItsMenusAndToolbar) {
 // back by Undo and done again by Redo. A, B, C with the times 10, 20, 30, B
 // selected, unless a row says otherwise.
 
-using Run = std::function<void(MainWindowTest&)>;
-Run Press(const char* name) {
+using Act = std::function<void(MainWindowTest&)>;
+Act Press(const char* name) {
     return [name](MainWindowTest& t) { t.Trigger(QString::fromLatin1(name)); };
 }
-Run Times(std::optional<QString> answer) {  // "Copy selected line x times"; nullopt: Cancel
+Act Times(std::optional<QString> answer) {  // "Copy selected line x times"; nullopt: Cancel
     return [answer](MainWindowTest& t) {
         t.dialogs.QueueInput(answer);
         t.Trigger(u"btncopylastx"_s);
     };
 }
-Run Paste(std::optional<QString> text) {  // nullopt: a clipboard that can't be read
+Act Paste(std::optional<QString> text) {  // nullopt: a clipboard that can't be read
     return [text](MainWindowTest& t) {
         t.dialogs.clipboardUnreadable = !text;
         t.dialogs.clipboard = text.value_or(QString());
         t.Trigger(u"mnuEditPaste"_s);
     };
 }
-Run EditTime(QString time) {  // the Edit dialog, answered with this time
+Act EditTime(QString time) {  // the Edit dialog, answered with this time
     return [time](MainWindowTest& t) {
         QTimer::singleShot(0, [time] {
             auto* box = QApplication::activeModalWidget()->findChild<QLineEdit*>(u"txtTime"_s);
@@ -81,13 +81,13 @@ Run EditTime(QString time) {  // the Edit dialog, answered with this time
         t.Trigger(u"btnedit"_s);
     };
 }
-Run ListKey(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+Act ListKey(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
     return [key, modifiers](MainWindowTest& t) { t.Key(key, modifiers); };
 }
 
 struct CommandCase {
     const char* name;
-    Run run;
+    Act run;
     TextTimes expected;
     int selectedAfter;
     TextTimes start = kABC;
@@ -197,98 +197,80 @@ INSTANTIATE_TEST_SUITE_P(
         CommandCase{"KeyDeleteOfNone", ListKey(Qt::Key_Delete), {}, 0, {}, 0, " [info]: Can't remove line."}),
     testing::PrintToStringParamName());
 
-struct LimitCase {
-    const char* name;
-    int linesBefore;
-    Run run;
-    friend void PrintTo(const LimitCase& c, std::ostream* os) { *os << c.name; }
-};
-
-class AtTheLineLimit : public MainWindowTest, public testing::WithParamInterface<LimitCase> {};
-
-TEST_P(AtTheLineLimit, AddingStopsThereWithOneMessage) {
-    Start(TextTimes(std::size_t(GetParam().linesBefore), "x/15"), GetParam().linesBefore);
-    GetParam().run(*this);
-    EXPECT_EQ(Script().Count(), kMaxLines);
-    EXPECT_EQ(
-        dialogs.Asked().join(u'|').toStdString(),
-        "Line limit reached [warning]: An animation holds at most 32767 lines. The lines up to that limit "
-        "are kept; the rest could not be added.");
+// At the limit, adding stops there with one message.
+TEST_F(MainWindowCase, AddingStopsAtTheLineLimitWithOneMessage) {
+    const std::pair<int, Act> cases[] = {{kMaxLines, Press("btnadd")},
+                                         {kMaxLines, Press("btncopylast")},
+                                         {kMaxLines - 2, Times(u"5"_s)},
+                                         {20000, Press("btncopyall")},
+                                         {kMaxLines, Paste(u"x"_s)}};
+    for (const auto& [before, run] : cases) {
+        MakeWindow();
+        Start(TextTimes(std::size_t(before), "x/15"), before);
+        const auto asked = dialogs.Asked().size();
+        run(*this);
+        EXPECT_EQ(Script().Count(), kMaxLines);
+        EXPECT_EQ(
+            dialogs.Asked().mid(asked).join(u'|').toStdString(),
+            "Line limit reached [warning]: An animation holds at most 32767 lines. The lines up to that "
+            "limit are kept; the rest could not be added.");
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(Commands, AtTheLineLimit,
-                         testing::Values(LimitCase{"Add", kMaxLines, Press("btnadd")},
-                                         LimitCase{"CopySelected", kMaxLines, Press("btncopylast")},
-                                         LimitCase{"CopyTimes", kMaxLines - 2, Times(u"5"_s)},
-                                         LimitCase{"CopyAll", 20000, Press("btncopyall")},
-                                         LimitCase{"Paste", kMaxLines, Paste(u"x"_s)}),
-                         testing::PrintToStringParamName());
+// --- editing in the pane
 
-// --- editing in the pane and by keys
-
-struct TypedCase {
-    const char* before;
-    int caret;          // -1: at the end, where the pane's drawing leaves it
-    const char* typed;  // "\b" is Backspace, "\r" Enter
-    const char* after;
-    friend void PrintTo(const TypedCase& c, std::ostream* os) { *os << c.before << '+' << c.typed; }
-};
-
-class TypedInThePane : public MainWindowTest, public testing::WithParamInterface<TypedCase> {};
-
-// Each keystroke reaches the selected line at once, in its normal form: a
-// code only where the colour changes; the caret stays behind what was typed.
-TEST_P(TypedInThePane, ReachesTheLineInNormalForm) {
-    Start({std::string(GetParam().before) + "/30", "other/20"}, 1);
-    if (GetParam().caret >= 0) window->PreviewPane().SetSelStart(GetParam().caret);
-    const int caret = window->PreviewPane().SelStart();
-    const auto length = PaneText().size();
-    QTest::keyClicks(window->PaneEdit(), QString::fromLatin1(GetParam().typed));
-    EXPECT_EQ(Lines(), TextTimes({std::string(GetParam().after) + "/30", "other/20"}));
-    EXPECT_EQ(window->PreviewPane().SelStart(), caret + int(PaneText().size()) - int(length));
+// Typing reaches the selected line at once in its normal form (a code only
+// where the colour changes), the caret behind what was typed. A colour button
+// colours the selection, which then ends, or else what is typed next; an
+// empty pane takes no colour.
+TEST_F(MainWindowCase, EditsInThePaneReachTheLineInNormalForm) {
+    const struct {
+        const char* before;
+        int start, length;  // the selection; -1: the caret at the end, where drawing leaves it
+        int button;         // the colour clicked first; -1: none
+        const char* typed;  // "\b" is Backspace, "\r" Enter
+        const char* after;
+    } cases[] = {
+        {"^1ab^2cd", -1, 0, -1, "x", "^1ab^2cdx"},
+        {"^8x^2y^7z", -1, 0, -1, "!", "^8x^2y^7z!"},
+        {"^7Hello", -1, 0, -1, "!", "Hello!"},
+        {"ab^7cd", -1, 0, -1, "e", "abcde"},
+        {"^1ab^1cd", -1, 0, -1, "e", "^1abcde"},
+        {"^0Hi^9you", -1, 0, -1, "!", "Hi^1you!"},
+        {"ab^1", -1, 0, -1, "c", "abc"},
+        {"a^xb", -1, 0, -1, "c", "abc"},
+        {"", -1, 0, -1, "x", "^8x"},
+        {"abc", 1, 0, -1, "^1", "a^1bc"},
+        {"^1abcd", 2, 0, -1, "X", "^1abXcd"},
+        {"^1abc", -1, 0, -1, "\b\b\b", ""},
+        {"ab", 1, 0, -1, "\r", "ab"},
+        {"abcd", 1, 2, 0, "", "a^1bc^7d"},
+        {"abcd", 1, 2, 7, "", "a^8bc^7d"},
+        {"^1abcd", 0, 1, 6, "", "a^1bcd"},
+        {"ab", 2, 0, 1, "c", "ab^2c"},
+        {"", 0, 0, 0, "x", "^8x"},
+    };
+    for (const auto& c : cases) {
+        MakeWindow();
+        Start({std::string(c.before) + "/30", "other/20"}, 1);
+        Pane& pane = window->PreviewPane();
+        if (c.start >= 0) {
+            pane.SetSelStart(c.start);
+            pane.SetSelLength(c.length);
+        }
+        const int caret = pane.SelStart();
+        if (c.button >= 0) {
+            window->ToggleColours();
+            QTest::mouseClick(Named<QPushButton>(u"cmdColor_%1"_s.arg(c.button)), Qt::LeftButton);
+            EXPECT_EQ(pane.SelLength(), 0);
+        }
+        const auto length = PaneText().size();
+        QTest::keyClicks(window->PaneEdit(), QString::fromLatin1(c.typed));
+        EXPECT_EQ(Lines(), TextTimes({std::string(c.after) + "/30", "other/20"}))
+            << c.before << " " << c.typed;
+        EXPECT_EQ(pane.SelStart(), caret + int(PaneText().size()) - int(length));
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, TypedInThePane,
-    testing::Values(TypedCase{"^1ab^2cd", -1, "x", "^1ab^2cdx"},
-                    TypedCase{"^8x^2y^7z", -1, "!", "^8x^2y^7z!"}, TypedCase{"^7Hello", -1, "!", "Hello!"},
-                    TypedCase{"ab^7cd", -1, "e", "abcde"}, TypedCase{"^1ab^1cd", -1, "e", "^1abcde"},
-                    TypedCase{"^0Hi^9you", -1, "!", "Hi^1you!"}, TypedCase{"ab^1", -1, "c", "abc"},
-                    TypedCase{"a^xb", -1, "c", "abc"}, TypedCase{"", -1, "x", "^8x"},
-                    TypedCase{"abc", 1, "^1", "a^1bc"}, TypedCase{"^1abcd", 2, "X", "^1abXcd"},
-                    TypedCase{"^1abc", -1, "\b\b\b", ""}, TypedCase{"ab", 1, "\r", "ab"}));
-
-struct ColourCase {
-    const char* before;
-    int selStart, selLength, button;
-    const char* typedAfter;
-    const char* after;
-    friend void PrintTo(const ColourCase& c, std::ostream* os) { *os << c.before << '@' << c.button; }
-};
-
-class ColourStrip : public MainWindowTest, public testing::WithParamInterface<ColourCase> {};
-
-// A colour button colours the pane's selection, which then ends, or what is
-// typed next; an empty pane takes no colour.
-TEST_P(ColourStrip, ColoursTheSelectionOrWhatIsTypedNext) {
-    const ColourCase& c = GetParam();
-    Start({std::string(c.before) + "/15"}, 1);
-    window->ToggleColours();
-    window->PreviewPane().SetSelStart(c.selStart);
-    window->PreviewPane().SetSelLength(c.selLength);
-    QTest::mouseClick(Named<QPushButton>(u"cmdColor_%1"_s.arg(c.button)), Qt::LeftButton);
-    EXPECT_EQ(window->PreviewPane().SelStart(), c.selStart);
-    EXPECT_EQ(window->PreviewPane().SelLength(), 0);
-    QTest::keyClicks(window->PaneEdit(), QString::fromLatin1(c.typedAfter));
-    EXPECT_EQ(Script().LineAt(1).Text, c.after);
-}
-
-INSTANTIATE_TEST_SUITE_P(Cases, ColourStrip,
-                         testing::Values(ColourCase{"abcd", 1, 2, 0, "", "a^1bc^7d"},
-                                         ColourCase{"abcd", 1, 2, 7, "", "a^8bc^7d"},
-                                         ColourCase{"^1abcd", 0, 1, 6, "", "a^1bcd"},
-                                         ColourCase{"ab", 2, 0, 1, "c", "ab^2c"},
-                                         ColourCase{"", 0, 0, 0, "x", "^8x"}));
 
 // The Ctrl key alone takes the focus from the pane to the list, so that the
 // Edit menu's shortcuts work on lines from anywhere.
