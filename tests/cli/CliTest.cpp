@@ -1,188 +1,156 @@
 // Runs the real command-line program and checks what it writes and how it ends.
 #include <gtest/gtest.h>
+#include <sys/wait.h>
 
-#include <filesystem>
-#include <fstream>
-#include <string>
-#include <vector>
+#include <cstdlib>
 
-#include "CliRun.h"
+#include "TempFolder.h"
+#include "script/ScriptText.h"
 
+namespace flickerscribe::test {
 namespace {
 
-namespace stdfs = std::filesystem;
-using Cli = flickerscribe::test::CliRun;
+struct CliResult {
+    int status = -1;
+    std::string out, err;
+};
 
-void Put(const stdfs::path& path, const std::string& bytes) {
-    std::ofstream out(path, std::ios::binary);
-    out << bytes;
+// Runs the program in `dir` with `input` on standard input: the file "stdin"
+// there, or with `piped` a pipe whose writer starts late.
+CliResult RunCli(const TempFolder& dir, const std::vector<std::string>& args, const std::string& input = "",
+                 bool piped = false) {
+    WriteBytes(dir.File("stdin"), input);
+    std::string command =
+        "cd " + dir.Path() + " && " + (piped ? "(sleep 0.2; cat stdin) | " : "") + FS_CLI_PATH;
+    for (const auto& arg : args) {
+        command += " '";
+        for (char c : arg) command += c == '\'' ? std::string("'\\''") : std::string(1, c);
+        command += "'";
+    }
+    command += std::string(piped ? "" : " <stdin") + " >stdout 2>stderr";
+    const int raw = std::system(command.c_str());
+    return {WIFEXITED(raw) ? WEXITSTATUS(raw) : -1, ReadBytes(dir.File("stdout")),
+            ReadBytes(dir.File("stderr"))};
 }
 
-const std::string kBanner =
-    "\r\n//--------------------------\\\\"
-    "\r\n//----- SCRIPT MADE WITH ---\\\\"
-    "\r\n//------ Flickerscribe -----\\\\"
-    "\r\n//----- by: [QZT]Quillon ---\\\\"
-    "\r\n//--------------------------\\\\"
-    "\r\n//-quillon@qzt-clan.example-\\\\"
-    "\r\n//--------------------------\\\\";
+std::string Script(const std::string& commands) {
+    std::string text;
+    for (std::string_view line : kScriptBanner) text.append("\r\n").append(line);
+    return text + commands + "\r\n";
+}
 
-TEST_F(Cli, GenerateFromAFileOrStandardInput) {
-    struct Case {
+// The project file of lines that all carry the time and action of an effect.
+std::string ProjectFile(const std::vector<std::string>& texts) {
+    std::string bytes = "#v050#\r\n";
+    for (const auto& text : texts) bytes += text + "\r\n15\r\n[none]\r\n";
+    return bytes;
+}
+
+const std::string kCfg =
+    "// my script\r\n  set name \"^1one\"; wait 20 ;SET NAME ^2two\r\nset name \"a;b\"\r\nwait x\r\n";
+const std::string kFsq = "#v050#\r\n^1one\r\n20\r\n[none]\r\n^2two\r\n15\r\n[none]\r\na\r\n15\r\n[none]\r\n";
+
+// Standard input is also the file "stdin". An expected output that ends in
+// "..." is its beginning; an expected error is a part of standard error, and
+// none means an empty one.
+TEST(Cli, CommandsWriteTheirResultsAndEndWithTheirStatus) {
+    TempFolder dir;
+    const struct {
+        std::vector<std::string> args;
         std::string input;
-        std::string script;
-        std::string err;  // one line for each time that is no number, in list order
-    };
-    const Case cases[] = {
-        {"#v050#\r\n", kBanner + "\r\n", ""},
-        {"#v050#\r\n^1Hi\r\n0\r\n[none]\r\n^3Bye\r\n250\r\nx\r\n",
-         kBanner + "\r\nset name \"^1Hi\"\r\nwait 5\r\nset name \"^3Bye\"\r\nwait 99\r\n", ""},
-        {"anything at all\r\n^1Hi\r\n\r\n caf\xE9",
-         kBanner + "\r\nset name \"^1Hi\"\r\nwait 15\r\nset name \"^7 \"\r\nwait "
-                   "15\r\nset name \"^7 caf\xE9\"\r\nwait 15\r\n",
-         ""},
-        // Unix line ends, as a Linux editor writes them.
-        {"#v050#\n^1Hi\n0\n[none]\n", kBanner + "\r\nset name \"^1Hi\"\r\nwait 5\r\n", ""},
-        {"#v050#\r\na\r\nabc\r\n\r\nb\r\n20\r\n\r\nc\r\n\r\n\r\n",
-         kBanner +
-             "\r\nset name \"a\"\r\nwait 15\r\nset name \"b\"\r\nwait 20\r\nset name \"c\"\r\nwait 15\r\n",
-         "no number _abc_\nno number __\n"},
-    };
-    for (const auto& c : cases) {
-        Put(Path("in.fsq"), c.input);
-        for (const auto& input : {"in.fsq", "-"}) {
-            const flickerscribe::test::CliResult r = Run({"generate", input}, c.input);
-            EXPECT_EQ(r.status, 0) << r.err;
-            EXPECT_EQ(r.out, c.script) << input;
-            EXPECT_EQ(r.err, c.err) << input;
-        }
-    }
-}
-
-TEST_F(Cli, OutputFileIsWrittenAndItsNameMayBeginWithADash) {
-    Put(Path("in.fsq"), "#v050#\r\nx\r\n15\r\n[none]\r\n");
-    const flickerscribe::test::CliResult r = Run({"generate", "--output", "-dash.cfg", "in.fsq"});
-    EXPECT_EQ(r.status, 0) << r.err;
-    EXPECT_EQ(r.out, "");
-    EXPECT_EQ(Slurp(Path("-dash.cfg")), kBanner + "\r\nset name \"x\"\r\nwait 15\r\n");
-
-    const flickerscribe::test::CliResult equals = Run({"import", "--output=back.fsq", "--", "-dash.cfg"});
-    EXPECT_EQ(equals.status, 0) << equals.err;
-    EXPECT_EQ(Slurp(Path("back.fsq")), "#v050#\r\nx\r\n15\r\n[none]\r\n");
-}
-
-TEST_F(Cli, ImportWritesTheAnimationFile) {
-    const std::string fsq =
-        "#v050#\r\n^1one\r\n20\r\n[none]\r\n^2two\r\n15\r\n[none]\r\na\r\n15\r\n[none]\r\n";
-    // With CR LF line ends, and with Unix ones.
-    for (const std::string end : {"\r\n", "\n"}) {
-        const std::string script = "// my script" + end + "  set name \"^1one\"; wait 20 ;SET NAME ^2two" +
-                                   end + "set name \"a;b\"" + end + "wait x" + end;
-        Put(Path("in.cfg"), script);
-        for (const auto& args :
-             {std::vector<std::string>{"import", "in.cfg"}, std::vector<std::string>{"import", "-"}}) {
-            const flickerscribe::test::CliResult r = Run(args, script);
-            EXPECT_EQ(r.status, 0) << r.err;
-            EXPECT_EQ(r.out, fsq) << testing::PrintToString(end);
-        }
-    }
-}
-
-TEST_F(Cli, RenderRunsListsEveryPaneCharacter) {
-    struct Case {
-        std::string text;
-        std::string listing;
-    };
-    const Case cases[] = {
-        {"^1Fl^7ick", "FF0000\tF\nFF0000\tl\nFFFFFF\ti\nFFFFFF\tc\nFFFFFF\tk\n"},
-        {"^2g^3y^4b^5c^6m^8k", "00FF00\tg\nFFFF00\ty\n0000FF\tb\n00FFFF\tc\nFF00FF\tm\n000000\tk\n"},
-        {"caf\xC3\xA9",
-         "FFFFFF\tc\nFFFFFF\ta\nFFFFFF\tf\nFFFFFF\t\xE9\n"},  // UTF-8 in, one byte out to a pipe
+        int status;
+        std::string out, err;
+    } cases[] = {
+        // clang-format off
+        {{"generate", "stdin"}, "#v050#\r\n^1Hi\r\n0\r\n[none]\r\n^3Bye\r\n250\r\nx\r\n", 0,
+         Script("\r\nset name \"^1Hi\"\r\nwait 5\r\nset name \"^3Bye\"\r\nwait 99"), ""},
+        {{"generate", "-"}, "anything\r\n\r\n caf\xE9", 0,
+         Script("\r\nset name \"^7 \"\r\nwait 15\r\nset name \"^7 caf\xE9\"\r\nwait 15"), ""},
+        {{"generate", "-"}, "#v050#\n^1Hi\n0\n[none]\n", 0, Script("\r\nset name \"^1Hi\"\r\nwait 5"), ""},
+        {{"generate", "-"}, "#v050#\r\na\r\nabc\r\n\r\nb\r\n\r\n\r\n", 0,
+         Script("\r\nset name \"a\"\r\nwait 15\r\nset name \"b\"\r\nwait 15"), "no number _abc_\nno number __\n"},
+        {{"generate", "--output", "-dash.cfg", "stdin"}, "#v050#\r\n", 0, "", ""},
+        {{"import", "-"}, kCfg, 0, kFsq, ""},
+        {{"import", "--output=out.fsq", "--", "stdin"}, "// my script\n  set name \"^1one\"; wait 20 ;SET NAME ^2two\n"
+         "set name \"a;b\"\n", 0, "", ""},
+        {{"render", "--runs", "^1F^7i\xC3\xA9"}, "", 0, "FF0000\tF\nFFFFFF\ti\nFFFFFF\t\xE9\n", ""},
+        {{"render", "--", "-^1x"}, "", 0, "\x1b[48;2;128;128;128m\x1b[38;2;255;255;255m-\x1b[38;2;255;0;0mx\x1b[0m\n", ""},
+        {{"effects", "--name", "^1Ka", "--tag", "^4[QZT]", "--effect", "Wave 2", "--effect", "Bounce", "--param1",
+          "1", "--param2", "x", "--effect", "Wave 2"}, "", 0,
+         ProjectFile({"^4[QZT]^1K", "^4[QZT]^1Ka", "[QZT]Ka", "K[QZT]a", "Ka[QZT]", "K[QZT]a", "[QZT]Ka",
+                      "^4[QZT]^1Ka", "^4[QZT]^1K", "[QZT]K", "[QZT]Ka"}), ""},
+        {{"effects", "--reverse", "--tag", "-X-", "--name", "f\xC3\xA9", "--effect", "Wave forward"}, "", 0,
+         ProjectFile({"^7f ^0-X-", " ^7\xE9^0-X-"}), ""},
+        {{"effects", "--name", "K", "--effect", "Bounce", "--param1", "5", "--answer", "no"}, "", 0, ProjectFile({}), ""},
+        {{"effects", "--name", "K", "--effect", "Bounce", "--param1", "5.9", "--effect", "Wave 2"}, "y\n", 0,
+         ProjectFile({"K"}), "Are you sure you want to repeat the BOUNCE EFFECT 5.9 times? Answered no"},
+        {{"import", "--help"}, "", 0, "usage: flickerscribe-cli import [--output FILE] INPUT\n...", ""},
+        {{"generate", "missing.fsq"}, "", 1, "", "flickerscribe-cli: cannot read missing.fsq"},
+        {{"generate", "--output", "nowhere/out.cfg", "stdin"}, "", 1, "", "cannot write nowhere/out.cfg"},
+        {{"effects", "--output", "."}, "", 1, "", "cannot write ."},
+        {{}, "", 2, "", "usage: flickerscribe-cli"},
+        {{"frob"}, "", 2, "", "unknown command frob"},
+        {{"generate", "a", "b"}, "", 2, "", "unexpected argument b\nusage: flickerscribe-cli generate"},
+        {{"render", "--runs=yes", "x"}, "", 2, "", "takes no value\nusage: flickerscribe-cli render"},
+        {{"effects", "--param1", "5", "--effect", "Bounce"}, "", 2, "", "--param1 needs an --effect before it"},
+        {{"effects", "--tag", std::string(32768, 'a'), "--output", "never.fsq"}, "", 2, "", "at most 32767 characters"},
+        // clang-format on
     };
     for (const auto& c : cases) {
-        const flickerscribe::test::CliResult r = Run({"render", "--runs", c.text});
-        EXPECT_EQ(r.status, 0) << c.text << r.err;
-        EXPECT_EQ(r.out, c.listing) << c.text;
-    }
-}
-
-TEST_F(Cli, RenderPaintsInTerminalColours) {
-    const flickerscribe::test::CliResult r = Run({"render", "--", "-^1x"});
-    EXPECT_EQ(r.status, 0) << r.err;
-    EXPECT_EQ(r.out, "\x1b[48;2;128;128;128m\x1b[38;2;255;255;255m-\x1b[38;2;255;0;0mx\x1b[0m\n");
-}
-
-TEST_F(Cli, UsageErrorsEndWithStatusTwo) {
-    const std::vector<std::string> cases[] = {
-        {},
-        {"frob"},
-        {"generate"},
-        {"generate", "a", "b"},
-        {"generate", "--bogus", "in"},
-        {"generate", "in", "--output"},
-        {"import", "-x"},
-        {"render", "--runs=yes", "x"},
-        {"render", "-x"},
-    };
-    for (const auto& args : cases) {
-        const flickerscribe::test::CliResult r = Run(args);
         std::string shown;
-        for (const auto& a : args) shown += a + " ";
-        EXPECT_EQ(r.status, 2) << shown;
-        EXPECT_NE(r.err.find("usage: flickerscribe-cli"), std::string::npos) << shown << r.err;
-        EXPECT_EQ(r.out, "") << shown;
+        for (const auto& a : c.args) shown += a.substr(0, 20) + " ";
+        const CliResult r = RunCli(dir, c.args, c.input);
+        EXPECT_EQ(r.status, c.status) << shown << r.err;
+        if (c.out.ends_with("...")) {
+            EXPECT_TRUE(r.out.starts_with(c.out.substr(0, c.out.size() - 3))) << shown << r.out;
+        } else {
+            EXPECT_EQ(r.out, c.out) << shown;
+        }
+        EXPECT_TRUE(c.err.empty() ? r.err.empty() : r.err.find(c.err) != std::string::npos) << shown << r.err;
     }
+    EXPECT_EQ(ReadBytes(dir.File("-dash.cfg")), Script(""));
+    EXPECT_EQ(ReadBytes(dir.File("out.fsq")), kFsq);
+    EXPECT_FALSE(std::filesystem::exists(dir.File("never.fsq")));
 }
 
-TEST_F(Cli, HelpGoesToStandardOutput) {
-    const flickerscribe::test::CliResult overview = Run({"--help"});
-    EXPECT_EQ(overview.status, 0);
-    for (const char* command : {"generate", "import", "render"}) {
-        EXPECT_NE(overview.out.find(std::string("  ") + command), std::string::npos) << command;
-    }
-    const flickerscribe::test::CliResult command = Run({"generate", "--help"});
-    EXPECT_EQ(command.status, 0);
-    EXPECT_EQ(command.out.rfind("usage: flickerscribe-cli generate [--output FILE] INPUT\n", 0), 0u)
-        << command.out;
+// As `generate <(command)` hands it over: a pipe whose data comes later.
+TEST(Cli, ReadsAPipeNamedOnTheCommandLine) {
+    TempFolder dir;
+    const CliResult r = RunCli(dir, {"generate", "/dev/stdin"}, "#v050#\nx\n7\n[none]\n", true);
+    EXPECT_EQ(r.status, 0) << r.err;
+    EXPECT_EQ(r.out, Script("\r\nset name \"x\"\r\nwait 7"));
 }
 
-TEST_F(Cli, FilesThatCantBeReadOrWrittenEndWithStatusOne) {
-    stdfs::create_directories(Path("folder"));
-    Put(Path("in.fsq"), "#v050#\r\n");
-    const std::vector<std::string> cases[] = {
-        {"generate", "missing.fsq"},
-        {"generate", "folder"},
-        {"import", "missing.cfg"},
-        {"generate", "--output", "nowhere/out.cfg", "in.fsq"},
-        {"import", "--output", "folder", "in.fsq"},
-    };
-    for (const auto& args : cases) {
-        const flickerscribe::test::CliResult r = Run(args);
-        EXPECT_EQ(r.status, 1) << args[1];
-        EXPECT_NE(r.err.find("flickerscribe-cli: cannot "), std::string::npos) << r.err;
-        EXPECT_EQ(r.out, "");
+// 32767 lines and texts of 32767 characters go through whole; a line more
+// stops the work with status 3, and the lines that stood are written.
+TEST(Cli, TheLineLimit) {
+    TempFolder dir;
+    std::string list = "names\r\n", commands, script;
+    for (int i = 1; i <= 32767; ++i) {
+        list += "n" + std::to_string(i) + "\r\n";
+        commands += "\r\nset name \"n" + std::to_string(i) + "\"\r\nwait 15";
+        script += "set name n\r\n";
     }
-    EXPECT_TRUE(stdfs::is_directory(Path("folder")));
-}
+    CliResult r = RunCli(dir, {"generate", "-"}, list);
+    EXPECT_EQ(r.status, 0) << r.err;
+    EXPECT_TRUE(r.out == Script(commands));
+    r = RunCli(dir, {"generate", "-"}, list + "one too many\r\n");
+    EXPECT_EQ(r.status, 3);
+    EXPECT_NE(r.err.find("at most 32767 lines"), std::string::npos) << r.err;
+    EXPECT_TRUE(r.out == Script(commands));
 
-TEST_F(Cli, TheLineLimitStopsTheWorkButTheLinesThatStoodAreWritten) {
-    std::string list = "names\r\n";
-    for (int i = 0; i <= 32767; ++i) list += "n\r\n";  // one name too many
-    const flickerscribe::test::CliResult generated = Run({"generate", "-"}, list);
-    EXPECT_EQ(generated.status, 3);
-    EXPECT_NE(generated.err.find("32767"), std::string::npos);
-    std::size_t names = 0;
-    for (auto at = generated.out.find("set name"); at != std::string::npos;
-         at = generated.out.find("set name", at + 1)) {
-        ++names;
-    }
-    EXPECT_EQ(names, 32767u);
+    EXPECT_EQ(RunCli(dir, {"import", "--output", "out.fsq", "-"}, script + "set name x").status, 3);
+    EXPECT_TRUE(ReadBytes(dir.File("out.fsq")) == ProjectFile(std::vector<std::string>(32767, "n")));
+    r = RunCli(dir, {"effects", "--name", "Quillon", "--tag", "[QZT]", "--effect", "Bounce", "--param1", "12",
+                     "--answer", "yes"});
+    EXPECT_EQ(r.status, 3);
+    EXPECT_TRUE(r.out.starts_with(ProjectFile({"[QZT]Quillon", "Q[QZT]uillon"})));
+    EXPECT_EQ(r.out.size(), 8u + 32767u * (12u + 2u + 2u + 2u + 6u + 2u));
 
-    std::string script;
-    for (int i = 0; i <= 32767; ++i) script += "set name n\r\n";
-    const flickerscribe::test::CliResult imported = Run({"import", "--output", "out.fsq", "-"}, script);
-    EXPECT_EQ(imported.status, 3);
-    EXPECT_EQ(Slurp(Path("out.fsq")).size(), 8u + 32767u * 15u);  // "n", "15", "[none]" per line
+    std::string listing;
+    for (int i = 0; i < 32765; ++i) listing += "FF0000\tb\n";
+    EXPECT_TRUE(RunCli(dir, {"render", "--runs", "^1" + std::string(32765, 'b')}).out == listing);
 }
 
 }  // namespace
+}  // namespace flickerscribe::test

@@ -1,164 +1,79 @@
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
+#include <memory>
+#include <sstream>
 
+#include "TempFolder.h"
 #include "document/AnimationScript.h"
 
 namespace flickerscribe {
 namespace {
 
-std::vector<std::string> Texts(const AnimationScript& s) {
-    std::vector<std::string> out;
-    for (int i = 1; i <= s.Count(); ++i) out.push_back(s.LineAt(i).Text);
+// The lines as "A *B C:9": the selected one starred, a time other than 15 behind a colon.
+std::string Show(const AnimationScript& s) {
+    std::string out;
+    for (int i = 1; i <= s.Count(); ++i) {
+        const AnimationLine& line = s.LineAt(i);
+        out += std::string(i > 1 ? " " : "") + (i == s.SelectedIndex() ? "*" : "") + line.Text +
+               (line.Time == "15" ? "" : ":" + line.Time);
+    }
     return out;
 }
 
-void Fill(AnimationScript& s, std::initializer_list<const char*> texts) {
-    for (const char* t : texts) ASSERT_TRUE(s.AppendLine(t, "15", "[none]"));
-}
-
-TEST(AnimationScript, EmptyHasNoSelectionAndClearIsHarmless) {
-    AnimationScript s;
-    EXPECT_EQ(s.Count(), 0);
-    EXPECT_EQ(s.SelectedIndex(), 0);
-    s.ClearLines();
-    EXPECT_EQ(s.SelectedIndex(), 0);
-    EXPECT_FALSE(s.RemoveLine(1));
-}
-
-TEST(AnimationScript, FirstLineAddedIsSelectedAndLaterOnesAreNot) {
-    AnimationScript s;
-    Fill(s, {"A", "B"});
-    EXPECT_EQ(s.SelectedIndex(), 1);
-    s.ClearLines();
-    EXPECT_EQ(s.SelectedIndex(), 0);
-    Fill(s, {"C"});
-    EXPECT_EQ(s.SelectedIndex(), 1);
-}
-
-// Each case: lines A B C D, select `selected`, then do one operation; the
-// selected line must still be the same line, or the documented neighbour.
-struct SelectionCase {
-    const char* name;
-    int selected;
-    bool insert;  // else remove
-    int index;
-    std::vector<std::string> expectTexts;
-    std::string expectSelectedText;
-    friend void PrintTo(const SelectionCase& c, std::ostream* os) { *os << c.name; }
-};
-
-class SelectionRules : public testing::TestWithParam<SelectionCase> {};
-
-TEST_P(SelectionRules, SelectedLineFollowsItsLine) {
-    const auto& c = GetParam();
-    AnimationScript s;
-    Fill(s, {"A", "B", "C", "D"});
-    s.SelectLine(c.selected);
-    if (c.insert) {
-        ASSERT_TRUE(s.InsertLine(c.index, "N", "15", "[none]"));
-    } else {
-        ASSERT_TRUE(s.RemoveLine(c.index));
-    }
-    EXPECT_EQ(Texts(s), c.expectTexts);
-    ASSERT_GE(s.SelectedIndex(), 1);
-    EXPECT_EQ(s.LineAt(s.SelectedIndex()).Text, c.expectSelectedText);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Rules, SelectionRules,
-    testing::Values(SelectionCase{"InsertInFront", 1, true, 1, {"N", "A", "B", "C", "D"}, "A"},
-                    SelectionCase{"InsertBehind", 2, true, 3, {"A", "B", "N", "C", "D"}, "B"},
-                    SelectionCase{"InsertAtEnd", 4, true, 5, {"A", "B", "C", "D", "N"}, "D"},
-                    SelectionCase{"RemoveInFront", 3, false, 1, {"B", "C", "D"}, "C"},
-                    SelectionCase{"RemoveBehind", 2, false, 4, {"A", "B", "C"}, "B"},
-                    SelectionCase{"RemoveSelectedTakesNext", 2, false, 2, {"A", "C", "D"}, "C"},
-                    SelectionCase{"RemoveSelectedLastTakesNewLast", 4, false, 4, {"A", "B", "C"}, "C"}),
-    testing::PrintToStringParamName());
-
-TEST(AnimationScript, RemovingTheOnlyLineLeavesNoSelection) {
-    AnimationScript s;
-    Fill(s, {"A"});
-    EXPECT_TRUE(s.RemoveLine(1));
-    EXPECT_EQ(s.SelectedIndex(), 0);
-}
-
-TEST(AnimationScript, BadIndexesChangeNothing) {
-    AnimationScript s;
-    Fill(s, {"A"});
-    EXPECT_FALSE(s.InsertLine(0, "x", "15", "[none]"));
-    EXPECT_FALSE(s.InsertLine(3, "x", "15", "[none]"));
-    EXPECT_FALSE(s.RemoveLine(2));
-    s.SelectLine(5);
-    s.SetLineText(9, "x");
-    EXPECT_EQ(Texts(s), std::vector<std::string>{"A"});
-    EXPECT_EQ(s.SelectedIndex(), 1);
-}
-
-TEST(AnimationScript, FieldsAreKeptAsText) {
-    AnimationScript s;
-    Fill(s, {"A", "A"});
-    s.SetLineTime(1, "abc");
-    s.SetLineText(2, "^1x");
-    EXPECT_EQ(s.Count(), 2);
-    EXPECT_EQ(s.LineAt(1), (AnimationLine{"A", "abc", "[none]"}));
-    EXPECT_EQ(s.LineAt(2), (AnimationLine{"^1x", "15", "[none]"}));
-}
-
-TEST(AnimationScript, RefusesTheLineBeyondTheLimit) {
-    AnimationScript s;
-    for (int i = 0; i < kMaxLines; ++i) ASSERT_TRUE(s.AppendLine("x", "15", "[none]"));
-    EXPECT_TRUE(s.IsFull());
-    EXPECT_FALSE(s.AppendLine("y", "15", "[none]"));
-    EXPECT_FALSE(s.InsertLine(1, "y", "15", "[none]"));
-    EXPECT_EQ(s.Count(), kMaxLines);
-    EXPECT_EQ(s.LineAt(1).Text, "x");
-}
-
-// Records what a view would be told.
-struct Recorder : ScriptListener {
-    std::vector<std::string> events;
-    void AboutToInsert(int i) override { events.push_back("about-insert " + std::to_string(i)); }
-    void Inserted(int i) override { events.push_back("inserted " + std::to_string(i)); }
-    void AboutToRemove(int i) override { events.push_back("about-remove " + std::to_string(i)); }
-    void Removed(int i) override { events.push_back("removed " + std::to_string(i)); }
-    void LineChanged(int i) override { events.push_back("changed " + std::to_string(i)); }
-    void AboutToReset() override { events.push_back("about-reset"); }
-    void ResetDone() override { events.push_back("reset"); }
-    void SelectionChanged(int i) override { events.push_back("select " + std::to_string(i)); }
-};
-
-TEST(AnimationScript, ListenerHearsEachChange) {
-    AnimationScript s;
-    Recorder r;
-    s.SetListener(&r);
-    s.AppendLine("A", "15", "[none]");
-    s.InsertLine(1, "B", "15", "[none]");
-    s.SetLineText(2, "C");
-    s.RemoveLine(2);
-    s.ClearLines();
-    EXPECT_EQ(r.events, (std::vector<std::string>{"about-insert 1", "inserted 1", "select 1",  //
-                                                  "about-insert 1", "inserted 1", "select 2",  //
-                                                  "changed 2",                                 //
-                                                  "about-remove 2", "removed 2", "select 1",   //
-                                                  "about-reset", "reset"}));
-}
-
-TEST(AnimationScript, BatchIsOneReset) {
-    AnimationScript s;
-    Recorder r;
-    s.SetListener(&r);
-    {
-        AnimationScript::Batch outer(s);
-        s.ClearLines();
-        {
-            AnimationScript::Batch inner(s);
-            for (int i = 0; i < 100; ++i) s.AppendLine("x", "15", "[none]");
+// One word an operation: s<n> select, i<n> insert "N", r<n> remove, t<n> text
+// "x", m<n> time "9", c clear, e<n> exchange for X Y selecting n, E exchange
+// for nothing, ( and ) open and close a batch. A refused operation says "no".
+void Play(AnimationScript& s, test::Recorder& view, const std::string& program) {
+    std::vector<std::unique_ptr<AnimationScript::Batch>> batches;
+    std::istringstream words(program);
+    for (std::string w; words >> w;) {
+        const int n = w.size() > 1 ? std::stoi(w.substr(1)) : 0;
+        bool done = true;
+        // clang-format off
+        switch (w[0]) {
+            case 's': s.SelectLine(n); break;
+            case 'i': done = s.InsertLine(n, "N", "15", "[none]"); break;
+            case 'r': done = s.RemoveLine(n); break;
+            case 't': s.SetLineText(n, "x"); break;
+            case 'm': s.SetLineTime(n, "9"); break;
+            case 'c': s.ClearLines(); break;
+            case 'e': s.ExchangeLines({{"X"}, {"Y"}}, n); break;
+            case 'E': s.ExchangeLines({}, n); break;
+            case '(': batches.push_back(std::make_unique<AnimationScript::Batch>(s)); break;
+            case ')': batches.pop_back(); break;
         }
+        // clang-format on
+        if (!done) view.Say("no");
     }
-    EXPECT_EQ(r.events, (std::vector<std::string>{"about-reset", "reset", "select 1"}));
-    EXPECT_EQ(s.Count(), 100);
+}
+
+// Every case starts from A B C D with A selected.
+TEST(AnimationScript, KeepsTheSelectionOnItsLineAndTellsTheView) {
+    const struct {
+        const char *program, *lines, *told;
+    } cases[] = {
+        // clang-format off
+        {"", "*A B C D", ""},                                 {"s3 s3 s0 s5", "A B *C D", "s3"},
+        {"i1", "N *A B C D", "[+1 +1] s2"},                   {"s2 i3", "A *B N C D", "s2 [+3 +3]"},
+        {"s4 i5", "A B C *D N", "s4 [+5 +5]"},                {"i0 i6 r0 r5", "*A B C D", "no no no no"},
+        {"s3 r1", "B *C D", "s3 [-1 -1] s2"},                 {"s2 r4", "A *B C", "s2 [-4 -4]"},
+        {"s2 r2", "A *C D", "s2 [-2 -2] s2"},                 {"s4 r4", "A B *C", "s4 [-4 -4] s3"},
+        {"t2 m3 t0 m5", "*A x C:9 D", "~2 ~3"},               {"c c", "", "[R R]"},
+        {"r1 r1 r1 r1", "", "[-1 -1] s1 [-1 -1] s1 [-1 -1] s1 [-1 -1] s0"},
+        {"c i1 i1", "N *N", "[R R] [+1 +1] s1 [+1 +1] s2"},   {"s3 e0", "*X Y", "s3 [R R] s1"},
+        {"e1", "*X Y", "[R R] s1"},                           {"e9", "X *Y", "[R R] s2"},
+        {"E3", "", "[R R] s0"},                               {"( c ( i1 i1 ) t1 r9 )", "x *N", "[R no R] s2"},
+        // clang-format on
+    };
+    for (const auto& c : cases) {
+        AnimationScript s;
+        for (const char* text : {"A", "B", "C", "D"}) s.AppendLine(text, "15", "[none]");
+        test::Recorder view;
+        s.SetListener(&view);
+        Play(s, view, c.program);
+        EXPECT_EQ(Show(s), c.lines) << c.program;
+        EXPECT_EQ(view.log, c.told) << c.program;
+    }
 }
 
 }  // namespace

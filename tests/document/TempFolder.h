@@ -1,5 +1,6 @@
 #pragma once
 
+#include <gtest/gtest.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -8,6 +9,15 @@
 #include <iterator>
 #include <string>
 #include <vector>
+
+#include "document/AnimationScript.h"
+#include "document/SafeWrite.h"
+
+namespace flickerscribe {
+inline void PrintTo(const SaveError& e, std::ostream* os) {
+    *os << e.number << " " << e.text;
+}
+}  // namespace flickerscribe
 
 namespace flickerscribe::test {
 
@@ -29,10 +39,11 @@ public:
 
     const std::string& Path() const { return path_; }
     std::string File(const std::string& name) const { return path_ + "/" + name; }
-    // Names of the entries, sorted.
-    std::vector<std::string> Entries() const {
+    // Names of the entries of this folder, or of a folder in it, sorted.
+    std::vector<std::string> Entries(const std::string& folder = "") const {
         std::vector<std::string> names;
-        for (const auto& e : std::filesystem::directory_iterator(path_)) names.push_back(e.path().filename());
+        for (const auto& e : std::filesystem::directory_iterator(File(folder)))
+            names.push_back(e.path().filename());
         std::sort(names.begin(), names.end());
         return names;
     }
@@ -49,5 +60,31 @@ inline std::string ReadBytes(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
     return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
 }
+
+// Text and Time of every line as "text|time"; an Action other than "[none]"
+// fails the test.
+inline std::vector<std::string> Lines(const AnimationScript& s) {
+    std::vector<std::string> out;
+    for (const AnimationLine& line : s.Lines()) {
+        EXPECT_EQ(line.Action, "[none]") << line.Text;
+        out.push_back(line.Text + "|" + line.Time);
+    }
+    return out;
+}
+
+// Writes down what a view is told, one word a call: "[+1 +1]" an insertion
+// at 1, "[-1 -1]" a removal, "~1" a change, "[R R]" a reset, "s1" a selection.
+struct Recorder : ScriptListener {
+    std::string log;
+    void Say(const std::string& word) { log += (log.empty() ? "" : " ") + word; }
+    void AboutToInsert(int i) override { Say("[+" + std::to_string(i)); }
+    void Inserted(int i) override { Say("+" + std::to_string(i) + "]"); }
+    void AboutToRemove(int i) override { Say("[-" + std::to_string(i)); }
+    void Removed(int i) override { Say("-" + std::to_string(i) + "]"); }
+    void LineChanged(int i) override { Say("~" + std::to_string(i)); }
+    void AboutToReset() override { Say("[R"); }
+    void ResetDone() override { Say("R]"); }
+    void SelectionChanged(int i) override { Say("s" + std::to_string(i)); }
+};
 
 }  // namespace flickerscribe::test

@@ -1,0 +1,207 @@
+#include <gtest/gtest.h>
+
+#include "TempFolder.h"
+#include "effects/EffectRun.h"
+
+namespace flickerscribe {
+namespace {
+
+// The Text of every line from line `from` on, joined by "|". Every line an
+// effect makes has the time "15" and the action "[none]".
+std::string Frames(const AnimationScript& script, int from = 1) {
+    std::string frames;
+    for (int i = from; i <= script.Count(); ++i) {
+        EXPECT_EQ(script.LineAt(i).Time + script.LineAt(i).Action, "15[none]") << i;
+        frames += (i > from ? "|" : "") + script.LineAt(i).Text;
+    }
+    return frames;
+}
+
+bool Yes(const std::string&, const std::string&) {
+    return true;
+}
+
+// One effect on a fresh script: its frames, and the name and tag that the
+// next row of a run sees. A code is a caret and a digit; the character behind
+// a code is taken untested, so in "^1^2x" only "^1" is a code. Wave forward
+// shows a character a frame at its own column with its own code. Wave 2 types
+// the name in, a code coming in whole; a frame that only adds a blank, or ends
+// in a code, is left out. A tag behind the name gets "^0". Bounce sends the
+// tag through the name and back, each turn mirroring every line before it,
+// and drops the colours for good.
+TEST(Effects, FramesOfEachEffect) {
+    const struct {
+        const char *effect, *repeats, *name, *tag;  // repeats: Parameter1, read by Bounce only
+        bool reverse;
+        const char *frames, *nameAfter, *tagAfter;
+    } cases[] = {
+        // clang-format off
+        {"Wave forward", "9", "^1K^2at", "[QZT]", false, "[QZT]^1K|[QZT] ^2a|[QZT]  ^2t", "^1K^2a^2t", "[QZT]"},
+        {"Wave forward", "0", "^1K^2at", "[QZT]", true, "^1K  ^0[QZT]| ^2a ^0[QZT]|  ^2t^0[QZT]", "^1K^2a^2t", "^0[QZT]"},
+        {"Wave forward", "0", "Kat", "", true, "^7K  ^0| ^7a ^0|  ^7t^0", "^7K^7a^7t", "^0"},
+        {"Wave forward", "0", "ab^1", "", false, "^7a| ^7b|  ^1", "^7a^7b^1", ""},
+        {"Wave forward", "0", "a^b", "", false, "^7a| ^7^|  ^7b", "^7a^7^^7b", ""},
+        {"Wave forward", "0", "", "[QZT]", true, "", "", "[QZT]"},
+        {"Wave 2", "9", "^1Ka^2t", "[QZT]", false, "[QZT]^1K|[QZT]^1Ka|[QZT]^1Ka^2t", "^1Ka^2t", "[QZT]"},
+        {"Wave 2", "0", "^1Ka^2t", "[T]", true, "^0[T]|^1K^0[T]|^1Ka^0[T]|^1Ka^2^0[T]|^1Ka^2t^0[T]", "^1Ka^2t", "^0[T]"},
+        {"Wave 2", "0", "Kat", "^4[QZT]", true, "K^4[QZT]|Ka^4[QZT]|Kat^4[QZT]", "Kat", "^4[QZT]"},
+        {"Wave 2", "0", " a  b ", "", false, " a| a  | a  b", " a  b ", ""},
+        {"Wave 2", "0", "^1^2ab", "", false, "^2a|^2ab", "^1^2ab", ""},
+        {"Wave 2", "0", "^1^2ab", "[QZT]", false, "[QZT]^1^2a|[QZT]^1^2ab", "^1^2ab", "[QZT]"},
+        {"Wave 2", "0", "Ka^", "", false, "K|Ka|Ka^", "Ka^", ""},
+        {"Wave 2", "0", "Kat", "", true, "", "Kat", "^0"},
+        {"Bounce", "1", "^1K^2at", "^4[T]", false, "[T]Kat|K[T]at|Ka[T]t|Kat[T]|Ka[T]t|K[T]at|[T]Kat", "Kat", "[T]"},
+        {"Bounce", "1", "^1K^2at", "^4[T]", true, "Kat[T]|Ka[T]t|K[T]at|[T]Kat|K[T]at|Ka[T]t|Kat[T]", "Kat", "[T]"},
+        {"Bounce", "2.9", "K", "[T]", false, "[T]K|K[T]|[T]K|[T]K|K[T]|[T]K|[T]K|K[T]|[T]K", "K", "[T]"},
+        {"Bounce", "1", "", "[QZT]", false, "[QZT]", "", "[QZT]"},
+        {"Bounce", "1", "^^12", "[QZT]", false, "[QZT]^2", "^2", "[QZT]"},
+        {"Bounce", "1", "^^12ab", "[T]", false, "[T]^2ab|^[T]b|^2[T]|^[T]b|[T]^2ab", "^2ab", "[T]"},
+        {"Bounce", "1", "^^12ab", "[T]", true, "^2[T]ab|^[T]2ab|[T]^2ab|^[T]2ab|^2[T]ab", "^2ab", "[T]"},
+        {"wave 2", "0", "^1K", "[QZT]", false, "", "^1K", "[QZT]"},
+        // clang-format on
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(std::string(c.effect) + " " + c.repeats + " on \"" + c.name + "\" tag \"" + c.tag +
+                     "\"" + (c.reverse ? " reverse" : ""));
+        AnimationScript script;
+        std::string name = c.name, tag = c.tag;
+        EXPECT_EQ(ApplyEffect(script, name, c.effect, c.repeats, "x", tag, c.reverse, Yes),
+                  EffectStatus::Done);
+        EXPECT_EQ(Frames(script), c.frames);
+        EXPECT_EQ(name, c.nameAfter);
+        EXPECT_EQ(tag, c.tagAfter);
+    }
+}
+
+// Bounce asks before a count of 5 or more, and No ends it before it touches
+// anything. One visible character makes 3 * 2^R - 3 lines, seven 15 * 2^R - 15.
+TEST(Effects, BounceRepeatCount) {
+    const struct {
+        const char *repeats, *name;
+        int lines;
+        bool asked;
+    } cases[] = {
+        // clang-format off
+        {"0", "K", 0, false}, {"abc", "K", 0, false}, {"-2", "K", 0, false}, {"0.9", "K", 0, false},
+        {"1", "K", 3, false}, {"2.7", "K", 9, false}, {"4.9", "K", 45, false}, {"5", "K", 93, true},
+        {" 5.9 ", "K", 93, true}, {"3", "Quillon", 105, false}, {"11", "Quillon", 30705, true},
+        // clang-format on
+    };
+    for (const auto& c : cases) {
+        for (const bool answer : {true, false}) {
+            SCOPED_TRACE(std::string("\"") + c.repeats + "\" answered " + (answer ? "yes" : "no"));
+            AnimationScript script;
+            std::string name = std::string("^1") + c.name, tag = "^4[QZT]", asked;
+            const auto ask = [&](const std::string& title, const std::string& text) {
+                asked = title + " " + text;
+                return answer;
+            };
+            EXPECT_EQ(ApplyEffect(script, name, "Bounce", c.repeats, "0", tag, false, ask),
+                      EffectStatus::Done);
+            EXPECT_EQ(asked,
+                      c.asked
+                          ? "Processing effect list... Are you sure you want to repeat the BOUNCE EFFECT " +
+                                std::string(c.repeats) + " times?"
+                          : "");
+            const bool runs = c.lines > 0 && (answer || !c.asked);
+            EXPECT_EQ(script.Count(), runs ? c.lines : 0);
+            EXPECT_EQ(name + tag,
+                      runs ? c.name + std::string("[QZT]") : "^1" + std::string(c.name) + "^4[QZT]");
+            EXPECT_EQ(Frames(script, std::max(1, script.Count())), runs ? "[QZT]" + std::string(c.name) : "");
+        }
+    }
+    AnimationScript script;
+    std::string name = "Kat", tag;
+    EXPECT_EQ(ApplyEffect(script, name, "Bounce", "5", "0", tag, false, nullptr), EffectStatus::Done);
+    EXPECT_EQ(script.Count(), 0);  // nobody to ask: no
+}
+
+// An effect stops at the first line a full script refuses; Bounce's forward
+// pass may fit and its mirror pass be refused at once.
+TEST(Effects, StopAtTheFirstLineTheFullScriptRefuses) {
+    const std::tuple<const char*, bool, int, const char*> cases[] = {
+        {"Wave forward", false, 2, "[QZT]^7K|[QZT] ^7a"},
+        {"Wave 2", false, 2, "[QZT]K|[QZT]Ka"},
+        {"Bounce", false, 2, "[QZT]Kat|K[QZT]at"},
+        {"Bounce", false, 4, "[QZT]Kat|K[QZT]at|Ka[QZT]t|Kat[QZT]"},
+        {"Bounce", true, 4, "Kat[QZT]|Ka[QZT]t|K[QZT]at|[QZT]Kat"},
+    };
+    for (const auto& [effect, reverse, room, lastFrames] : cases) {
+        AnimationScript script;
+        for (int i = room; i < kMaxLines; ++i) script.AppendLine("filler", "15", "[none]");
+        std::string name = "Kat", tag = "[QZT]";
+        EXPECT_EQ(ApplyEffect(script, name, effect, "1", "0", tag, reverse, Yes),
+                  EffectStatus::LineLimitReached);
+        EXPECT_EQ(Frames(script, kMaxLines - room + 1), lastFrames) << effect << room;
+    }
+}
+
+// A run clears the script and applies the rows in order, each to the name
+// and tag the rows before it left.
+TEST(EffectRun, RowsChainThroughTheRewrittenNameAndTag) {
+    const struct {
+        const char *name, *tag;
+        bool reverse;
+        std::vector<EffectRow> rows;
+        const char* frames;
+    } cases[] = {
+        // clang-format off
+        {"^1Ka", "^4[QZT]", false, {{"Wave 2"}, {"Bounce", "1"}, {"Wave 2"}},
+         "^4[QZT]^1K|^4[QZT]^1Ka|[QZT]Ka|K[QZT]a|Ka[QZT]|K[QZT]a|[QZT]Ka|^4[QZT]^1Ka|^4[QZT]^1K|[QZT]K|[QZT]Ka"},
+        {"Ka", "[QZT]", true, {{"Wave 2"}, {"Bounce", "1"}, {"Wave 2"}},
+         "K^0[QZT]|Ka^0[QZT]|Ka[QZT]|K[QZT]a|[QZT]Ka|K[QZT]a|Ka[QZT]|Ka^0[QZT]|K^0[QZT]|K^0[QZT]|Ka^0[QZT]"},
+        {"^1Ka", "", false, {{"Bounce", "0"}, {"Wave forward"}, {"Wave two"}, {"Wave forward"}}, "^1K| ^1a|^1K| ^1a"},
+        {"Ka", "[QZT]", false, {}, ""},
+        // clang-format on
+    };
+    for (const auto& c : cases) {
+        AnimationScript script;
+        script.AppendLine("from before the run", "15", "[none]");
+        const EffectRunResult result = RunEffectList(script, c.name, c.tag, c.reverse, c.rows, Yes);
+        EXPECT_FALSE(result.lineLimitReached || result.inputRefused);
+        EXPECT_EQ(Frames(script), c.frames);
+        EXPECT_EQ(script.SelectedIndex(), script.Count() ? 1 : 0);
+    }
+}
+
+// The limit ends the whole run: no further line, row or question. The 11
+// turns of Bounce make 30705 lines, the twelfth's forward pass 8 more, and its
+// mirror pass copies line 30712 down to 28659 before the script is full.
+TEST(EffectRun, TheLineLimitEndsTheWholeRun) {
+    AnimationScript script;
+    int questions = 0;
+    const auto ask = [&](const std::string&, const std::string&) { return ++questions, true; };
+    const EffectRunResult result = RunEffectList(script, "Quillon", "[QZT]", false,
+                                                 {{"Bounce", "12"}, {"Bounce", "5"}, {"Wave 2"}}, ask);
+    EXPECT_TRUE(result.lineLimitReached && !result.inputRefused);
+    EXPECT_EQ(questions, 1);
+    ASSERT_EQ(script.Count(), kMaxLines);
+    EXPECT_EQ(script.LineAt(30713).Text, "Quillon[QZT]");
+    EXPECT_EQ(script.LineAt(kMaxLines).Text, script.LineAt(28659).Text);
+}
+
+// A name or tag over 32767 characters is refused before the script is even
+// cleared. While a question is open the view is brought up to date.
+TEST(EffectRun, RefusesOverlongTextsAndShowsTheScriptWhileAsking) {
+    const std::string longest(kMaxEffectTextLength, 'a'), tooLong(kMaxEffectTextLength + 1, 'a');
+    for (const auto& [name, tag, told] : std::vector<std::tuple<std::string, std::string, std::string>>{
+             {tooLong, "", ""}, {"K", tooLong, ""}, {"Ka", longest, "[R R] s1 asked at 2 [R R] s1"}}) {
+        AnimationScript script;
+        script.AppendLine("keep me", "15", "[none]");
+        test::Recorder view;
+        script.SetListener(&view);
+        const auto ask = [&](const std::string&, const std::string&) {
+            view.Say("asked at " + std::to_string(script.Count()));
+            return false;
+        };
+        const EffectRunResult result =
+            RunEffectList(script, name, tag, false, {{"Wave 2"}, {"Bounce", "5"}}, ask);
+        EXPECT_EQ(result.inputRefused, told.empty());
+        EXPECT_FALSE(result.lineLimitReached);
+        EXPECT_EQ(view.log, told);
+        EXPECT_EQ(script.Count(), told.empty() ? 1 : 2);
+    }
+}
+
+}  // namespace
+}  // namespace flickerscribe

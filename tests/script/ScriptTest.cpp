@@ -1,0 +1,158 @@
+#include <gtest/gtest.h>
+
+#include "script/ConfigImport.h"
+#include "script/ScriptText.h"
+
+namespace flickerscribe {
+namespace {
+
+// A time of 1..99 (rounded down) goes in as written, less is 5, more is 99;
+// no number waits 15 and is reported.
+TEST(ScriptText, WaitCommand) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"15", "15"},     {"1", "1"},    {"99", "99"},   {"99.99", "99.99"}, {"100", "99"},
+        {"32767", "99"},  {"1e2", "99"}, {"0", "5"},     {"-3", "5"},        {"0.9", "5"},
+        {"0.99999", "5"}, {"-0.4", "5"}, {"1.5", "1.5"}, {"007", "007"},     {" 20 ", " 20 "},
+        {"abc", ""},      {"", ""},      {"32768", ""},  {"\t5", ""},        {"5;", ""},
+    };
+    for (const auto& [time, wait] : cases) {
+        std::vector<std::string> reports;
+        const std::string command = WaitCommand(time, [&](const std::string& m) { reports.push_back(m); });
+        EXPECT_EQ(command, "wait " + std::string(*wait ? wait : "15")) << '"' << time << '"';
+        EXPECT_EQ(reports,
+                  *wait ? std::vector<std::string>{} : std::vector<std::string>{NoNumberMessage(time)});
+    }
+    EXPECT_EQ(WaitCommand("x", nullptr), "wait 15");
+}
+
+// The worked example byte for byte: the empty first line, the banner, then
+// each line's commands; every time that is no number reported in list order.
+// A text goes in as it is, but an empty one or one that begins with a blank
+// gets "^7" in front.
+TEST(ScriptText, BuildsTheWholeScript) {
+    const std::string banner =
+        "\r\n//--------------------------\\\\"
+        "\r\n//----- SCRIPT MADE WITH ---\\\\"
+        "\r\n//------ Flickerscribe -----\\\\"
+        "\r\n//----- by: [QZT]Quillon ---\\\\"
+        "\r\n//--------------------------\\\\"
+        "\r\n//-quillon@qzt-clan.example-\\\\"
+        "\r\n//--------------------------\\\\";
+    AnimationScript script;
+    std::vector<std::string> reports;
+    const ScriptReport report = [&](const std::string& m) { reports.push_back(m); };
+    EXPECT_EQ(BuildScriptText(script, report), banner);
+    const std::pair<const char*, const char*> lines[] = {
+        {"^1Fl^7ick", "15"}, {"", "250"}, {" ^2up", "0"}, {"\tA;B\"C\\\xE9", "x"}, {"b", ""}, {"c", "x"},
+    };
+    for (const auto& [text, time] : lines) script.AppendLine(text, time, "set name \"not me\"");
+    EXPECT_EQ(BuildScriptText(script, report), banner +
+                                                   "\r\nset name \"^1Fl^7ick\"\r\nwait 15"
+                                                   "\r\nset name \"^7 \"\r\nwait 99"
+                                                   "\r\nset name \"^7 ^2up\"\r\nwait 5"
+                                                   "\r\nset name \"\tA;B\"C\\\xE9\"\r\nwait 15"
+                                                   "\r\nset name \"b\"\r\nwait 15"
+                                                   "\r\nset name \"c\"\r\nwait 15");
+    EXPECT_EQ(reports, (std::vector<std::string>{"no number _x_", "no number __", "no number _x_"}));
+    EXPECT_EQ(script.LineAt(4).Time, "x");
+    EXPECT_EQ(NameCommand(" x"), "set name \"^7 x\"");
+}
+
+// The lines of an import as "text", with the time behind a bar when it isn't 15.
+std::vector<std::string> Import(std::string_view data) {
+    AnimationScript script;
+    script.AppendLine("old", "1", "[none]");
+    EXPECT_EQ(ImportBytes(data, script), LoadStatus::Loaded);
+    EXPECT_EQ(script.SelectedIndex(), script.Count() > 0 ? 1 : 0);
+    std::vector<std::string> lines;
+    for (const AnimationLine& line : script.Lines()) {
+        EXPECT_EQ(line.Action, "[none]");
+        lines.push_back(line.Text + (line.Time == "15" ? "" : "|" + line.Time));
+    }
+    return lines;
+}
+
+using Lines = std::vector<std::string>;
+
+TEST(ConfigImport, WorkedExample) {
+    const std::string file =
+        "// my script\r\n"
+        "  set name \"^1one\"; wait 20 ;SET NAME ^2two\r\n"
+        "\r\n"
+        "wait 30\r\n"
+        "other \"text\"\r\n"
+        "set name\r\n"
+        "set name \"\r\n"
+        "set name \"a;b\"\r\n"
+        "setname \"q\"\r\n"
+        "set  name \"r\"\r\n"
+        "set name: \"s\" // note\r\n";
+    // wait 20 stands behind the first name, wait 30 behind the second.
+    EXPECT_EQ(Import(file), (Lines{"^1one|20", "^2two|30", "", "a", " s // note"}));
+}
+
+// A comment line is skipped whole; every other line is cut into statements
+// at each semicolon. A wait gives its number to the line appended last.
+TEST(ConfigImport, ScriptsAndTheLinesTheyMake) {
+    const std::pair<std::string, Lines> cases[] = {
+        // clang-format off
+        {"", {}},                                     {"  // set name \"x\"", {}},
+        {"// x; set name \"y\"", {}},                 {"\t// set name \"x\"", {}},
+        {"set name \"x\"; // text", {"x"}},           {"set name \"x\" // text", {"x // text"}},
+        {"set name ", {}},                            {"set name \"a\"\"b\"", {"ab"}},
+        {"set name \"  lead\"", {"  lead"}},          {"   ;  ; set name \"x\";;", {"x"}},
+        {"set name \"a\";set name \"b\";set name \"c\"", {"a", "b", "c"}},
+        {"// my script\nset name \"x\"\nwait 20\nset name \"y\"\n", {"x|20", "y"}},
+        {"set name \"x\"\nset name \"y\"\r\n", {"x\nset name y"}},
+        {"wait 20\r\nset name x", {"x"}},            {"set name x;wait 20;wait 30", {"x|30"}},
+        {"set name x;wait 1.5", {"x|1.5"}},           {"set name x;wait abc;wait 99999;Wait 20;wait5", {"x"}},
+        {"set name x;wait 5", {"x|5"}},               {"set name x;set name ;wait 20", {"x|20"}},
+        {"set name x\r\n// wait 20", {"x"}},
+        {"set name x;wait \" 2\"0\" \"", {"x| 20 "}},  // trimmed before the quotes go
+        {"set name x;wait\t20", {"x|20"}},          // the fifth character goes, whatever it is
+        // clang-format on
+    };
+    for (const auto& [script, lines] : cases) EXPECT_EQ(Import(script), lines) << script;
+}
+
+TEST(ConfigImport, AGeneratedScriptComesBack) {
+    const struct {
+        const char *text, *time, *back;
+    } cases[] = {
+        // clang-format off
+        {"^1Fl^7ick", "15", "^1Fl^7ick"}, {"", "20", "^7 |20"}, {" ^2up", "0", "^7 ^2up|5"}, {"^7 ", "250", "^7 |99"},
+        {"a\"b", "abc", "ab"}, {"a;b", "3", "a|3"}, {"x", " 20 ", "x|20"}, {"x", "1.5", "x|1.5"},
+        {"//x", "7", "//x|7"},  // inside quotes behind set name: no comment line
+        // clang-format on
+    };
+    AnimationScript source;
+    Lines expected;
+    for (const auto& c : cases) {
+        source.AppendLine(c.text, c.time, "[none]");
+        expected.push_back(c.back);
+    }
+    EXPECT_EQ(Import(BuildScriptText(source, nullptr) + "\r\n"), expected);
+}
+
+TEST(ConfigImport, StopsAtTheLineLimitKeepingTheLinesThatStood) {
+    std::string file;
+    for (int i = 0; i < kMaxLines; ++i) file += "set name n\r\nwait 7\r\n";
+    AnimationScript script;
+    EXPECT_EQ(ImportBytes(file, script), LoadStatus::Loaded);  // exactly full is no cut
+    file += "set name last;wait 9\r\nset name more";
+    EXPECT_EQ(ImportBytes(file, script), LoadStatus::Truncated);
+    ASSERT_EQ(script.Count(), kMaxLines);
+    EXPECT_EQ(script.LineAt(kMaxLines).Text, "n");
+    EXPECT_EQ(script.LineAt(kMaxLines).Time, "7");  // the wait of a refused name is not read
+
+    // A run that is full takes nothing more.
+    ImportRun run(script);
+    run.lastAppended = kMaxLines;
+    run.full = true;
+    ParseScriptLine("wait 3;set name x", run);
+    EXPECT_EQ(script.Count(), kMaxLines);
+    EXPECT_EQ(script.LineAt(kMaxLines).Time, "7");
+}
+
+}  // namespace
+}  // namespace flickerscribe
