@@ -1,12 +1,5 @@
 // The smaller windows: the Edit dialog, Options, the two painting windows,
 // About and Help; and the names Qt's file dialog is given.
-#include <QApplication>
-#include <QCheckBox>
-#include <QClipboard>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <cstdlib>
 
 #include "MainWindowFixture.h"

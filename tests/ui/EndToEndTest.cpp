@@ -5,14 +5,6 @@
 // command is left out of it.
 #include <sys/wait.h>
 
-#include <QApplication>
-#include <QComboBox>
-#include <QMenu>
-#include <QPlainTextEdit>
-#include <QPointer>
-#include <QPushButton>
-#include <QSet>
-#include <QTimer>
 #include <cstdlib>
 
 #include "MainWindowFixture.h"

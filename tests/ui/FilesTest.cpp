@@ -3,11 +3,6 @@
 // written.
 #include <sys/stat.h>
 
-#include <QApplication>
-#include <QDir>
-#include <QMenuBar>
-#include <QPlainTextEdit>
-#include <QTimer>
 #include <cstring>
 
 #include "MainWindowFixture.h"

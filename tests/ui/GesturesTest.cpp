@@ -1,16 +1,5 @@
 // What users do with keys, mouse and clipboard, through the real widgets: each
 // gesture has to leave the animation exactly as the user meant it.
-#include <QAccessible>
-#include <QApplication>
-#include <QClipboard>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QMimeData>
-#include <QPointer>
-#include <QPushButton>
-#include <QToolBar>
-#include <QToolButton>
-#include <functional>
 
 #include "MainWindowFixture.h"
 

@@ -1,14 +1,4 @@
 // Undo and Redo of every change, and the last animation kept between runs.
-#include <QApplication>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QMenu>
-#include <QPushButton>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
-#include <functional>
-#include <tuple>
 
 #include "MainWindowFixture.h"
 #include "ui/AnimationHistory.h"

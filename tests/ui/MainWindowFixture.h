@@ -2,12 +2,11 @@
 
 #include <gmock/gmock.h>
 
-#include <QAction>
-#include <QFile>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTextEdit>
+#include <QtTest>
+#include <QtWidgets>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 

@@ -1,15 +1,5 @@
 // The main window: what it shows at the start, its commands over lines, the
 // clipboard, editing in the pane and by keys, playback and its layout.
-#include <QApplication>
-#include <QLineEdit>
-#include <QMenu>
-#include <QMenuBar>
-#include <QPushButton>
-#include <QTimer>
-#include <QToolBar>
-#include <QToolButton>
-#include <functional>
-#include <optional>
 
 #include "MainWindowFixture.h"
 

@@ -1,7 +1,5 @@
 // The rich text pane over a real QTextEdit behaves as the pane the core's
 // walks are written for; and the wizard's pictures look as approved.
-#include <QCryptographicHash>
-#include <QTextEdit>
 #include <algorithm>
 #include <random>
 

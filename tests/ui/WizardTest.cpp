@@ -1,13 +1,4 @@
 // The animation wizard: its pages, its boxes, the effect list and Finish.
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTreeWidget>
-#include <optional>
-#include <tuple>
 
 #include "MainWindowFixture.h"
 
