@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <clocale>
 #include <optional>
 
 #include "colour/NumberText.h"
@@ -55,14 +54,6 @@ TEST(NumberText, ReadsOnlyTheTextItIsGiven) {
         const char c = static_cast<char>(b);
         EXPECT_EQ(IsNumberText(std::string_view(&c, 1)), c >= '0' && c <= '9') << b;
     }
-}
-
-TEST(NumberText, IgnoresTheLocale) {
-    const std::string saved = std::setlocale(LC_NUMERIC, nullptr);
-    if (std::setlocale(LC_NUMERIC, "de_DE.UTF-8") == nullptr) GTEST_SKIP() << "no German locale";
-    EXPECT_EQ(WholeNumber("1.5"), 2);
-    EXPECT_FALSE(IsNumberText("1,5"));
-    std::setlocale(LC_NUMERIC, saved.c_str());
 }
 
 }  // namespace

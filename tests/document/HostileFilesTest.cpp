@@ -30,34 +30,6 @@ std::string RandomBytes(std::size_t size, unsigned seed) {
     return bytes;
 }
 
-// A file of anything opens as a plain list and imports as its bytes do.
-TEST(HostileFiles, ArbitraryBytesOpenAsAPlainListAndImportWithoutAWord) {
-    const std::string cases[] = {RandomBytes(1 << 20, 1), std::string(1000, '\0'), std::string(1000, '\r'),
-                                 std::string(1000, '\n'), "set name \"\";;\r\nwait \"\";;\r\n;"};
-    for (const auto& bytes : cases) {
-        test::TempFolder dir;
-        test::WriteBytes(dir.File("noise"), bytes);
-        AnimationScript opened, imported, fromBytes;
-        EXPECT_EQ(LoadAnimationFile(dir.File("noise"), opened), LoadStatus::Loaded);
-        const auto texts = SplitTextLines(bytes);
-        ASSERT_EQ(opened.Count() + 1, std::max<int>(1, static_cast<int>(texts.size())));
-        for (int i = 1; i <= opened.Count(); ++i) EXPECT_EQ(opened.LineAt(i).Text, texts[std::size_t(i)]);
-        EXPECT_EQ(ImportFile(dir.File("noise"), imported), ImportBytes(bytes, fromBytes));
-        EXPECT_EQ(test::Lines(imported), test::Lines(fromBytes));
-    }
-}
-
-TEST(HostileFiles, AHundredMegabyteFileKeepsThe32767FirstLinesAndSaysSo) {
-    std::string bytes = "plain list\r\n";
-    for (int i = 1; i <= 40000; ++i) bytes += (std::to_string(i) + ' ').append(2600, 'x') + "\r\n";
-    test::TempFolder dir;
-    test::WriteBytes(dir.File("huge"), bytes);
-    AnimationScript s;
-    EXPECT_EQ(LoadAnimationFile(dir.File("huge"), s), LoadStatus::Truncated);
-    ASSERT_EQ(s.Count(), kMaxLines);
-    EXPECT_EQ(s.LineAt(kMaxLines).Text, "32767 " + std::string(2600, 'x'));
-}
-
 // Only a plain file read to its end replaces the lines, in one reset for the
 // view; anything else (/proc/self/mem opens, but reading it is an I/O error)
 // leaves them alone, even for the view.

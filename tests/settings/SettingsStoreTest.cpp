@@ -4,7 +4,6 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
-#include "MemorySettingsStore.h"
 #include "settings/QSettingsStore.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -36,20 +35,6 @@ TEST(QSettingsStore, KeepsEveryTextExactly) {
     // A value of another kind, such as a number, is none of ours.
     QSettings(path, QSettings::IniFormat).setValue(u"Reverse"_s, 1);
     EXPECT_EQ(QSettingsStore(path).ReadValue(u"Reverse"_s, u"default"_s), u"default"_s);
-}
-
-// The settings in memory: texts unchanged, a flag true only for the text "1".
-TEST(LoadSettings, TextsAsTheyAreAndFlagsOnlyForOne) {
-    const QMap<QString, QString> stored = {{u"OpenDir"_s, u"/o"_s}, {u"SaveDir"_s, u"/s"_s},
-                                           {u"Name"_s, u"^1Q"_s},   {u"Clantag"_s, u"[T]"_s},
-                                           {u"Reverse"_s, u"1"_s},  {u"EditItem"_s, u"true"_s}};
-    const Settings s = LoadSettings(MemorySettingsStore(stored));
-    EXPECT_EQ(QStringList({s.openFolder, s.saveFolder, s.name, s.clanTag}).join(u'|'), u"/o|/s|^1Q|[T]"_s);
-    EXPECT_TRUE(s.reverse);
-    EXPECT_FALSE(s.editInPlace);
-    for (const QString& flag : {u" 1"_s, u"0"_s, QString()})
-        EXPECT_FALSE(LoadSettings(MemorySettingsStore({{u"Reverse"_s, flag}})).reverse) << flag.toStdString();
-    EXPECT_FALSE(LoadSettings(MemorySettingsStore()).reverse);
 }
 
 }  // namespace

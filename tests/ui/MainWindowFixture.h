@@ -23,7 +23,9 @@
 #include "ui/WizardDialog.h"
 
 // Failed checks show texts as text.
-inline void PrintTo(const QString& text, std::ostream* os) { *os << '"' << text.toStdString() << '"'; }
+inline void PrintTo(const QString& text, std::ostream* os) {
+    *os << '"' << text.toStdString() << '"';
+}
 
 namespace flickerscribe::ui::testing_support {
 
