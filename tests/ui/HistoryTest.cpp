@@ -38,124 +38,96 @@ public:
     }
 };
 
-struct StepCase {
-    const char* name;
-    std::function<void(History&)> command;
-    const char* step;  // the name Undo gives it
-    friend void PrintTo(const StepCase& c, std::ostream* os) { *os << c.name; }
-};
-
-class EveryChange : public History, public testing::WithParamInterface<StepCase> {};
-
 // Each change is one step: Ctrl+Z and the menu's Undo bring back the lines,
 // the selected line and the pane as they were; Ctrl+Y, Ctrl+Shift+Z and Redo
 // bring back the change. (The commands over lines have theirs in the main
 // window's table.)
-TEST_P(EveryChange, IsOneStepThatUndoAndRedoTakeBackAndDoAgain) {
-    Start(kABC, 2);
-    Show();
-    const Seen before = Now();
-    QAction* undo = Named(u"mnuEditUndo"_s);
-    QAction* redo = Named(u"mnuEditRedo"_s);
-    EXPECT_FALSE(undo->isEnabled());
-    GetParam().command(*this);
-    const Seen after = Now();
-    ASSERT_NE(after, before);
-    EXPECT_EQ(undo->text(), u"Undo "_s + QString::fromLatin1(GetParam().step));
-
-    Press(Qt::Key_Z);
-    EXPECT_EQ(Now(), before);
-    EXPECT_FALSE(undo->isEnabled()) << "one step, not more";
-    EXPECT_TRUE(redo->isEnabled());
-    Press(Qt::Key_Y);
-    EXPECT_EQ(Now(), after);
-    undo->trigger();
-    EXPECT_EQ(Now(), before);
-    Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_EQ(Now(), after);
-    redo->trigger();
-    EXPECT_EQ(Now(), after) << "nothing more to redo";
-}
-
-void Trigger(History& t, const char* name) {
-    t.Trigger(QString::fromLatin1(name));
-}
-std::function<void(History&)> Action(const char* name) {
-    return [name](History& t) { Trigger(t, name); };
-}
-
-// The command, given a file of these bytes.
-std::function<void(History&)> OpenFile(const char* command, const char* bytes) {
-    return [=](History& t) {
-        WriteBytes(t.PathOf(u"file"_s), bytes);
-        t.dialogs.QueueOpen(t.PathOf(u"file"_s));
-        Trigger(t, command);
+TEST_F(History, EveryChangeIsOneStepThatUndoAndRedoTakeBackAndDoAgain) {
+    const auto openFile = [this](const QString& command, const char* bytes) {
+        WriteBytes(PathOf(u"file"_s), bytes);
+        dialogs.QueueOpen(PathOf(u"file"_s));
+        Trigger(command);
     };
+    const std::pair<const char*, std::function<void()>> changes[] = {
+        {"Edit time",
+         [&] {
+             WhenModal([](QWidget* edit) {
+                 auto* box = edit->findChild<QLineEdit*>(u"txtTime"_s);
+                 box->setText(u"25"_s);
+                 QTest::keyClick(box, Qt::Key_Return);
+             });
+             Trigger(u"btnedit"_s);
+         }},
+        {"Edit text",
+         [&] {
+             LineListView* list = window->LineList();
+             list->edit(list->model()->index(1, 0));
+             auto* editor = list->viewport()->findChild<QLineEdit*>();
+             QTest::keyClicks(editor, u"^2x"_s);
+             QTest::keyClick(editor, Qt::Key_Return);
+             ASSERT_TRUE(QTest::qWaitFor([&] { return Script().LineAt(2).Text != "B"; }));
+         }},
+        {"Colour",
+         [&] {
+             window->ToggleColours();
+             window->PreviewPane().SetSelStart(0);
+             window->PreviewPane().SetSelLength(1);
+             QTest::mouseClick(Named<QPushButton>(u"cmdColor_0"_s), Qt::LeftButton);
+         }},
+        {"Typing", [&] { QTest::keyClicks(window->PaneEdit(), u"xyz"_s); }},
+        {"New", [&] { Trigger(u"btnnew"_s); }},
+        {"Open", [&] { openFile(u"mnuFileOpen"_s, "#v050#\r\n^1One\r\n9\r\n[none]\r\n"); }},
+        {"Import", [&] { openFile(u"mnuFileImport"_s, "set name \"x\"\nwait 7\n"); }},
+        {"Wizard",
+         [&] {
+             Trigger(u"btnwizard"_s);
+             auto* wizard = window->findChild<WizardDialog*>();
+             for (int page = 1; page < WizardDialog::kPageCount; ++page) wizard->NextPage();
+             wizard->findChild<QComboBox*>(u"cmbEffects"_s)->setCurrentIndex(0);
+             wizard->AddEffect();
+             wizard->NextPage();
+         }},
+        {"Simple edit",
+         [&] {
+             WhenModal([](QWidget* edit) {
+                 QTest::keyClicks(edit->findChild<QTextEdit*>(u"txtPreview"_s), u"one"_s);
+                 QTest::mouseClick(edit->findChild<QPushButton*>(u"cmdSave"_s), Qt::LeftButton);
+                 edit->close();
+             });
+             Trigger(u"mnuEditSimple"_s);
+         }},
+        {"Reopen last animation",
+         [&] {
+             QDir().mkpath(QFileInfo(keptAnimation).absolutePath());
+             WriteBytes(keptAnimation, "#v050#\r\nkept\r\n15\r\n[none]\r\n");
+             Choose("mnuFile", "mnuFileReopen");
+         }},
+    };
+    for (const auto& [step, change] : changes) {
+        SCOPED_TRACE(step);
+        MakeWindow();
+        Start(kABC, 2);
+        Show();
+        const Seen before = Now();
+        QAction* undo = Named(u"mnuEditUndo"_s);
+        QAction* redo = Named(u"mnuEditRedo"_s);
+        change();
+        const Seen after = Now();
+        ASSERT_NE(after, before);
+        EXPECT_EQ(undo->text(), u"Undo "_s + QString::fromLatin1(step));
+        Press(Qt::Key_Z);
+        EXPECT_EQ(Now(), before);
+        EXPECT_FALSE(undo->isEnabled()) << "one step, not more";
+        Press(Qt::Key_Y);
+        EXPECT_EQ(Now(), after);
+        undo->trigger();
+        EXPECT_EQ(Now(), before);
+        Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        EXPECT_EQ(Now(), after);
+        redo->trigger();
+        EXPECT_EQ(Now(), after) << "nothing more to redo";
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Commands, EveryChange,
-    testing::Values(
-        StepCase{"EditTime",
-                 [](History& t) {
-                     t.WhenModal([](QWidget* edit) {
-                         edit->findChild<QLineEdit*>(u"txtTime"_s)->setText(u"25"_s);
-                         QTest::keyClick(edit->findChild<QLineEdit*>(u"txtTime"_s), Qt::Key_Return);
-                     });
-                     Trigger(t, "btnedit");
-                 },
-                 "Edit time"},
-        StepCase{"InPlaceEdit",
-                 [](History& t) {
-                     LineListView* list = t.window->LineList();
-                     list->edit(list->model()->index(1, 0));
-                     auto* editor = list->viewport()->findChild<QLineEdit*>();
-                     QTest::keyClicks(editor, u"^2x"_s);
-                     QTest::keyClick(editor, Qt::Key_Return);
-                     [[maybe_unused]] bool done =
-                         QTest::qWaitFor([&] { return t.Script().LineAt(2).Text != "B"; });
-                 },
-                 "Edit text"},
-        StepCase{"Colour",
-                 [](History& t) {
-                     t.window->ToggleColours();
-                     t.window->PreviewPane().SetSelStart(0);
-                     t.window->PreviewPane().SetSelLength(1);
-                     QTest::mouseClick(t.Named<QPushButton>(u"cmdColor_0"_s), Qt::LeftButton);
-                 },
-                 "Colour"},
-        StepCase{"Typing", [](History& t) { QTest::keyClicks(t.window->PaneEdit(), u"xyz"_s); }, "Typing"},
-        StepCase{"New", Action("btnnew"), "New"},
-        StepCase{"Open", OpenFile("mnuFileOpen", "#v050#\r\n^1One\r\n9\r\n[none]\r\n"), "Open"},
-        StepCase{"Import", OpenFile("mnuFileImport", "set name \"x\"\nwait 7\n"), "Import"},
-        StepCase{"Wizard",
-                 [](History& t) {
-                     Trigger(t, "btnwizard");
-                     auto* wizard = t.window->findChild<WizardDialog*>();
-                     for (int page = 1; page < WizardDialog::kPageCount; ++page) wizard->NextPage();
-                     wizard->findChild<QComboBox*>(u"cmbEffects"_s)->setCurrentIndex(0);
-                     wizard->AddEffect();
-                     wizard->NextPage();
-                 },
-                 "Wizard"},
-        StepCase{"SimpleEdit",
-                 [](History& t) {
-                     t.WhenModal([](QWidget* edit) {
-                         QTest::keyClicks(edit->findChild<QTextEdit*>(u"txtPreview"_s), u"one"_s);
-                         QTest::mouseClick(edit->findChild<QPushButton*>(u"cmdSave"_s), Qt::LeftButton);
-                         edit->close();
-                     });
-                     Trigger(t, "mnuEditSimple");
-                 },
-                 "Simple edit"},
-        StepCase{"ReopenLastAnimation",
-                 [](History& t) {
-                     QDir().mkpath(QFileInfo(t.keptAnimation).absolutePath());
-                     WriteBytes(t.keptAnimation, "#v050#\r\nkept\r\n15\r\n[none]\r\n");
-                     t.Choose("mnuFile", "mnuFileReopen");
-                 },
-                 "Reopen last animation"}),
-    testing::PrintToStringParamName());
 
 // Typing into one line is one step until the selection moves or another
 // command runs; then the next keystrokes make a step of their own.
