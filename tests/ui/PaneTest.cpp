@@ -77,19 +77,6 @@ TEST(RichPane, BehavesAsThePaneInMemory) {
     }
 }
 
-// A line break in a multi-line pane is one character '\\n' that takes the
-// colour in front of it.
-TEST(RichPane, ALineBreakIsOneCharacterInTheColourBeforeIt) {
-    QTextEdit edit;
-    RichPane pane(&edit);
-    pane.SetRuns({{"ab\n", Rgb(255, 0, 0)}, {"\ncd", Rgb(0, 255, 0)}});
-    EXPECT_EQ(pane.Text(), "ab\n\ncd");
-    EXPECT_EQ(pane.Runs(), (std::vector<ColouredRun>{{"ab\n\n", Rgb(255, 0, 0)}, {"cd", Rgb(0, 255, 0)}}));
-    pane.SetSelStart(3);
-    pane.SetSelLength(1);
-    EXPECT_EQ(pane.SelColour(), Rgb(255, 0, 0));
-}
-
 // The wizard's pictures are painted in code; a change to them shows here. When
 // the art is changed on purpose, look at the new pictures and take their sums.
 TEST(WizardArt, ThePicturesLookAsApproved) {
