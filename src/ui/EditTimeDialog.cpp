@@ -63,9 +63,7 @@ EditTimeDialog::EditTimeDialog(QWidget* parent) : QDialog(parent) {
     speedGuide_ = Place(new QLabel(this), names::kSpeedGuide, 960, 360, 1935, 615);
     speedGuide_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
 
-    setTabOrder(timeBox_, actionBox_);
-    setTabOrder(actionBox_, okButton_);
-    setTabOrder(okButton_, cancelButton_);
+    // Tab goes the way the controls were made: time, action, OK, Cancel.
     timeBox_->setFocus();
 
     connect(timeBox_, &QLineEdit::textChanged, this, [this] { CheckTime(); });

@@ -342,7 +342,6 @@ void MainWindow::BuildControls() {
 
     colourStrip_ = new QWidget(client_);
     colourStrip_->setObjectName(names::kColourStrip);
-    colourStrip_->setGeometry(QRect(0, PaneTop(), StripWidth(), PaneHeight()));
     colourButtons_ = AddColourButtons(colourStrip_, kColourButtons, 0, kColourButtonsTop);
     for (int index = 0; index < kColourButtons; ++index)
         connect(colourButtons_[static_cast<std::size_t>(index)], &QPushButton::clicked, this,

@@ -118,9 +118,9 @@ bool QtDialogs::ShowSave(QWidget* parent, FileDialogState& state) {
 bool QtDialogs::ShowFileDialog(QWidget* parent, FileDialogState& state, bool save) {
     QFileDialog dialog(parent, state.title);
     dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    // The commands test for existence and ask about overwriting themselves, and
-    // a name typed without an extension stays without one.
-    dialog.setFileMode(QFileDialog::AnyFile);
+    // Any name may be typed: the commands test for existence and ask about
+    // overwriting themselves, and a name typed without an extension stays
+    // without one.
     dialog.setOption(QFileDialog::DontConfirmOverwrite, true);
     dialog.setDefaultSuffix(QString());
     const QStringList filters = QtNameFilters(state.filter);

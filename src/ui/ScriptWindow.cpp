@@ -86,10 +86,9 @@ void ScriptWindow::BuildScript() {
     const std::string text = BuildScriptText(script_, [this, owner](const std::string& message) {
         dialogs_.Message(owner, ToQString(message), QString(), MsgIcon::None, MsgButtons::Ok);
     });
-    QString shown = ToQString(text);
-    shown.replace(u"\r\n"_s, u"\n"_s);
-    // One call for the whole text: tens of thousands of lines go in at once.
-    scriptBox_->setPlainText(shown);
+    // One call for the whole text: tens of thousands of lines go in at once,
+    // each CR LF as one line break.
+    scriptBox_->setPlainText(ToQString(text));
 }
 
 std::string ScriptWindow::ScriptFileBytes() const {

@@ -63,35 +63,28 @@ TEST_F(Gestures, EnterPressesTheFocusedButtonElseTheDefault) {
 // A line break pasted into a one-line box becomes a blank; with it at the
 // end, a number is still a number for the Time box.
 TEST_F(Gestures, ALineBreakPastedIntoAOneLineBoxBecomesABlank) {
-    const struct {
-        const char* window;
-        const char* box;
-        int page;
-    } cases[] = {{"list", "", 0},
-                 {"frmWizard", "txtNameOnly_0", 3},
-                 {"frmEdit", "txtTime", 0},
-                 {"frmOptions", "txtClan", 0}};
-    for (const auto& c : cases) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"list", ""}, {"frmEdit", "txtTime"}, {"frmOptions", "txtClan"}};
+    for (const auto& [owner, box] : cases) {
         for (const QString& lineBreak : {u"\r\n"_s, u"\r"_s, u"\n"_s}) {
-            SCOPED_TRACE(std::string(c.window) + " " + c.box + " " + lineBreak.toStdString());
+            SCOPED_TRACE(std::string(owner) + " " + lineBreak.toStdString());
             QLineEdit* edit = nullptr;
             LineListView* list = window->LineList();
-            if (c.box[0] == '\0') {
+            if (*box == '\0') {
                 Trigger(u"btnnew"_s);
                 Start({"old/15"});
                 list->edit(list->model()->index(0, 0));
                 edit = list->viewport()->findChild<QLineEdit*>();
             } else {
-                Open(QString::fromLatin1(c.window));
-                if (c.page > 0) ToWizardPage(c.page);
-                edit = Child<QLineEdit>(QString::fromLatin1(c.box));
+                Open(QString::fromLatin1(owner));
+                edit = Child<QLineEdit>(QString::fromLatin1(box));
             }
             QGuiApplication::clipboard()->setText(u"1"_s + lineBreak);
             edit->setFocus();
             edit->selectAll();
             QTest::keyClick(edit, Qt::Key_V, Qt::ControlModifier);
             QString given = edit->text();
-            if (c.box[0] == '\0') {
+            if (*box == '\0') {
                 QPointer<QLineEdit> editor = edit;
                 QTest::keyClick(edit, Qt::Key_Return);
                 // The list commits once the key has been handled.
@@ -197,7 +190,7 @@ TEST_F(Edges, TabReachesTheColourStripAndSpaceColoursThePanesSelection) {
         QTest::keyClick(pane, key, modifiers);
     for (int tab = 0; tab < 3; ++tab) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     ASSERT_EQ(QApplication::focusWidget()->objectName(), u"cmdColor_1"_s);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     EXPECT_EQ(Script().LineAt(1).Text, "a^2bc^7d");
     // Eight colours, standing right of the pane, which lines up with the list.
     QWidget* strip = Named<QWidget>(u"picColors"_s);

@@ -8,16 +8,12 @@ using namespace Qt::Literals::StringLiterals;
 namespace flickerscribe::ui::testing_support {
 namespace {
 
-// What the user sees of the animation: its lines, the selected one and the pane.
-using Seen = std::tuple<TextTimes, int, std::string>;
-
 class History : public MainWindowTest {
 public:
     void SetUp() override {
         keptAnimation = PathOf(u"kept/last-animation.fsq"_s);
         MainWindowTest::SetUp();
     }
-    Seen Now() { return {Lines(), Script().SelectedIndex(), PaneText()}; }
     // Ctrl and a key in the list, with the window active again after a dialog.
     void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
         window->activateWindow();
@@ -37,97 +33,6 @@ public:
         });
     }
 };
-
-// Each change is one step: Ctrl+Z and the menu's Undo bring back the lines,
-// the selected line and the pane as they were; Ctrl+Y, Ctrl+Shift+Z and Redo
-// bring back the change. (The commands over lines have theirs in the main
-// window's table.)
-TEST_F(History, EveryChangeIsOneStepThatUndoAndRedoTakeBackAndDoAgain) {
-    const auto openFile = [this](const QString& command, const char* bytes) {
-        WriteBytes(PathOf(u"file"_s), bytes);
-        dialogs.QueueOpen(PathOf(u"file"_s));
-        Trigger(command);
-    };
-    const std::pair<const char*, std::function<void()>> changes[] = {
-        {"Edit time",
-         [&] {
-             WhenModal([](QWidget* edit) {
-                 auto* box = edit->findChild<QLineEdit*>(u"txtTime"_s);
-                 box->setText(u"25"_s);
-                 QTest::keyClick(box, Qt::Key_Return);
-             });
-             Trigger(u"btnedit"_s);
-         }},
-        {"Edit text",
-         [&] {
-             LineListView* list = window->LineList();
-             list->edit(list->model()->index(1, 0));
-             auto* editor = list->viewport()->findChild<QLineEdit*>();
-             QTest::keyClicks(editor, u"^2x"_s);
-             QTest::keyClick(editor, Qt::Key_Return);
-             ASSERT_TRUE(QTest::qWaitFor([&] { return Script().LineAt(2).Text != "B"; }));
-         }},
-        {"Colour",
-         [&] {
-             window->ToggleColours();
-             window->PreviewPane().SetSelStart(0);
-             window->PreviewPane().SetSelLength(1);
-             QTest::mouseClick(Named<QPushButton>(u"cmdColor_0"_s), Qt::LeftButton);
-         }},
-        {"Typing", [&] { QTest::keyClicks(window->PaneEdit(), u"xyz"_s); }},
-        {"New", [&] { Trigger(u"btnnew"_s); }},
-        {"Open", [&] { openFile(u"mnuFileOpen"_s, "#v050#\r\n^1One\r\n9\r\n[none]\r\n"); }},
-        {"Import", [&] { openFile(u"mnuFileImport"_s, "set name \"x\"\nwait 7\n"); }},
-        {"Wizard",
-         [&] {
-             Trigger(u"btnwizard"_s);
-             auto* wizard = window->findChild<WizardDialog*>();
-             for (int page = 1; page < WizardDialog::kPageCount; ++page) wizard->NextPage();
-             wizard->findChild<QComboBox*>(u"cmbEffects"_s)->setCurrentIndex(0);
-             wizard->AddEffect();
-             wizard->NextPage();
-         }},
-        {"Simple edit",
-         [&] {
-             WhenModal([](QWidget* edit) {
-                 QTest::keyClicks(edit->findChild<QTextEdit*>(u"txtPreview"_s), u"one"_s);
-                 QTest::mouseClick(edit->findChild<QPushButton*>(u"cmdSave"_s), Qt::LeftButton);
-                 edit->close();
-             });
-             Trigger(u"mnuEditSimple"_s);
-         }},
-        {"Reopen last animation",
-         [&] {
-             QDir().mkpath(QFileInfo(keptAnimation).absolutePath());
-             WriteBytes(keptAnimation, "#v050#\r\nkept\r\n15\r\n[none]\r\n");
-             Choose("mnuFile", "mnuFileReopen");
-         }},
-    };
-    for (const auto& [step, change] : changes) {
-        SCOPED_TRACE(step);
-        MakeWindow();
-        Start(kABC, 2);
-        Show();
-        const Seen before = Now();
-        QAction* undo = Named(u"mnuEditUndo"_s);
-        QAction* redo = Named(u"mnuEditRedo"_s);
-        change();
-        const Seen after = Now();
-        ASSERT_NE(after, before);
-        EXPECT_EQ(undo->text(), u"Undo "_s + QString::fromLatin1(step));
-        Press(Qt::Key_Z);
-        EXPECT_EQ(Now(), before);
-        EXPECT_FALSE(undo->isEnabled()) << "one step, not more";
-        Press(Qt::Key_Y);
-        EXPECT_EQ(Now(), after);
-        undo->trigger();
-        EXPECT_EQ(Now(), before);
-        Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-        EXPECT_EQ(Now(), after);
-        redo->trigger();
-        EXPECT_EQ(Now(), after) << "nothing more to redo";
-    }
-}
 
 // Typing into one line is one step until the selection moves or another
 // command runs; then the next keystrokes make a step of their own.
@@ -151,6 +56,8 @@ TEST_F(History, TypingMergesUntilTheSelectionMovesOrACommandRuns) {
         EXPECT_EQ(Lines(), expected);
     }
     EXPECT_FALSE(Named(u"mnuEditUndo"_s)->isEnabled());
+    Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(Lines(), undone[2]);
 }
 
 // Cancel, a command on an empty list, a failed Open and a selection alone
@@ -205,6 +112,14 @@ TEST(AnimationHistoryLimits, TheOldestStepsGoFirst) {
     EXPECT_EQ(script.Count(), 0) << "back to the list after the second replacement";
     history.Redo();
     EXPECT_EQ(script.Count(), kMaxLines);
+
+    // A removed line is kept whole, its time too.
+    AnimationScript one;
+    AnimationHistory kept(one);
+    ASSERT_TRUE(one.AppendLine("a", std::string(1 << 20, '1'), "[none]"));
+    kept.RemoveLine(u"Remove"_s, 1);
+    EXPECT_GE(kept.KeptBytes(), std::size_t{1} << 20);
+    EXPECT_LT(kept.KeptBytes(), std::size_t{2} << 20);
 }
 
 // --- the last animation kept

@@ -248,8 +248,9 @@ TEST_F(MainWindowCase, CtrlLeavesThePaneAndItsShortcutsWorkOnLines) {
     Show();
     for (Qt::Key key : {Qt::Key_Shift, Qt::Key_Q, Qt::Key_Control}) {
         window->PaneEdit()->setFocus();
-        QTest::keyClick(window->PaneEdit(), key);
+        QTest::keyPress(window->PaneEdit(), key);
         EXPECT_EQ(QApplication::focusWidget() == window->LineList(), key == Qt::Key_Control) << key;
+        QTest::keyRelease(QApplication::focusWidget(), key);
     }
     window->PaneEdit()->setFocus();
     QTest::keyClick(window->PaneEdit(), Qt::Key_C, Qt::ControlModifier);
