@@ -1,6 +1,6 @@
-// What disks and users really hand the file routines: random bytes, a huge
-// file, files that go away or can't be read, pipes, devices, an I/O error, a
-// read-only file met by an ordinary user, signals. Each ends in the routine's
+// What disks and users really hand the file routines: files that go away or
+// can't be read, pipes, devices, an I/O error, a read-only file met by an
+// ordinary user, signals. Each ends in the routine's
 // own result, never in a crash or a half-written file.
 #include <fcntl.h>
 #include <gtest/gtest.h>

@@ -164,44 +164,5 @@ TEST(EffectRun, RowsChainThroughTheRewrittenNameAndTag) {
     }
 }
 
-// The limit ends the whole run: no further line, row or question. The 11
-// turns of Bounce make 30705 lines, the twelfth's forward pass 8 more, and its
-// mirror pass copies line 30712 down to 28659 before the script is full.
-TEST(EffectRun, TheLineLimitEndsTheWholeRun) {
-    AnimationScript script;
-    int questions = 0;
-    const auto ask = [&](const std::string&, const std::string&) { return ++questions, true; };
-    const EffectRunResult result = RunEffectList(script, "Quillon", "[QZT]", false,
-                                                 {{"Bounce", "12"}, {"Bounce", "5"}, {"Wave 2"}}, ask);
-    EXPECT_TRUE(result.lineLimitReached && !result.inputRefused);
-    EXPECT_EQ(questions, 1);
-    ASSERT_EQ(script.Count(), kMaxLines);
-    EXPECT_EQ(script.LineAt(30713).Text, "Quillon[QZT]");
-    EXPECT_EQ(script.LineAt(kMaxLines).Text, script.LineAt(28659).Text);
-}
-
-// A name or tag over 32767 characters is refused before the script is even
-// cleared. While a question is open the view is brought up to date.
-TEST(EffectRun, RefusesOverlongTextsAndShowsTheScriptWhileAsking) {
-    const std::string longest(kMaxEffectTextLength, 'a'), tooLong(kMaxEffectTextLength + 1, 'a');
-    for (const auto& [name, tag, told] : std::vector<std::tuple<std::string, std::string, std::string>>{
-             {tooLong, "", ""}, {"K", tooLong, ""}, {"Ka", longest, "[R R] s1 asked at 2 [R R] s1"}}) {
-        AnimationScript script;
-        script.AppendLine("keep me", "15", "[none]");
-        test::Recorder view;
-        script.SetListener(&view);
-        const auto ask = [&](const std::string&, const std::string&) {
-            view.Say("asked at " + std::to_string(script.Count()));
-            return false;
-        };
-        const EffectRunResult result =
-            RunEffectList(script, name, tag, false, {{"Wave 2"}, {"Bounce", "5"}}, ask);
-        EXPECT_EQ(result.inputRefused, told.empty());
-        EXPECT_FALSE(result.lineLimitReached);
-        EXPECT_EQ(view.log, told);
-        EXPECT_EQ(script.Count(), told.empty() ? 1 : 2);
-    }
-}
-
 }  // namespace
 }  // namespace flickerscribe

@@ -17,10 +17,9 @@ namespace {
 TEST(QSettingsStore, KeepsEveryTextExactly) {
     QTemporaryDir dir;
     const QString path = dir.filePath(u"sub/Flickerscribe.conf"_s);
-    const QString values[] = {u"Quillon"_s,         QString(),      u"  two  blanks  "_s,
-                              u"a=b;c"_s,           u"#x, y,"_s,    u"\"q\" 'x'"_s,
-                              u"C:\\Games\\"_s,     u"[QZT]^1Fl"_s, u"@Variant(x)"_s,
-                              u"Zo\u00eb \u20ac"_s, u"100%20\tb"_s};
+    const QString values[] = {
+        QString(),        u"  two  blanks  "_s,     u"a=b;c"_s, u"#x, y,\"q\""_s, u"C:\\Games\\"_s,
+        u"@Variant(x)"_s, u"Zo\u00eb \u20ac\t%20"_s};
     {
         const QSettingsStore store(path);
         EXPECT_EQ(store.ReadValue(u"Name"_s, u"fallback"_s), u"fallback"_s);

@@ -205,20 +205,5 @@ TEST_F(WizardTest, LeavingWithoutFinish) {
               u"Exit wizard? [question]: Are you sure you want to exit the wizard?"_s);
 }
 
-// The wizard stands beside the main window, which goes on working; a second
-// press only brings it forward.
-TEST_F(WizardTest, StandsBesideTheMainWindow) {
-    window->show();
-    Trigger(u"btnwizard"_s);
-    auto* wizard = window->findChild<WizardDialog*>();
-    ASSERT_NE(wizard, nullptr);
-    EXPECT_TRUE(wizard->isVisible());
-    Trigger(u"btnadd"_s);
-    EXPECT_EQ(Script().Count(), 1);
-    Trigger(u"btnwizard"_s);
-    EXPECT_EQ(window->findChildren<WizardDialog*>().size(), 1);
-    wizard->close();
-}
-
 }  // namespace
 }  // namespace flickerscribe::ui::testing_support
