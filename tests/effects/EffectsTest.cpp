@@ -110,10 +110,6 @@ TEST(Effects, BounceRepeatCount) {
             EXPECT_EQ(Frames(script, std::max(1, script.Count())), runs ? "[QZT]" + std::string(c.name) : "");
         }
     }
-    AnimationScript script;
-    std::string name = "Kat", tag;
-    EXPECT_EQ(ApplyEffect(script, name, "Bounce", "5", "0", tag, false, nullptr), EffectStatus::Done);
-    EXPECT_EQ(script.Count(), 0);  // nobody to ask: no
 }
 
 // An effect stops at the first line a full script refuses; Bounce's forward

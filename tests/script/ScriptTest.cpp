@@ -144,14 +144,6 @@ TEST(ConfigImport, StopsAtTheLineLimitKeepingTheLinesThatStood) {
     ASSERT_EQ(script.Count(), kMaxLines);
     EXPECT_EQ(script.LineAt(kMaxLines).Text, "n");
     EXPECT_EQ(script.LineAt(kMaxLines).Time, "7");  // the wait of a refused name is not read
-
-    // A run that is full takes nothing more.
-    ImportRun run(script);
-    run.lastAppended = kMaxLines;
-    run.full = true;
-    ParseScriptLine("wait 3;set name x", run);
-    EXPECT_EQ(script.Count(), kMaxLines);
-    EXPECT_EQ(script.LineAt(kMaxLines).Time, "7");
 }
 
 }  // namespace

@@ -182,10 +182,8 @@ TEST_F(WizardTest, LeavingWithoutFinish) {
         const char* how;
         MsgAnswer answer;
         bool stays;
-    } cases[] = {{"cmdCancel", MsgAnswer::No, true},
-                 {"cmdCancel", MsgAnswer::Yes, false},
-                 {"Escape", MsgAnswer::Yes, false},
-                 {"close box", MsgAnswer::Yes, false}};
+    } cases[] = {
+        {"cmdCancel", MsgAnswer::Yes, false}, {"Escape", MsgAnswer::No, true}, {"close box", {}, false}};
     Start({"mine/20"});
     for (const auto& c : cases) {
         const QString how = QString::fromLatin1(c.how);
