@@ -98,19 +98,6 @@ TEST(HostileFiles, AnOrdinaryUserCantWriteAReadOnlyFileNorReadAnUnreadableOne) {
     EXPECT_EQ(root ? ::setresuid(0, 0, 0) | ::setresgid(0, 0, 0) : 0, 0);
 }
 
-// A program started with its standard input closed has descriptor 0 free for
-// the first file it opens.
-TEST(HostileFiles, SavesWithStandardInputClosed) {
-    test::TempFolder dir;
-    const int input = ::dup(0);
-    ::close(0);
-    EXPECT_EQ(WriteFileSafely(dir.File("a"), "x"), std::nullopt);
-    EXPECT_EQ(WriteFileSafely("/dev/null", "x"), std::nullopt);
-    ::dup2(input, 0);
-    ::close(input);
-    EXPECT_EQ(test::ReadBytes(dir.File("a")), "x");
-}
-
 // A pipe is written in place. A signal cuts a blocked write short; the write
 // goes on where it stopped, so the reader gets every byte once, in order.
 TEST(HostileFiles, WritesThatASignalCutsShortGoOnWhereTheyStopped) {

@@ -60,12 +60,9 @@ TEST_F(History, TypingMergesUntilTheSelectionMovesOrACommandRuns) {
     EXPECT_EQ(Lines(), undone[2]);
 }
 
-// Cancel, a command on an empty list, a failed Open and a selection alone
-// make no step; while playback runs, Undo and Redo wait.
+// A failed Open, a selection alone and Cancel make no step; while playback runs, Undo and Redo wait.
 TEST_F(History, NothingChangedIsNoStepAndPlaybackWaits) {
     Show();
-    Trigger(u"btncopylast"_s);  // "There are no lines to copy"
-    Trigger(u"btnnew"_s);
     dialogs.QueueOpen(PathOf(u"missing.fsq"_s));
     Trigger(u"mnuFileOpen"_s);
     Start(kABC, 1);
