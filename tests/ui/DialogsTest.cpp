@@ -177,6 +177,9 @@ TEST(About, ShowsNameVersionAndMakerInColourAndTheAddressesWhole) {
     // Over the addresses an etched line, grey over white; below them OK,
     // inside the window.
     const QImage shot = window.grab().toImage();
+    const QWidget* pane = window.findChild<QTextEdit*>();
+    EXPECT_EQ(shot.pixelColor(pane->geometry().bottomRight() - QPoint(4, 4)), QColor(128, 128, 128))
+        << "a grey pane";
     for (const auto& [name, colour] :
          {std::pair{u"Line1_1"_s, QColor(128, 128, 128)}, std::pair{u"Line1_0"_s, QColor(Qt::white)}}) {
         const auto* line = window.findChild<QWidget*>(name);

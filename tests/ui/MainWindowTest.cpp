@@ -17,6 +17,9 @@ TEST_F(MainWindowCase, StartsEmpty) {
     EXPECT_TRUE(store.Writes().isEmpty());
     for (const QString& off : {u"mnuFileSave"_s, u"mnuFileReopen"_s, u"mnuEditUndo"_s, u"mnuEditRedo"_s})
         EXPECT_FALSE(Named(off)->isEnabled()) << off.toStdString();
+    QString toolbar;  // its buttons in three groups
+    for (QAction* a : Named<QToolBar>(u"tlbMain"_s)->actions()) toolbar += a->isSeparator() ? u"|"_s : u"."_s;
+    EXPECT_EQ(toolbar, u"...|...|..."_s);
 }
 
 // --- the commands over lines, the clipboard and the list's keys, each taken

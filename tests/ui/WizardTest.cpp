@@ -100,6 +100,7 @@ TEST_F(WizardTest, FinishTakesTheBoxesOfTheSelectedOption) {
         Type(u"txtNameOnly_0"_s, u"Ab"_s);
         Type(u"txtClanTag"_s, u"[T]"_s);
         Type(u"txtNameOnly_1"_s, u"Xy"_s);
+        Child(u"txtClanTag"_s)->setFocus();
         Child(QString::fromLatin1(c.focus))->setFocus();
         ToWizardPage(4);
         AddEffect(u"Wave 2"_s);
@@ -127,6 +128,9 @@ TEST_F(WizardTest, TheEffectListTakesRowsAndTheirParameters) {
     Type(u"txtParam2"_s, u"x"_s);
     ClickRow(0);
     EXPECT_EQ(Effects(), u"Wave 2,0,0;Bounce,1,x;Wave 2,0,0 | No options=0 No options=0"_s);
+    QTest::keyClick(Child(u"lvwEffects"_s), Qt::Key_Down);  // the keys choose a row as a click does
+    EXPECT_EQ(Effects(), u"Wave 2,0,0;Bounce,1,x;Wave 2,0,0 | Repeat=1 No options=x"_s);
+    ClickRow(0);
     Click(u"cmdBack"_s);
     Click(u"cmdNext"_s);
     EXPECT_EQ(Effects(), u"Wave 2,0,0;Bounce,1,x;Wave 2,0,0 | No options=0 No options=0"_s);
