@@ -70,6 +70,7 @@ TEST_F(Dialog, OptionsShowTheStoreAndOkWritesAllSevenValues) {
     QTest::mouseClick(Child<QPushButton>(u"cmdBrowse2"_s), Qt::LeftButton);
     QTest::mouseClick(Child<QPushButton>(u"cmdBrowse1"_s), Qt::LeftButton);
     QTest::keyClicks(Child<QLineEdit>(u"txtClan"_s), u"!"_s);
+    QTest::keyClicks(Child<QLineEdit>(u"txtSave"_s), u"typed"_s);  // a folder is chosen, not typed
     Child<QCheckBox>(u"chkReverse"_s)->click();
     Child<QCheckBox>(u"chkEditItem"_s)->click();
     QTest::keyClick(dialog.get(), Qt::Key_Escape);
@@ -125,7 +126,8 @@ TEST_P(Painting, GivesThePaneAsCodedText) {
         } else if (*step == '\n' || *step == '\r') {
             QTest::keyClick(edit, Qt::Key_Return, *step == '\r' ? Qt::ShiftModifier : Qt::NoModifier);
         } else {
-            QTest::keyClicks(edit, QString(QChar::fromLatin1(*step)));
+            QTest::keyClicks(edit, QString(QChar::fromLatin1(*step)),
+                             QChar::fromLatin1(*step).isUpper() ? Qt::ShiftModifier : Qt::NoModifier);
         }
     }
     QTest::mouseClick(Child<QPushButton>(editor ? u"cmdClipboard"_s : u"cmdSave"_s), Qt::LeftButton);
@@ -150,7 +152,7 @@ INSTANTIATE_TEST_SUITE_P(
                     PaintCase{"frmSimpleEdit", "ab\ncde\n   \n\nf[0,2]#0[3,2]#0[5,1]#1[7,3]#1[12,1]#6",
                               "^1ab/15|cd^2e/15|^7f/15"},
                     PaintCase{"frmSimpleEdit", "", ""},
-                    PaintCase{"frmSimpleEdit", "ab\rcd", "^8ab/15|cd/15"}));
+                    PaintCase{"frmSimpleEdit", "Ab\rcd", "^8Ab/15|cd/15"}));
 
 // Each dialog opens with the focus where the user types first.
 TEST_F(Dialog, OpensWithTheFocusWhereTheUserTypesFirst) {

@@ -37,9 +37,7 @@ protected:
                 QTest::keyClicks(edit->findChild<QTextEdit*>(u"txtPreview"_s), u"one"_s);
                 QTest::mouseClick(edit->findChild<QPushButton*>(u"cmdSave"_s), Qt::LeftButton);
             }
-            if (auto* ok = modal->findChild<QPushButton*>(u"cmdOK"_s);
-                ok && modal->objectName() == u"frmEdit"_s)
-                ok->click();
+            if (modal->objectName() == u"frmEdit"_s) modal->findChild<QPushButton*>(u"cmdOK"_s)->click();
             modal->close();
         });
         closer.start();

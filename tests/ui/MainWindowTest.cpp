@@ -76,6 +76,8 @@ class Command : public MainWindowTest, public testing::WithParamInterface<Comman
 TEST_P(Command, ChangesTheListAndUndoAndRedoTakeItBackAndAgain) {
     const CommandCase& c = GetParam();
     Start(c.start, c.selected);
+    QAbstractItemModelTester model(window->LineList()->model(),
+                                   QAbstractItemModelTester::FailureReportingMode::Fatal);
     dialogs.clipboard = u"before"_s;
     window->SetPreviewBusy(true);
     RenderCodedText("marker", window->PreviewPane());
@@ -163,11 +165,9 @@ INSTANTIATE_TEST_SUITE_P(
 
 // At the limit, adding stops there with one message.
 TEST_F(MainWindowCase, AddingStopsAtTheLineLimitWithOneMessage) {
-    const std::pair<int, Act> cases[] = {{kMaxLines, Press("btnadd")},
-                                         {kMaxLines, Press("btncopylast")},
-                                         {kMaxLines - 2, Times(u"5"_s)},
-                                         {20000, Press("btncopyall")},
-                                         {kMaxLines, Paste(u"x"_s)}};
+    const std::pair<int, Act> cases[] = {
+        {kMaxLines, Press("btnadd")}, {kMaxLines, Press("btncopylast")},   {kMaxLines - 2, Times(u"5"_s)},
+        {20000, Press("btncopyall")}, {20000, Press("btncopyallreverse")}, {kMaxLines, Paste(u"x"_s)}};
     for (const auto& [before, run] : cases) {
         MakeWindow();
         Start(TextTimes(std::size_t(before), "x/15"), before);
