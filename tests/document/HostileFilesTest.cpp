@@ -1,7 +1,7 @@
 // What disks and users really hand the file routines: files that go away or
 // can't be read, pipes, devices, an I/O error, a read-only file met by an
-// ordinary user, signals. Each ends in the routine's
-// own result, never in a crash or a half-written file.
+// ordinary user, signals. Each ends in the routine's own result, never in a
+// crash or a half-written file.
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>

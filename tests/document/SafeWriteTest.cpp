@@ -98,7 +98,14 @@ TEST(WriteFileSafely, AWriteBrokenOffHalfWayLeavesTheOldFileWhole) {
     }
     write_seam::FailNextWriteAfter(0, EIO);
     write_seam::Reset();
+    // Started without standard input, the program gets descriptor 0 for a file.
+    const int input = ::dup(0);
+    ::close(0);
+    test::TempFolder dir;
+    EXPECT_EQ(WriteFileSafely(dir.File("anim.fsq"), kNew), std::nullopt);
     EXPECT_EQ(WriteFileSafely("/dev/null", kNew), std::nullopt);
+    ::dup2(input, 0);
+    ::close(input);
 }
 
 // In a folder holding anim.fsq, an empty folder "sub" and a link to itself

@@ -46,6 +46,7 @@ TEST(Effects, FramesOfEachEffect) {
         {"Wave 2", "0", " a  b ", "", false, " a| a  | a  b", " a  b ", ""},
         {"Wave 2", "0", "^1^2ab", "[QZT]", false, "[QZT]^1^2a|[QZT]^1^2ab", "^1^2ab", "[QZT]"},
         {"Wave 2", "0", "Ka^", "", false, "K|Ka|Ka^", "Ka^", ""},
+        {"Wave 2", "0", "^1Ka", "", false, "^1K|^1Ka", "^1Ka", ""},
         {"Wave 2", "0", "Kat", "", true, "", "Kat", "^0"},
         {"Bounce", "1", "^1K^2at", "^4[T]", false, "[T]Kat|K[T]at|Ka[T]t|Kat[T]|Ka[T]t|K[T]at|[T]Kat", "Kat", "[T]"},
         {"Bounce", "2.9", "K", "[T]", false, "[T]K|K[T]|[T]K|[T]K|K[T]|[T]K|[T]K|K[T]|[T]K", "K", "[T]"},

@@ -3,8 +3,6 @@
 #include "MainWindowFixture.h"
 #include "ui/AnimationHistory.h"
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace flickerscribe::ui::testing_support {
 namespace {
 

@@ -75,7 +75,21 @@ TEST_F(WizardTest, OpensWithTheSettingsAndPagesByNextAndBack) {
         EXPECT_EQ(Child(u"cmdBack"_s)->isEnabled(), page > 1);
         EXPECT_EQ(Child<QPushButton>(u"cmdNext"_s)->text(), page == 4 ? u"Finish"_s : u"Next >"_s);
     }
+    EXPECT_EQ(Child(u"picPage1"_s)->grab().toImage().pixelColor(3, 3), QColor(Qt::white));
     EXPECT_TRUE(dialogs.Calls().empty());
+}
+
+// Tab walks the name page in reading order.
+TEST_F(WizardTest, TabWalksTheNamePageInReadingOrder) {
+    OpenWith(u"Quillon"_s, u"[QZT]"_s, false);
+    ToWizardPage(3);
+    Child(u"optNameOnly_1"_s)->setFocus();
+    QStringList walked;
+    for (int tab = 0; tab < 4; ++tab) {
+        QTest::keyClick(dialog->focusWidget(), Qt::Key_Tab);
+        walked << dialog->focusWidget()->objectName();
+    }
+    EXPECT_EQ(walked.join(u' '), u"txtClanTag txtNameOnly_1 chkClanTag cmdColor"_s);
 }
 
 // Finish takes the boxes of the selected option as typed, and the reverse
@@ -100,7 +114,7 @@ TEST_F(WizardTest, FinishTakesTheBoxesOfTheSelectedOption) {
         Type(u"txtNameOnly_0"_s, u"Ab"_s);
         Type(u"txtClanTag"_s, u"[T]"_s);
         Type(u"txtNameOnly_1"_s, u"Xy"_s);
-        Child(u"txtClanTag"_s)->setFocus();
+        Child(c.focus == std::string("txtNameOnly_0") ? u"txtNameOnly_1"_s : u"txtNameOnly_0"_s)->setFocus();
         Child(QString::fromLatin1(c.focus))->setFocus();
         ToWizardPage(4);
         AddEffect(u"Wave 2"_s);
