@@ -68,6 +68,7 @@ TEST(SimpleEditWalk, SplitsThePaneIntoCodedLines) {
         // clang-format on
     };
     for (const auto& c : cases) EXPECT_EQ(SplitColouredLines(c.runs), c.lines) << c.lines.size();
+    EXPECT_EQ(EncodeRuns({{"", kGreen}, {"x", kRed}}, kWhite), "^1x") << "an empty run shows no colour";
 }
 
 const std::string kZeros(400, '0');
