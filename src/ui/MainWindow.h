@@ -19,7 +19,8 @@ class QToolBar;
 
 namespace flickerscribe {
 class Pane;
-}
+enum class LoadStatus;
+}  // namespace flickerscribe
 namespace flickerscribe::settings {
 class SettingsStore;
 }
@@ -144,6 +145,12 @@ private:
     // and no playback runs; their captions name the step.
     void UpdateUndoActions();
     void UpdateReopenAction();
+    // Replaces the list by what `load` reads from `path`, as one step; a file
+    // that can't be read gets `notFound` as a stop message titled `title`, and
+    // a file cut at the line limit the limit's message.
+    using FileLoader = LoadStatus (*)(const std::string& path, AnimationScript& script);
+    void LoadIntoList(const QString& stepName, const QString& path, FileLoader load, const QString& notFound,
+                      const QString& title);
     QAction* ToolbarAction(const QString& key) const;
 
     Dialogs& dialogs_;

@@ -23,21 +23,20 @@ void MainWindow::OpenAnimation() {
     if (!settings_.openFolder.isEmpty()) fileDialog_.initialFolder = settings_.openFolder;
     if (!dialogs_.ShowOpen(this, fileDialog_)) return;
 
-    // The whole file is read before the list is touched: a file that can't be
-    // read to its end (gone, a folder, a pipe, an I/O error) changes nothing.
-    switch (history_.ReplaceLines(u"Open"_s, [this](AnimationScript& script) {
-        return LoadAnimationFile(NativePath(fileDialog_.fileName), script);
-    })) {
-        case LoadStatus::ReadFailed:
-            dialogs_.Message(this, u"File not found!\n"_s + fileDialog_.fileName, u"Error"_s,
-                             MsgIcon::Critical, MsgButtons::Ok);
-            break;
-        case LoadStatus::Truncated:
-            ShowLineLimitMessage(dialogs_, this);
-            break;
-        case LoadStatus::Loaded:
-            break;
-    }
+    LoadIntoList(u"Open"_s, fileDialog_.fileName, LoadAnimationFile,
+                 u"File not found!\n"_s + fileDialog_.fileName, u"Error"_s);
+}
+
+// The whole file is read before the list is touched: a file that can't be
+// read to its end (gone, a folder, a pipe, an I/O error) changes nothing.
+void MainWindow::LoadIntoList(const QString& stepName, const QString& path, FileLoader load,
+                              const QString& notFound, const QString& title) {
+    const std::string nativePath = NativePath(path);
+    const LoadStatus status =
+        history_.ReplaceLines(stepName, [&](AnimationScript& script) { return load(nativePath, script); });
+    if (status == LoadStatus::ReadFailed)
+        dialogs_.Message(this, notFound, title, MsgIcon::Critical, MsgButtons::Ok);
+    if (status == LoadStatus::Truncated) ShowLineLimitMessage(dialogs_, this);
 }
 
 void MainWindow::SaveAnimationAs() {
@@ -61,19 +60,7 @@ void MainWindow::ImportScript() {
     fileDialog_.filter = u"Brennock Scripts (*.cfg)|*.cfg"_s;
     if (!dialogs_.ShowOpen(this, fileDialog_)) return;
 
-    switch (history_.ReplaceLines(u"Import"_s, [this](AnimationScript& script) {
-        return ImportFile(NativePath(fileDialog_.fileName), script);
-    })) {
-        case LoadStatus::ReadFailed:
-            dialogs_.Message(this, u"File not found!"_s, u"Import error"_s, MsgIcon::Critical,
-                             MsgButtons::Ok);
-            break;
-        case LoadStatus::Truncated:
-            ShowLineLimitMessage(dialogs_, this);
-            break;
-        case LoadStatus::Loaded:
-            break;
-    }
+    LoadIntoList(u"Import"_s, fileDialog_.fileName, ImportFile, u"File not found!"_s, u"Import error"_s);
 }
 
 void MainWindow::GenerateScript() {

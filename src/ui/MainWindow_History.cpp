@@ -6,7 +6,6 @@
 
 #include "document/AnimationFile.h"
 #include "ui/FileCommands.h"
-#include "ui/LineLimit.h"
 #include "ui/MainWindow.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -58,19 +57,8 @@ void MainWindow::KeepAnimation() {
 }
 
 void MainWindow::ReopenLastAnimation() {
-    const QString path = keptAnimation_;
-    switch (history_.ReplaceLines(u"Reopen last animation"_s, [&path](AnimationScript& script) {
-        return LoadAnimationFile(NativePath(path), script);
-    })) {
-        case LoadStatus::ReadFailed:
-            dialogs_.Message(this, u"File not found!\n"_s + path, u"Error"_s, MsgIcon::Critical, MsgButtons::Ok);
-            break;
-        case LoadStatus::Truncated:
-            ShowLineLimitMessage(dialogs_, this);
-            break;
-        case LoadStatus::Loaded:
-            break;
-    }
+    LoadIntoList(u"Reopen last animation"_s, keptAnimation_, LoadAnimationFile,
+                 u"File not found!\n"_s + keptAnimation_, u"Error"_s);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
