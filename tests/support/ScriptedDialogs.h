@@ -52,9 +52,8 @@ public:
             if (c.kind == DialogCall::Kind::Message)
                 out << QStringLiteral("%1 [%2]: %3").arg(c.title, QLatin1String(kIcons[int(c.icon)]), c.text);
             if (c.kind == DialogCall::Kind::Open || c.kind == DialogCall::Kind::Save)
-                out << (c.kind == DialogCall::Kind::Open ? QStringLiteral("open ")
-                                                         : QStringLiteral("save ")) +
-                           c.title;
+                out << QStringLiteral("%1 %2").arg(
+                    QLatin1String(c.kind == DialogCall::Kind::Open ? "open" : "save"), c.title);
         }
         return out;
     }

@@ -172,8 +172,7 @@ TEST(About, ShowsNameVersionAndMakerInColourAndTheAddressesWhole) {
     for (const QString& line : lines)
         EXPECT_LE(label->fontMetrics().horizontalAdvance(line), label->contentsRect().width());
     EXPECT_GE(label->contentsRect().height(), 2 * label->fontMetrics().lineSpacing());
-    // Over the addresses an etched line, grey over white; below them OK,
-    // inside the window.
+    // Over the addresses an etched line, grey over white.
     const QImage shot = window.grab().toImage();
     const QWidget* pane = window.findChild<QTextEdit*>();
     EXPECT_EQ(shot.pixelColor(pane->geometry().bottomRight() - QPoint(4, 4)), QColor(128, 128, 128))
@@ -183,9 +182,6 @@ TEST(About, ShowsNameVersionAndMakerInColourAndTheAddressesWhole) {
         const auto* line = window.findChild<QWidget*>(name);
         EXPECT_EQ(shot.pixelColor(line->geometry().center()), colour) << name.toStdString();
     }
-    const QRect ok = window.findChild<QPushButton*>(u"cmdOK"_s)->geometry();
-    EXPECT_TRUE(window.rect().contains(ok));
-    EXPECT_GT(ok.top(), label->geometry().bottom());
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
         window.show();
         QTest::keyClick(&window, key);

@@ -188,11 +188,7 @@ TEST_F(Edges, TabReachesTheColourStripAndSpaceColoursThePanesSelection) {
     ASSERT_EQ(QApplication::focusWidget()->objectName(), u"cmdColor_1"_s);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     EXPECT_EQ(Script().LineAt(1).Text, "a^2bc^7d");
-    // Eight colours, standing right of the pane, which lines up with the list.
-    QWidget* strip = Named<QWidget>(u"picColors"_s);
-    EXPECT_EQ(strip->findChildren<QPushButton*>().size(), 8);
-    EXPECT_EQ(strip->x(), pane->geometry().right() + 1);
-    EXPECT_EQ(pane->x(), window->LineList()->x());
+    EXPECT_EQ(Named<QWidget>(u"picColors"_s)->findChildren<QPushButton*>().size(), 8);  // eight colours
 }
 
 TEST_F(Edges, TheAddButtonsMenuIsOnTheAccessibilityTree) {
