@@ -172,7 +172,8 @@ TEST(About, ShowsNameVersionAndMakerInColourAndTheAddressesWhole) {
     for (const QString& line : lines)
         EXPECT_LE(label->fontMetrics().horizontalAdvance(line), label->contentsRect().width());
     EXPECT_GE(label->contentsRect().height(), 2 * label->fontMetrics().lineSpacing());
-    // Over the addresses an etched line, grey over white.
+    // Over the addresses an etched line, grey over white; below them OK,
+    // inside the window.
     const QImage shot = window.grab().toImage();
     const QWidget* pane = window.findChild<QTextEdit*>();
     EXPECT_EQ(shot.pixelColor(pane->geometry().bottomRight() - QPoint(4, 4)), QColor(128, 128, 128))
@@ -182,6 +183,9 @@ TEST(About, ShowsNameVersionAndMakerInColourAndTheAddressesWhole) {
         const auto* line = window.findChild<QWidget*>(name);
         EXPECT_EQ(shot.pixelColor(line->geometry().center()), colour) << name.toStdString();
     }
+    const QRect ok = window.findChild<QPushButton*>(u"cmdOK"_s)->geometry();
+    EXPECT_TRUE(window.rect().contains(ok));
+    EXPECT_GT(ok.top(), label->geometry().bottom());
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
         window.show();
         QTest::keyClick(&window, key);
@@ -208,18 +212,18 @@ TEST_F(Dialog, HelpShowsAndCopiesEachAddressWhole) {
     EXPECT_FALSE(dialog->isVisible());
 }
 
-// The real file dialog opens in the folder asked for.
+// The real file dialog opens in the folder asked for, with the filter given.
 TEST(QtDialogs, TheFileDialogOpensInTheFolderAskedFor) {
     QTemporaryDir asked;
     QString shown;
     QTimer::singleShot(0, [&] {
         auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        shown = dialog->directory().path();
+        shown = dialog->directory().path() + u' ' + dialog->nameFilters().join(u'|');
         dialog->close();
     });
-    FileDialogState state{{}, {}, asked.path(), {}};
+    FileDialogState state{{}, u"Scripts|*.cfg"_s, asked.path(), {}};
     EXPECT_FALSE(QtDialogs().ShowOpen(nullptr, state));
-    EXPECT_EQ(shown, asked.path());
+    EXPECT_EQ(shown, asked.path() + u" Scripts (*.cfg)"_s);
 }
 
 TEST(QtDialogs, FiltersBecomeQtNameFilters) {

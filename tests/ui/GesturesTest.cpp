@@ -26,12 +26,7 @@ QString State(Gestures& t, qsizetype writesBefore, qsizetype askedBefore) {
 // Enter presses the focused button; in a box or a list it is the default
 // button's (Next in the wizard, Finish on its last page).
 TEST_F(Gestures, EnterPressesTheFocusedButtonElseTheDefault) {
-    const struct {
-        const char* window;
-        int page;
-        const char* focus;
-        const char* after;
-    } cases[] = {
+    const std::tuple<const char*, int, const char*, const char*> cases[] = {
         {"frmWizard", 4, "cmdAddEffect", "open page 4 rows 1 writes 0 lines 2"},
         {"frmWizard", 4, "cmdCancel", "open page 4 rows 0 writes 0 lines 2 asked Exit wizard?"},
         {"frmWizard", 3, "txtNameOnly_0", "open page 4 rows 0 writes 0 lines 2"},
@@ -42,16 +37,16 @@ TEST_F(Gestures, EnterPressesTheFocusedButtonElseTheDefault) {
         {"frmWizard", 4, "lvwEffects", "closed page 4 rows 0 writes 0 lines 0"},
     };
     Start({"A/10", "B/20"}, 1);
-    for (const auto& c : cases) {
+    for (const auto& [name, page, focusName, after] : cases) {
         const auto writes = store.Writes().size(), asked = dialogs.Asked().size();
-        Open(QString::fromLatin1(c.window));
-        if (c.page > 0) ToWizardPage(c.page);
-        if (c.page == 4) Child<QComboBox>(u"cmbEffects"_s)->setCurrentIndex(0);
-        if (c.focus == std::string("cmdCancel") && c.page) dialogs.QueueMessageAnswer(MsgAnswer::No);
-        QWidget* focus = Child(QString::fromLatin1(c.focus));
+        Open(QString::fromLatin1(name));
+        if (page > 0) ToWizardPage(page);
+        if (page == 4) Child<QComboBox>(u"cmbEffects"_s)->setCurrentIndex(0);
+        if (focusName == std::string("cmdCancel") && page) dialogs.QueueMessageAnswer(MsgAnswer::No);
+        QWidget* focus = Child(QString::fromLatin1(focusName));
         focus->setFocus();
         QTest::keyClick(focus, Qt::Key_Return);
-        EXPECT_EQ(State(*this, writes, asked).toStdString(), c.after) << c.window << " " << c.focus;
+        EXPECT_EQ(State(*this, writes, asked).toStdString(), after) << name << " " << focusName;
     }
 }
 
@@ -188,7 +183,11 @@ TEST_F(Edges, TabReachesTheColourStripAndSpaceColoursThePanesSelection) {
     ASSERT_EQ(QApplication::focusWidget()->objectName(), u"cmdColor_1"_s);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     EXPECT_EQ(Script().LineAt(1).Text, "a^2bc^7d");
-    EXPECT_EQ(Named<QWidget>(u"picColors"_s)->findChildren<QPushButton*>().size(), 8);  // eight colours
+    // Eight colours, standing right of the pane, which lines up with the list.
+    QWidget* strip = Named<QWidget>(u"picColors"_s);
+    EXPECT_EQ(strip->findChildren<QPushButton*>().size(), 8);
+    EXPECT_EQ(strip->x(), pane->geometry().right() + 1);
+    EXPECT_EQ(pane->x(), window->LineList()->x());
 }
 
 TEST_F(Edges, TheAddButtonsMenuIsOnTheAccessibilityTree) {

@@ -79,7 +79,8 @@ TEST_F(WizardTest, OpensWithTheSettingsAndPagesByNextAndBack) {
     EXPECT_TRUE(dialogs.Calls().empty());
 }
 
-// Tab walks the name page in reading order.
+// Tab walks the name page in reading order, to "Color editor", which Space
+// opens.
 TEST_F(WizardTest, TabWalksTheNamePageInReadingOrder) {
     OpenWith(u"Quillon"_s, u"[QZT]"_s, false);
     ToWizardPage(3);
@@ -90,6 +91,11 @@ TEST_F(WizardTest, TabWalksTheNamePageInReadingOrder) {
         walked << dialog->focusWidget()->objectName();
     }
     EXPECT_EQ(walked.join(u' '), u"txtClanTag txtNameOnly_1 chkClanTag cmdColor"_s);
+    QTimer::singleShot(0, [&walked] {
+        if (QWidget* modal = QApplication::activeModalWidget()) walked << modal->objectName(), modal->close();
+    });
+    QTest::keyClick(dialog->focusWidget(), Qt::Key_Space);
+    EXPECT_EQ(walked.last(), u"frmColorEditor"_s);
 }
 
 // Finish takes the boxes of the selected option as typed, and the reverse
@@ -159,13 +165,7 @@ TEST_F(WizardTest, TheEffectListTakesRowsAndTheirParameters) {
 // A repeat of 5 or more asks over the wizard first (No skips that row); the
 // line limit and an over-long name are told; the script is never restored.
 TEST_F(WizardTest, QuestionsAndLimitsOfARun) {
-    const struct {
-        int nameLength;
-        const char* repeat;
-        std::optional<MsgAnswer> answer;
-        const char* asked;
-        int lines;
-    } cases[] = {
+    const std::tuple<int, const char*, std::optional<MsgAnswer>, const char*, int> cases[] = {
         {2, "5", MsgAnswer::No,
          "Processing effect list... [question]: Are you sure you want to repeat the BOUNCE EFFECT 5 times?",
          0},
@@ -175,20 +175,20 @@ TEST_F(WizardTest, QuestionsAndLimitsOfARun) {
          "animation was left as it was.",
          1},
     };
-    for (const auto& c : cases) {
+    for (const auto& [nameLength, repeat, answer, asked, lines] : cases) {
         Trigger(u"btnnew"_s);
         Start({"kept/15"});
-        OpenWith(QString(c.nameLength, u'K'), u"[T]"_s, false);
+        OpenWith(QString(nameLength, u'K'), u"[T]"_s, false);
         ToWizardPage(4);
         AddEffect(u"Bounce"_s);
         ClickRow(0);
-        Type(u"txtParam1"_s, QString::fromLatin1(c.repeat));
-        if (c.answer) dialogs.QueueMessageAnswer(*c.answer);
+        Type(u"txtParam1"_s, QString::fromLatin1(repeat));
+        if (answer) dialogs.QueueMessageAnswer(*answer);
         Click(u"cmdNext"_s);
-        EXPECT_TRUE(dialogs.Asked().last().startsWith(QString::fromLatin1(c.asked)))
+        EXPECT_TRUE(dialogs.Asked().last().startsWith(QString::fromLatin1(asked)))
             << dialogs.Asked().last().toStdString();
         EXPECT_EQ(dialogs.Calls().back().parent, dialog.get());
-        EXPECT_EQ(Script().Count(), c.lines);
+        EXPECT_EQ(Script().Count(), lines);
         EXPECT_FALSE(dialog->isVisible());
     }
 }
@@ -196,25 +196,21 @@ TEST_F(WizardTest, QuestionsAndLimitsOfARun) {
 // Cancel and Escape ask; the close box doesn't. Leaving never touches the
 // script.
 TEST_F(WizardTest, LeavingWithoutFinish) {
-    const struct {
-        const char* how;
-        MsgAnswer answer;
-        bool stays;
-    } cases[] = {
+    const std::tuple<const char*, MsgAnswer, bool> cases[] = {
         {"cmdCancel", MsgAnswer::Yes, false}, {"Escape", MsgAnswer::No, true}, {"close box", {}, false}};
     Start({"mine/20"});
-    for (const auto& c : cases) {
-        const QString how = QString::fromLatin1(c.how);
+    for (const auto& [way, answer, stays] : cases) {
+        const QString how = QString::fromLatin1(way);
         OpenWith({}, {}, false);
         ToWizardPage(4);
         AddEffect(u"Wave 2"_s);
         const auto asked = dialogs.Calls().size();
-        if (how != u"close box"_s) dialogs.QueueMessageAnswer(c.answer);
+        if (how != u"close box"_s) dialogs.QueueMessageAnswer(answer);
         if (how == u"cmdCancel"_s) Click(how);
         if (how == u"Escape"_s) QTest::keyClick(dialog.get(), Qt::Key_Escape);
         if (how == u"close box"_s) dialog->close();
-        EXPECT_EQ(dialogs.Calls().size() - asked, how == u"close box"_s ? 0u : 1u) << c.how;
-        EXPECT_EQ(dialog->isVisible(), c.stays) << c.how;
+        EXPECT_EQ(dialogs.Calls().size() - asked, how == u"close box"_s ? 0u : 1u) << way;
+        EXPECT_EQ(dialog->isVisible(), stays) << way;
         EXPECT_EQ(Lines(), TextTimes{"mine/20"});
     }
     EXPECT_EQ(dialogs.Asked().first(),
