@@ -7,6 +7,7 @@
 
 #include "MainWindowFixture.h"
 #include "document/SafeWrite.h"
+#include "document/TextFile.h"
 #include "ui/ScriptWindow.h"
 
 namespace flickerscribe::ui::testing_support {
@@ -61,16 +62,21 @@ TEST_F(Files, EachDialogOpensInItsFolderAndCancelChangesNothing) {
 
 // Whatever can't be read to its end as a plain file leaves the animation as
 // it was and gets "File not found!": a pipe with no writer must not hold the
-// window, and an I/O error half way must not cost the lines. A file of more
-// lines than an animation holds gives the first ones, and says so.
+// window, and an I/O error half way or a file larger than the memory allows
+// must not cost the lines. A file of more lines than an animation holds gives
+// the first ones, and says so.
 TEST_F(Files, UnreadableFilesAreNotFoundAndLongOnesCut) {
-    const QString pipe = PathOf(u"pipe"_s), locked = PathOf(u"locked"_s), gone = PathOf(u"gone"_s);
+    const QString pipe = PathOf(u"pipe"_s), locked = PathOf(u"locked"_s), gone = PathOf(u"gone"_s),
+                  huge = PathOf(u"huge"_s);
     ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    QFile sparse(huge);  // takes no disk
+    ASSERT_TRUE(sparse.open(QIODevice::WriteOnly) && sparse.resize(qint64(kMaxFileBytes) + 1));
     WriteBytes(locked, "#v050#\r\nx\r\n15\r\n[none]\r\n");
     QFile::setPermissions(locked, QFileDevice::WriteOwner);
     const bool root = ::geteuid() == 0;  // root reads every file
     for (const char* command : {"Open", "Import"}) {
-        for (const QString& path : {gone, folder.path(), pipe, u"/proc/self/mem"_s, root ? gone : locked}) {
+        for (const QString& path :
+             {gone, folder.path(), pipe, u"/proc/self/mem"_s, huge, root ? gone : locked}) {
             Trigger(u"btnnew"_s);
             Start({"a/15"});
             Run(command, {path});
@@ -122,6 +128,15 @@ TEST_F(Files, SavesReplaceAFileOnlyWhenAskedAndKeepItWhenTheDiskIsFull) {
         EXPECT_EQ(dialogs.Asked().last(), u"Error [stop]: Error saving script!\n%1\n%2"_s.arg(ENOSPC).arg(
                                               QString::fromLocal8Bit(std::strerror(ENOSPC))));
         EXPECT_EQ(ReadBytes(path), "old");
+
+        // A named pipe is no file to save into: refused at once, never waited on.
+        const QString pipe = PathOf(u"pipe"_s);
+        ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        dialogs.QueueMessageAnswer(MsgAnswer::Yes);
+        Run(command, {pipe});
+        EXPECT_EQ(dialogs.Asked().last(),
+                  u"Error [stop]: Error saving script!\n%1\nNot a regular file"_s.arg(EINVAL));
+        QFile::remove(pipe);
     }
 }
 
