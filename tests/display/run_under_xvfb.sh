@@ -83,4 +83,22 @@ if [ "$status" -ne 0 ]; then
   echo "the program ended with status $status:"; cat "$work/program.log"; exit 1
 fi
 echo "closed; the program ended with status 0"
+
+# Asked to end by a signal (a shutdown, a logout), it ends as by Exit: by
+# itself, with status 0, not killed by the signal.
+for signal in TERM HUP; do
+  "$program" -platform xcb >"$work/program.log" 2>&1 &
+  pid=$!
+  for _ in $(seq 300); do
+    xwininfo -root -tree 2>/dev/null | grep -qF "\"$title\"" && break
+    sleep 0.1
+  done
+  kill -s "$signal" "$pid"
+  for _ in $(seq 300); do kill -0 "$pid" 2>/dev/null || break; sleep 0.1; done
+  status=0
+  wait "$pid" || status=$?
+  pid=""
+  [ "$status" -eq 0 ] || { echo "SIG$signal ended the program with status $status"; exit 1; }
+  echo "SIG$signal: the program ended with status 0"
+done
 echo "ok"
