@@ -1,0 +1,69 @@
+// Draws every window of the program, as it first shows, into PNG files, so
+// that two builds (before and after a change of the windows, at a scale of 1
+// and of 2) can be compared side by side.
+//
+// Usage: QT_SCALE_FACTOR=2 window_gallery FOLDER    (offscreen or on a display)
+#include <QApplication>
+#include <QDir>
+#include <QTimer>
+#include <functional>
+#include <memory>
+
+#include "MemorySettingsStore.h"
+#include "ui/AboutDialog.h"
+#include "ui/ColourNameEditor.h"
+#include "ui/EditTimeDialog.h"
+#include "ui/HelpDialog.h"
+#include "ui/MainWindow.h"
+#include "ui/OptionsDialog.h"
+#include "ui/QtDialogs.h"
+#include "ui/ScriptWindow.h"
+#include "ui/SimpleEditWindow.h"
+#include "ui/WizardDialog.h"
+
+using namespace flickerscribe;
+using namespace Qt::Literals::StringLiterals;
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    if (argc != 2) return 2;
+    const QDir folder(QString::fromLocal8Bit(argv[1]));
+    QDir().mkpath(folder.path());
+    ui::QtDialogs dialogs;
+    settings::MemorySettingsStore store;
+    store.WriteValue(u"Name"_s, u"^1Fl^7ick^4er"_s);
+    store.WriteValue(u"Clantag"_s, u"^3[QZT]"_s);
+
+    const auto shoot = [&](QWidget& window, const QString& name) {
+        window.show();
+        QApplication::processEvents();
+        window.grab().save(folder.filePath(name + u".png"_s));
+        window.close();
+    };
+
+    ui::MainWindow main(dialogs, store);
+    for (const char* text : {"^1Fl^7ick^4er", "^2Sec^3ond", "third"})
+        main.Script().AppendLine(text, "15", "[none]");
+    main.Script().SelectLine(1);
+    main.SetPreview();
+    shoot(main, u"main"_s);
+    main.ToggleColours();
+    shoot(main, u"main-colours"_s);
+
+    auto wizard = std::make_unique<ui::WizardDialog>(main.History(), dialogs, main.Settings());
+    for (int page = 1; page <= ui::WizardDialog::kPageCount; ++page) {
+        shoot(*wizard, u"wizard-%1"_s.arg(page));
+        if (page < ui::WizardDialog::kPageCount) wizard->NextPage();
+    }
+    const std::vector<std::pair<QString, std::function<std::unique_ptr<QWidget>()>>> windows = {
+        {u"script"_s, [&] { return std::make_unique<ui::ScriptWindow>(main.Script(), dialogs, main.Settings()); }},
+        {u"edit"_s, [] { return std::make_unique<ui::EditTimeDialog>(); }},
+        {u"options"_s, [&] { return std::make_unique<ui::OptionsDialog>(store, dialogs, [] {}); }},
+        {u"colour-editor"_s, [&] { return std::make_unique<ui::ColourNameEditor>(dialogs); }},
+        {u"simple-edit"_s, [&] { return std::make_unique<ui::SimpleEditWindow>(main.History(), dialogs); }},
+        {u"help"_s, [&] { return std::make_unique<ui::HelpDialog>(dialogs); }},
+        {u"about"_s, [] { return std::make_unique<ui::AboutDialog>(); }},
+    };
+    for (const auto& [name, make] : windows) shoot(*make(), name);
+    return 0;
+}
