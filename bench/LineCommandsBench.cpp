@@ -40,7 +40,7 @@ void BM_CopyAllLines(benchmark::State& state) {
     const int lines = flickerscribe::kMaxLines / 2;
     ShownWindow shown(lines);
     for (auto _ : state) {
-        shown.window.CopyLines(3);
+        shown.window.CopyLines(flickerscribe::ui::MainWindow::CopyMode::AllLines);
         shown.PaintList();
         state.PauseTiming();
         TrimTo(shown.window.Script(), lines);

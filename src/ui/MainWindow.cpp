@@ -21,6 +21,7 @@
 #include "ui/MainIcons.h"
 #include "ui/MainLayout.h"
 #include "ui/MainWindowNames.h"
+#include "ui/MenuButtonAccessible.h"
 #include "ui/OneLineRichEdit.h"
 #include "ui/PaneStyle.h"
 #include "ui/RichPane.h"
@@ -51,10 +52,10 @@ QFont ListFont() {
 }
 
 QAction* AddEntry(QMenu* menu, const QString& name, const QString& caption,
-                  const QKeySequence& shortcut = QKeySequence()) {
+                  const QList<QKeySequence>& shortcuts = {}) {
     QAction* action = menu->addAction(caption);
     action->setObjectName(name);
-    if (!shortcut.isEmpty()) action->setShortcut(shortcut);
+    action->setShortcuts(shortcuts);
     return action;
 }
 
@@ -64,11 +65,10 @@ void AddSeparator(QMenu* menu, const QString& name) {
 
 // The window-wide shortcuts of the Edit menu, which work on lines and on the
 // animation's history wherever the focus is.
-bool IsLineShortcut(const QKeyEvent* event) {
-    const QKeyCombination combination = event->keyCombination();
-    for (const Qt::Key key : {Qt::Key_X, Qt::Key_C, Qt::Key_V, Qt::Key_Z, Qt::Key_Y})
-        if (combination == QKeyCombination(Qt::ControlModifier, key)) return true;
-    return combination == QKeyCombination(Qt::ControlModifier | Qt::ShiftModifier, Qt::Key_Z);
+bool IsLineShortcut(const QKeyEvent* event, const QList<QAction*>& lineActions) {
+    const QKeySequence pressed(event->keyCombination());
+    return std::any_of(lineActions.begin(), lineActions.end(),
+                       [&](const QAction* action) { return action->shortcuts().contains(pressed); });
 }
 
 }  // namespace
@@ -76,7 +76,7 @@ bool IsLineShortcut(const QKeyEvent* event) {
 MainWindow::MainWindow(Dialogs& dialogs, settings::SettingsStore& store, QString keptFolder, QWidget* parent)
     : QMainWindow(parent), dialogs_(dialogs), store_(store), kept_(std::move(keptFolder)) {
     setObjectName(names::kWindow);
-    setWindowTitle(u"Flickerscribe - by [QZT]Quillon"_s);
+    setWindowTitle(tr("Flickerscribe - by [QZT]Quillon"));
     setWindowIcon(AppIcon());
     playIcon_ = ToolbarIcon(u"play"_s);
     stopIcon_ = ToolbarIcon(u"stop"_s);
@@ -133,64 +133,72 @@ Pane& MainWindow::PreviewPane() {
 }
 
 void MainWindow::BuildMenus() {
-    QMenu* file = menuBar()->addMenu(u"File"_s);
+    QMenu* file = menuBar()->addMenu(tr("File"));
     file->setObjectName(names::kFileMenu);
-    connect(AddEntry(file, names::kNewEntry, u"New"_s), &QAction::triggered, this,
+    connect(AddEntry(file, names::kNewEntry, tr("New")), &QAction::triggered, this,
             [this] { NewAnimation(); });
-    connect(AddEntry(file, names::kOpenEntry, u"Open"_s), &QAction::triggered, this,
+    connect(AddEntry(file, names::kOpenEntry, tr("Open")), &QAction::triggered, this,
             [this] { OpenAnimation(); });
-    connect(AddEntry(file, names::kImportEntry, u"Import"_s), &QAction::triggered, this,
+    connect(AddEntry(file, names::kImportEntry, tr("Import")), &QAction::triggered, this,
             [this] { ImportScript(); });
-    reopenAction_ = AddEntry(file, names::kReopenEntry, u"Reopen last animation"_s);
+    reopenAction_ = AddEntry(file, names::kReopenEntry, tr("Reopen last animation"));
     connect(reopenAction_, &QAction::triggered, this, [this] { ReopenLastAnimation(); });
-    keptMenu_ = file->addMenu(u"Kept animations"_s);
+    keptMenu_ = file->addMenu(tr("Kept animations"));
     keptMenu_->setObjectName(names::kKeptMenu);
     connect(keptMenu_, &QMenu::aboutToShow, this, [this] { FillKeptMenu(); });
     connect(file, &QMenu::aboutToShow, this, [this] { UpdateReopenAction(); });
     AddSeparator(file, names::kFileSeparator1);
-    AddEntry(file, names::kSaveEntry, u"Save"_s)->setEnabled(false);
-    connect(AddEntry(file, names::kSaveAsEntry, u"Save As"_s), &QAction::triggered, this,
+    AddEntry(file, names::kSaveEntry, tr("Save"))->setEnabled(false);
+    connect(AddEntry(file, names::kSaveAsEntry, tr("Save As")), &QAction::triggered, this,
             [this] { SaveAnimationAs(); });
     AddSeparator(file, names::kFileSeparator2);
-    connect(AddEntry(file, names::kExitEntry, u"Exit"_s), &QAction::triggered, this, [this] { Exit(); });
+    connect(AddEntry(file, names::kExitEntry, tr("Exit")), &QAction::triggered, this, [this] { Exit(); });
 
-    QMenu* edit = menuBar()->addMenu(u"Edit"_s);
+    QMenu* edit = menuBar()->addMenu(tr("Edit"));
     edit->setObjectName(names::kEditMenu);
-    undoAction_ = AddEntry(edit, names::kUndoEntry, u"Undo"_s, QKeySequence(Qt::CTRL | Qt::Key_Z));
+    undoAction_ =
+        AddEntry(edit, names::kUndoEntry, tr("Undo"), QKeySequence::keyBindings(QKeySequence::Undo));
     connect(undoAction_, &QAction::triggered, this, [this] { Undo(); });
-    redoAction_ = AddEntry(edit, names::kRedoEntry, u"Redo"_s, QKeySequence(Qt::CTRL | Qt::Key_Y));
-    redoAction_->setShortcuts(
-        {QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
+    // Ctrl+Y and Ctrl+Shift+Z on every desktop, whatever else it binds.
+    QList<QKeySequence> redoKeys = QKeySequence::keyBindings(QKeySequence::Redo);
+    for (const QKeySequence& key :
+         {QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)})
+        if (!redoKeys.contains(key)) redoKeys << key;
+    redoAction_ = AddEntry(edit, names::kRedoEntry, tr("Redo"), redoKeys);
     connect(redoAction_, &QAction::triggered, this, [this] { Redo(); });
     AddSeparator(edit, names::kEditSeparator0);
-    connect(AddEntry(edit, names::kCutEntry, u"Cut"_s, QKeySequence(Qt::CTRL | Qt::Key_X)),
-            &QAction::triggered, this, [this] { CutLine(); });
-    connect(AddEntry(edit, names::kCopyEntry, u"Copy"_s, QKeySequence(Qt::CTRL | Qt::Key_C)),
-            &QAction::triggered, this, [this] { CopyLine(); });
-    connect(AddEntry(edit, names::kPasteEntry, u"Paste"_s, QKeySequence(Qt::CTRL | Qt::Key_V)),
-            &QAction::triggered, this, [this] { PasteLine(); });
+    QAction* cut = AddEntry(edit, names::kCutEntry, tr("Cut"), QKeySequence::keyBindings(QKeySequence::Cut));
+    connect(cut, &QAction::triggered, this, [this] { CutLine(); });
+    QAction* copy =
+        AddEntry(edit, names::kCopyEntry, tr("Copy"), QKeySequence::keyBindings(QKeySequence::Copy));
+    connect(copy, &QAction::triggered, this, [this] { CopyLine(); });
+    QAction* paste =
+        AddEntry(edit, names::kPasteEntry, tr("Paste"), QKeySequence::keyBindings(QKeySequence::Paste));
+    connect(paste, &QAction::triggered, this, [this] { PasteLine(); });
+    lineActions_ = {undoAction_, redoAction_, cut, copy, paste};
     AddSeparator(edit, names::kEditSeparator1);
-    showColoursAction_ = AddEntry(edit, names::kShowColoursEntry, u"Show colors"_s);
+    showColoursAction_ = AddEntry(edit, names::kShowColoursEntry, tr("Show colors"));
     showColoursAction_->setCheckable(true);
     connect(showColoursAction_, &QAction::triggered, this, [this] { ToggleColours(); });
-    connect(AddEntry(edit, names::kColourNameEditorEntry, u"Color name editor"_s), &QAction::triggered, this,
+    connect(AddEntry(edit, names::kColourNameEditorEntry, tr("Color name editor")), &QAction::triggered, this,
             [this] { ShowColourNameEditor(); });
-    connect(AddEntry(edit, names::kSimpleEditEntry, u"Simple Edit"_s), &QAction::triggered, this,
+    connect(AddEntry(edit, names::kSimpleEditEntry, tr("Simple Edit")), &QAction::triggered, this,
             [this] { ShowSimpleEdit(); });
     AddSeparator(edit, names::kEditSeparator2);
-    connect(AddEntry(edit, names::kOptionsEntry, u"Options"_s), &QAction::triggered, this,
+    connect(AddEntry(edit, names::kOptionsEntry, tr("Options")), &QAction::triggered, this,
             [this] { ShowOptions(); });
 
-    QMenu* help = menuBar()->addMenu(u"Help"_s);
+    QMenu* help = menuBar()->addMenu(tr("Help"));
     help->setObjectName(names::kHelpMenu);
-    connect(AddEntry(help, names::kHelpEntry, u"Help!"_s), &QAction::triggered, this, [this] { ShowHelp(); });
+    connect(AddEntry(help, names::kHelpEntry, tr("Help!")), &QAction::triggered, this,
+            [this] { ShowHelp(); });
     AddSeparator(help, names::kHelpSeparator);
-    connect(AddEntry(help, names::kAboutEntry, u"About"_s, QKeySequence(Qt::Key_F1)), &QAction::triggered,
+    connect(AddEntry(help, names::kAboutEntry, tr("About"), {QKeySequence(Qt::Key_F1)}), &QAction::triggered,
             this, [this] { ShowAbout(); });
 }
 
 void MainWindow::BuildToolbar() {
-    toolbar_ = addToolBar(u"Toolbar"_s);
+    toolbar_ = addToolBar(tr("Toolbar"));
     toolbar_->setObjectName(names::kToolbar);
     toolbar_->setMovable(false);
     toolbar_->toggleViewAction()->setEnabled(false);
@@ -203,19 +211,26 @@ void MainWindow::BuildToolbar() {
         QString caption;
         QString tip;
         QString image;
+        std::function<void()> command;
+        QAction** kept = nullptr;  // where the window keeps the action
     };
     const Button buttons[] = {
-        {names::kNewButton, u"New"_s, u"New Animation Script"_s, u"new"_s},
-        {names::kOpenButton, u"Open"_s, u"Open Animation Script"_s, u"open"_s},
-        {names::kSaveButton, u"Save"_s, u"Save Animation Script"_s, u"save"_s},
+        {names::kNewButton, tr("New"), tr("New Animation Script"), u"new"_s, [this] { NewAnimation(); }},
+        {names::kOpenButton, tr("Open"), tr("Open Animation Script"), u"open"_s, [this] { OpenAnimation(); }},
+        {names::kSaveButton, tr("Save"), tr("Save Animation Script"), u"save"_s,
+         [this] { SaveAnimationAs(); }},
         {},
-        {names::kAddButton, u"Add"_s, u"Add line"_s, u"add"_s},
-        {names::kRemoveButton, u"Remove"_s, u"Remove Line"_s, u"remove"_s},
-        {names::kEditButton, u"Edit"_s, u"Edit Line"_s, u"edit"_s},
+        {names::kAddButton, tr("Add"), tr("Add line"), u"add"_s, [this] { AddLine(true); }, &addAction_},
+        {names::kRemoveButton, tr("Remove"), tr("Remove Line"), u"remove"_s, [this] { RemoveSelectedLine(); },
+         &removeAction_},
+        {names::kEditButton, tr("Edit"), tr("Edit Line"), u"edit"_s, [this] { EditSelectedLine(); }},
         {},
-        {names::kWizardButton, u"Wizard"_s, u"Animation Script Wizard"_s, u"wizard"_s},
-        {names::kPlayButton, u"Play"_s, u"Preview animation"_s, u"play"_s},
-        {names::kGenerateButton, u"Generate"_s, u"Generate Brennock Script"_s, u"generate"_s},
+        {names::kWizardButton, tr("Wizard"), tr("Animation Script Wizard"), u"wizard"_s,
+         [this] { ShowWizard(); }},
+        {names::kPlayButton, tr("Play"), tr("Preview animation"), u"play"_s, [this] { TogglePlayback(); },
+         &playAction_},
+        {names::kGenerateButton, tr("Generate"), tr("Generate Brennock Script"), u"generate"_s,
+         [this] { GenerateScript(); }},
     };
     for (const Button& b : buttons) {
         if (b.name.isEmpty()) {
@@ -225,35 +240,38 @@ void MainWindow::BuildToolbar() {
         QAction* action = toolbar_->addAction(ToolbarIcon(b.image), b.caption);
         action->setObjectName(b.name);
         action->setToolTip(b.tip);
-        connect(action, &QAction::triggered, this, [this, key = b.name] { RunToolbarCommand(key); });
+        connect(action, &QAction::triggered, this, b.command);
+        if (b.kept != nullptr) *b.kept = action;
     }
 
     // The Add button's drop-down menu.
     auto* addMenu = new QMenu(this);
     addMenu->setObjectName(names::kAddMenu);
-    const std::pair<QString, QString> entries[] = {
-        {names::kAddBeforeEntry, u"Before selection"_s},
-        {names::kAddAfterEntry, u"After selection"_s},
+    const std::tuple<QString, QString, std::function<void()>> entries[] = {
+        {names::kAddBeforeEntry, tr("Before selection"), [this] { AddLine(false); }},
+        {names::kAddAfterEntry, tr("After selection"), [this] { AddLine(true); }},
         {},
-        {names::kCopySelectedEntry, u"Copy selected line"_s},
-        {names::kCopySelectedTimesEntry, u"Copy selected line x times"_s},
+        {names::kCopySelectedEntry, tr("Copy selected line"), [this] { CopyLines(CopyMode::SelectedLine); }},
+        {names::kCopySelectedTimesEntry, tr("Copy selected line x times"),
+         [this] { CopyLines(CopyMode::SelectedLineTimes); }},
         {},
-        {names::kCopyAllEntry, u"Copy all lines"_s},
-        {names::kCopyAllReversedEntry, u"Copy all lines (reverse)"_s},
+        {names::kCopyAllEntry, tr("Copy all lines"), [this] { CopyLines(CopyMode::AllLines); }},
+        {names::kCopyAllReversedEntry, tr("Copy all lines (reverse)"),
+         [this] { CopyLines(CopyMode::AllLinesReversed); }},
     };
-    for (const auto& [name, caption] : entries) {
+    for (const auto& [name, caption, command] : entries) {
         if (name.isEmpty()) {
             addMenu->addSeparator();
             continue;
         }
         QAction* entry = addMenu->addAction(caption);
         entry->setObjectName(name);
-        connect(entry, &QAction::triggered, this, [this, key = name] { RunAddMenuCommand(key); });
+        connect(entry, &QAction::triggered, this, command);
     }
     // Playback swaps these two images on its button.
-    ToolbarAction(names::kPlayButton)->setIcon(playIcon_);
+    playAction_->setIcon(playIcon_);
 
-    QAction* add = ToolbarAction(names::kAddButton);
+    QAction* add = addAction_;
     if (auto* button = qobject_cast<QToolButton*>(toolbar_->widgetForAction(add))) {
         // The button's own menu: through it the entries reach the
         // accessibility tree, as the menu bar's entries do. It has to come
@@ -261,16 +279,16 @@ void MainWindow::BuildToolbar() {
         // menu's own action and push the button's action out.
         button->setMenu(addMenu);
         button->setPopupMode(QToolButton::MenuButtonPopup);
+        GiveMenuButtonItsPressAction(button);
     }
     add->setMenu(addMenu);
 
     // One width for "Play" and "Stop": no button moves when playback starts.
-    QAction* play = ToolbarAction(names::kPlayButton);
-    if (auto* button = qobject_cast<QToolButton*>(toolbar_->widgetForAction(play))) {
+    if (auto* button = qobject_cast<QToolButton*>(toolbar_->widgetForAction(playAction_))) {
         int width = button->sizeHint().width();
-        play->setText(u"Stop"_s);
+        playAction_->setText(tr("Stop"));
         width = std::max(width, button->sizeHint().width());
-        play->setText(u"Play"_s);
+        playAction_->setText(tr("Play"));
         button->setMinimumWidth(width);
     }
 }
@@ -343,7 +361,7 @@ void MainWindow::BuildControls() {
     connect(model_, &QAbstractItemModel::modelReset, this, [this] { KeepPaneOnSelectedLine(); });
     // What the list's in-place editor commits is a step like any other edit.
     connect(model_, &ScriptModel::TextEdited, this, [this](int index, const QString& text) {
-        history_.SetText(u"Edit text"_s, index, FromQString(text));
+        history_.SetText(tr("Edit text"), index, FromQString(text));
     });
 
     colourStrip_ = new QWidget(client_);
@@ -358,10 +376,6 @@ void MainWindow::BuildControls() {
     client_->installEventFilter(this);
 }
 
-QAction* MainWindow::ToolbarAction(const QString& key) const {
-    return toolbar_->findChild<QAction*>(key);
-}
-
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     const bool inPane = watched == paneEdit_ || watched == paneEdit_->viewport();
     if (inPane && paneShows_ == PaneShows::Frame && !Playing() &&
@@ -374,7 +388,8 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == client_ && event->type() == QEvent::Resize) {
         LayOutControls();
     } else if (watched == paneEdit_ || watched == lineList_) {
-        if (event->type() == QEvent::ShortcutOverride && IsLineShortcut(static_cast<QKeyEvent*>(event))) {
+        if (event->type() == QEvent::ShortcutOverride &&
+            IsLineShortcut(static_cast<QKeyEvent*>(event), lineActions_)) {
             // Not the widget's own cut, copy, paste, undo and redo of
             // characters: the Edit menu's commands on lines and the animation.
             return true;
@@ -427,7 +442,7 @@ void MainWindow::KeepPaneOnSelectedLine() {
 }
 
 void MainWindow::NewAnimation() {
-    history_.ReplaceLines(u"New"_s, [](AnimationScript& script) { script.ClearLines(); });
+    history_.ReplaceLines(tr("New"), [](AnimationScript& script) { script.ClearLines(); });
 }
 
 void MainWindow::ToggleColours() {
@@ -442,44 +457,6 @@ void MainWindow::LoadSettings() {
     // that is already selected, and only when the setting is on.
     lineList_->setEditTriggers(settings_.editInPlace ? QAbstractItemView::SelectedClicked
                                                      : QAbstractItemView::NoEditTriggers);
-}
-
-void MainWindow::RunToolbarCommand(const QString& key) {
-    if (key == names::kNewButton) {
-        NewAnimation();
-    } else if (key == names::kOpenButton) {
-        OpenAnimation();
-    } else if (key == names::kSaveButton) {
-        SaveAnimationAs();
-    } else if (key == names::kAddButton) {
-        AddLine(true);
-    } else if (key == names::kRemoveButton) {
-        RemoveSelectedLine();
-    } else if (key == names::kEditButton) {
-        EditSelectedLine();
-    } else if (key == names::kWizardButton) {
-        ShowWizard();
-    } else if (key == names::kPlayButton) {
-        TogglePlayback();
-    } else if (key == names::kGenerateButton) {
-        GenerateScript();
-    }
-}
-
-void MainWindow::RunAddMenuCommand(const QString& key) {
-    if (key == names::kAddBeforeEntry) {
-        AddLine(false);
-    } else if (key == names::kAddAfterEntry) {
-        AddLine(true);
-    } else if (key == names::kCopySelectedEntry) {
-        CopyLines(1);
-    } else if (key == names::kCopySelectedTimesEntry) {
-        CopyLines(2);
-    } else if (key == names::kCopyAllEntry) {
-        CopyLines(3);
-    } else if (key == names::kCopyAllReversedEntry) {
-        CopyLines(4);
-    }
 }
 
 void MainWindow::ShowClickedLine(int index) {

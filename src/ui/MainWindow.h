@@ -78,8 +78,6 @@ public:
     void ToggleColours();
     // Reads the settings store into memory and applies the in-place edit mode.
     void LoadSettings();
-    void RunToolbarCommand(const QString& key);
-    void RunAddMenuCommand(const QString& key);
     // A click on the line with this 1-based index.
     void ShowClickedLine(int index);
     void Exit();
@@ -92,9 +90,11 @@ public:
     bool Playing() const;
 
     // --- line commands (MainWindow_LineCommands.cpp)
+    // Which lines the Add button's copy entries copy behind the last line.
+    enum class CopyMode { SelectedLine, SelectedLineTimes, AllLines, AllLinesReversed };
     void AddLine(bool after);
     void RemoveSelectedLine();
-    void CopyLines(int mode);
+    void CopyLines(CopyMode mode);
 
     // --- clipboard (MainWindow_Clipboard.cpp)
     void CutLine();
@@ -158,7 +158,6 @@ private:
     using FileLoader = LoadStatus (*)(const std::string& path, AnimationScript& script);
     void LoadIntoList(const QString& stepName, const QString& path, FileLoader load, const QString& notFound,
                       const QString& title);
-    QAction* ToolbarAction(const QString& key) const;
 
     Dialogs& dialogs_;
     settings::SettingsStore& store_;
@@ -172,6 +171,9 @@ private:
     QAction* undoAction_ = nullptr;
     QAction* redoAction_ = nullptr;
     QAction* reopenAction_ = nullptr;
+    // Undo, Redo, Cut, Copy and Paste: their keys work on lines and the
+    // animation wherever the focus is, never on the characters of a box.
+    QList<QAction*> lineActions_;
     settings::Settings settings_;
     bool coloursVisible_ = false;
     bool previewBusy_ = false;
@@ -197,6 +199,9 @@ private:
     LineListView* lineList_ = nullptr;
     ScriptModel* model_ = nullptr;
     QTimer* playTimer_ = nullptr;
+    QAction* addAction_ = nullptr;
+    QAction* removeAction_ = nullptr;
+    QAction* playAction_ = nullptr;
     QAction* showColoursAction_ = nullptr;
     QIcon playIcon_;
     QIcon stopIcon_;

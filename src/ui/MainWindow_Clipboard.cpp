@@ -29,7 +29,7 @@ QString FirstLine(const QString& text) {
 void MainWindow::CutLine() {
     if (script_.Count() == 0) return;
     dialogs_.SetClipboardText(ToQString(script_.LineAt(script_.SelectedIndex()).Text));
-    history_.RemoveLine(u"Cut"_s, script_.SelectedIndex());
+    history_.RemoveLine(tr("Cut"), script_.SelectedIndex());
     SetPreview();
 }
 
@@ -45,8 +45,7 @@ void MainWindow::PasteLine() {
     // The new line goes behind the selected one, which stays selected; into
     // an empty list it goes as the first line, and is selected.
     const int index = script_.Count() > 0 ? script_.SelectedIndex() + 1 : 1;
-    if (!history_.InsertLine(u"Paste"_s, index,
-                             AnimationLine{FromQString(FirstLine(*clipboard)), "15", "[none]"})) {
+    if (!history_.InsertLine(tr("Paste"), index, AnimationLine{.Text = FromQString(FirstLine(*clipboard))})) {
         ShowLineLimitMessage(dialogs_, this);
         return;
     }

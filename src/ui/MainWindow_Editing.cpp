@@ -18,7 +18,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace flickerscribe::ui {
 
 void MainWindow::OnPaneEdited() {
-    WritePaneToLine(u"Typing"_s, true);
+    WritePaneToLine(tr("Typing"), true);
 }
 
 void MainWindow::WritePaneToLine(const QString& stepName, bool typing) {
@@ -65,7 +65,7 @@ void MainWindow::PaintSelection(int index) {
     // With nothing selected no character changed: the colour waits for what
     // is typed next, and typing writes the line. A coloured stretch is a step
     // of its own.
-    if (stretch) WritePaneToLine(u"Colour"_s, false);
+    if (stretch) WritePaneToLine(tr("Colour"), false);
 }
 
 void MainWindow::OnPaneKeyPress(int key, Qt::KeyboardModifiers modifiers) {
@@ -87,9 +87,9 @@ void MainWindow::EditSelectedLine() {
     if (script_.Count() > 0) {
         EditTimeDialog window(this);
         if (window.exec() == QDialog::Accepted)
-            history_.SetTime(u"Edit time"_s, script_.SelectedIndex(), FromQString(window.Time()));
+            history_.SetTime(tr("Edit time"), script_.SelectedIndex(), FromQString(window.Time()));
     } else {
-        dialogs_.Message(this, u"No items to edit"_s, u"Edit"_s, MsgIcon::Exclamation, MsgButtons::Ok);
+        dialogs_.Message(this, tr("No items to edit"), tr("Edit"), MsgIcon::Exclamation, MsgButtons::Ok);
     }
 }
 

@@ -13,18 +13,20 @@ using namespace Qt::Literals::StringLiterals;
 namespace flickerscribe::ui {
 namespace {
 
-const QString kAnimationFilter = u"Brennock Animation Script (*.fsq)|*.fsq"_s;
+QString AnimationFilter() {
+    return MainWindow::tr("Brennock Animation Script (*.fsq)|*.fsq");
+}
 
 }  // namespace
 
 void MainWindow::OpenAnimation() {
-    fileDialog_.title = u"Open Brennock Animation"_s;
-    fileDialog_.filter = kAnimationFilter;
+    fileDialog_.title = tr("Open Brennock Animation");
+    fileDialog_.filter = AnimationFilter();
     if (!settings_.openFolder.isEmpty()) fileDialog_.initialFolder = settings_.openFolder;
     if (!dialogs_.ShowOpen(this, fileDialog_)) return;
 
-    LoadIntoList(u"Open"_s, fileDialog_.fileName, LoadAnimationFile,
-                 u"File not found!\n"_s + fileDialog_.fileName, u"Error"_s);
+    LoadIntoList(tr("Open"), fileDialog_.fileName, LoadAnimationFile,
+                 tr("File not found!\n") + fileDialog_.fileName, tr("Error"));
 }
 
 // The whole file is read before the list is touched: a file that can't be
@@ -42,25 +44,25 @@ void MainWindow::LoadIntoList(const QString& stepName, const QString& path, File
 void MainWindow::SaveAnimationAs() {
     const auto path = ChooseSavePath(dialogs_, this, fileDialog_,
                                      [this] {
-                                         fileDialog_.title = u"Save Brennock Animation"_s;
-                                         fileDialog_.filter = kAnimationFilter;
+                                         fileDialog_.title = tr("Save Brennock Animation");
+                                         fileDialog_.filter = AnimationFilter();
                                          if (!settings_.saveFolder.isEmpty())
                                              fileDialog_.initialFolder = settings_.saveFolder;
                                      },
-                                     {u"File exists! Overwrite?"_s, u"Save Brennock Animation"_s});
+                                     {tr("File exists! Overwrite?"), tr("Save Brennock Animation")});
     if (!path) return;
     if (const auto error = SaveAnimationFile(*path, script_)) ShowSaveError(dialogs_, this, *error);
 }
 
 void MainWindow::ImportScript() {
-    dialogs_.Message(this, u"Note: Currently only .cfg files can be imported!"_s, u"Import note"_s,
+    dialogs_.Message(this, tr("Note: Currently only .cfg files can be imported!"), tr("Import note"),
                      MsgIcon::Information, MsgButtons::Ok);
     // The folder is left as it is: the dialog opens where it was last.
-    fileDialog_.title = u"Import file"_s;
-    fileDialog_.filter = u"Brennock Scripts (*.cfg)|*.cfg"_s;
+    fileDialog_.title = tr("Import file");
+    fileDialog_.filter = tr("Brennock Scripts (*.cfg)|*.cfg");
     if (!dialogs_.ShowOpen(this, fileDialog_)) return;
 
-    LoadIntoList(u"Import"_s, fileDialog_.fileName, ImportFile, u"File not found!"_s, u"Import error"_s);
+    LoadIntoList(tr("Import"), fileDialog_.fileName, ImportFile, tr("File not found!"), tr("Import error"));
 }
 
 void MainWindow::GenerateScript() {

@@ -34,9 +34,9 @@ void MainWindow::UpdateUndoActions() {
         return step.isEmpty() ? verb : verb + u' ' + step;
     };
     undoAction_->setEnabled(history_.CanUndo() && !Playing());
-    undoAction_->setText(caption(u"Undo"_s, history_.UndoText()));
+    undoAction_->setText(caption(tr("Undo"), history_.UndoText()));
     redoAction_->setEnabled(history_.CanRedo() && !Playing());
-    redoAction_->setText(caption(u"Redo"_s, history_.RedoText()));
+    redoAction_->setText(caption(tr("Redo"), history_.RedoText()));
 }
 
 void MainWindow::UpdateReopenAction() {
@@ -52,7 +52,7 @@ void MainWindow::FillKeptMenu() {
         connect(keptMenu_->addAction(EntryCaption(entry)), &QAction::triggered, this,
                 [this, path = entry.path] { OpenKeptAnimation(path); });
     }
-    if (keptMenu_->isEmpty()) keptMenu_->addAction(u"None can be read"_s)->setEnabled(false);
+    if (keptMenu_->isEmpty()) keptMenu_->addAction(tr("None can be read"))->setEnabled(false);
 }
 
 void MainWindow::KeepAnimation() {
@@ -79,8 +79,8 @@ void MainWindow::ShowKeepProblem(const std::optional<SaveError>& error) {
         keepProblem_->setObjectName(names::kKeepProblem);
         statusBar()->addWidget(keepProblem_, 1);
     }
-    keepProblem_->setText(u"Your work could not be kept (%1); trying again in 30 seconds."_s.arg(
-        QString::fromLocal8Bit(error->text)));
+    keepProblem_->setText(tr("Your work could not be kept (%1); trying again in 30 seconds.")
+                              .arg(QString::fromLocal8Bit(error->text)));
     statusBar()->show();
 }
 
@@ -89,17 +89,17 @@ void MainWindow::ReopenLastAnimation() {
     for (const QString& path : kept_.Files()) {
         if (path == kept_.OwnFile()) continue;
         const LoadStatus status = history_.ReplaceLines(
-            u"Reopen last animation"_s,
+            tr("Reopen last animation"),
             [&](AnimationScript& script) { return LoadWholeAnimationFile(NativePath(path), script); });
         if (status == LoadStatus::Truncated) ShowLineLimitMessage(dialogs_, this);
         if (status != LoadStatus::ReadFailed) return;
     }
-    dialogs_.Message(this, u"File not found!"_s, u"Error"_s, MsgIcon::Critical, MsgButtons::Ok);
+    dialogs_.Message(this, tr("File not found!"), tr("Error"), MsgIcon::Critical, MsgButtons::Ok);
 }
 
 void MainWindow::OpenKeptAnimation(const QString& path) {
-    LoadIntoList(u"Open kept animation"_s, path, LoadWholeAnimationFile, u"File not found!\n"_s + path,
-                 u"Error"_s);
+    LoadIntoList(tr("Open kept animation"), path, LoadWholeAnimationFile, tr("File not found!\n") + path,
+                 tr("Error"));
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -22,26 +22,25 @@ bool MainWindow::Playing() const {
 void MainWindow::TogglePlayback() {
     // Every press starts again from the first line; a stop forgets the place.
     playIndex_ = 1;
-    QAction* play = ToolbarAction(names::kPlayButton);
-    if (play->text() == u"Play"_s) {
+    if (!Playing()) {
         if (script_.Count() == 0) {
             // Whatever the answer, nothing else happens.
-            dialogs_.Message(this, u"There is no animation to play!"_s, u"Preview Animation"_s,
+            dialogs_.Message(this, tr("There is no animation to play!"), tr("Preview Animation"),
                              MsgIcon::Exclamation, MsgButtons::OkCancel);
             return;
         }
-        play->setText(u"Stop"_s);
-        play->setIcon(stopIcon_);
-        ToolbarAction(names::kAddButton)->setEnabled(false);
-        ToolbarAction(names::kRemoveButton)->setEnabled(false);
+        playAction_->setText(tr("Stop"));
+        playAction_->setIcon(stopIcon_);
+        addAction_->setEnabled(false);
+        removeAction_->setEnabled(false);
         previewBusy_ = true;
         playTimer_->start();
         UpdateUndoActions();
     } else {
-        play->setText(u"Play"_s);
-        play->setIcon(playIcon_);
-        ToolbarAction(names::kAddButton)->setEnabled(true);
-        ToolbarAction(names::kRemoveButton)->setEnabled(true);
+        playAction_->setText(tr("Play"));
+        playAction_->setIcon(playIcon_);
+        addAction_->setEnabled(true);
+        removeAction_->setEnabled(true);
         previewBusy_ = false;
         playTimer_->stop();
         UpdateUndoActions();
