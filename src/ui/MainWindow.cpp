@@ -337,21 +337,22 @@ void MainWindow::BuildControls() {
     lineList_->installEventFilter(this);
     connect(lineList_, &LineListView::KeyPressed, this, &MainWindow::OnListKeyPress);
     connect(lineList_, &QAbstractItemView::clicked, this, [this](const QModelIndex& index) {
-        if (index.isValid()) ShowClickedLine(index.row() + 1);
+        if (index.isValid()) ShowClickedLine(ScriptModel::LineOfRow(index.row()));
     });
     // The user's move of the current row selects that line; the script's own
     // changes of its selection move the current row.
     connect(lineList_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& current) {
                 if (model_->Changing() || !current.isValid()) return;
-                if (current.row() + 1 != script_.SelectedIndex()) script_.SelectLine(current.row() + 1);
+                const int line = ScriptModel::LineOfRow(current.row());
+                if (line != script_.SelectedIndex()) script_.SelectLine(line);
             });
     connect(model_, &ScriptModel::SelectedLineChanged, this, [this](int index) {
         if (index == 0) {
             lineList_->selectionModel()->clear();
         } else {
             lineList_->selectionModel()->setCurrentIndex(
-                model_->index(index - 1, 0), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+                model_->IndexOfLine(index), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
         }
         // Typing into another line is a step of its own.
         history_.EndTyping();

@@ -30,7 +30,7 @@ int ScriptModel::columnCount(const QModelIndex& parent) const {
 QVariant ScriptModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || index.row() >= script_.Count()) return {};
     if (role != Qt::DisplayRole && role != Qt::EditRole) return {};
-    const AnimationLine& line = script_.LineAt(index.row() + 1);
+    const AnimationLine& line = script_.LineAt(LineOfRow(index.row()));
     switch (index.column()) {
         case kText:
             return ToQString(line.Text);
@@ -67,13 +67,13 @@ Qt::ItemFlags ScriptModel::flags(const QModelIndex& index) const {
 bool ScriptModel::setData(const QModelIndex& index, const QVariant& value, int role) {
     if (!index.isValid() || index.column() != kText || role != Qt::EditRole) return false;
     if (index.row() >= script_.Count()) return false;
-    emit TextEdited(index.row() + 1, value.toString());
+    emit TextEdited(LineOfRow(index.row()), value.toString());
     return true;
 }
 
 void ScriptModel::AboutToInsert(int index) {
     ++changing_;
-    beginInsertRows({}, index - 1, index - 1);
+    beginInsertRows({}, RowOfLine(index), RowOfLine(index));
 }
 
 void ScriptModel::Inserted(int) {
@@ -83,7 +83,7 @@ void ScriptModel::Inserted(int) {
 
 void ScriptModel::AboutToRemove(int index) {
     ++changing_;
-    beginRemoveRows({}, index - 1, index - 1);
+    beginRemoveRows({}, RowOfLine(index), RowOfLine(index));
 }
 
 void ScriptModel::Removed(int) {
@@ -92,7 +92,7 @@ void ScriptModel::Removed(int) {
 }
 
 void ScriptModel::LineChanged(int index) {
-    emit dataChanged(this->index(index - 1, kText), this->index(index - 1, kAction));
+    emit dataChanged(IndexOfLine(index, kText), IndexOfLine(index, kAction));
 }
 
 void ScriptModel::AboutToReset() {

@@ -16,6 +16,12 @@ public:
     explicit ScriptModel(AnimationScript& script, QObject* parent = nullptr);
     ~ScriptModel() override;
 
+    // The one place where the script's lines, counted from 1, meet the
+    // model's rows, counted from 0.
+    static constexpr int LineOfRow(int row) { return row + 1; }
+    static constexpr int RowOfLine(int line) { return line - 1; }
+    QModelIndex IndexOfLine(int line, int column = 0) const { return index(RowOfLine(line), column); }
+
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;

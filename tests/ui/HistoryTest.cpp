@@ -36,7 +36,9 @@ public:
 };
 
 // Typing into one line is one step until the selection moves or another
-// command runs; then the next keystrokes make a step of their own.
+// command runs; then the next keystrokes make a step of their own, also when
+// the selection comes back to the line typed in before. Keystrokes in two
+// lines are never one step.
 TEST_F(History, TypingMergesUntilTheSelectionMovesOrACommandRuns) {
     Start(kABC, 1);
     Show();
@@ -44,11 +46,15 @@ TEST_F(History, TypingMergesUntilTheSelectionMovesOrACommandRuns) {
     Press(Qt::Key_Down, {});
     QTest::keyClicks(window->PaneEdit(), u"3"_s);
     QTest::keyClicks(window->PaneEdit(), u"4"_s);
+    Press(Qt::Key_Up, {});
+    QTest::keyClicks(window->PaneEdit(), u"0"_s);
+    Press(Qt::Key_Down, {});
     Trigger(u"btncopylast"_s);
     QTest::keyClicks(window->PaneEdit(), u"5"_s);
-    const TextTimes typed = {"A12/10", "B345/20", "C/30", "B34/20"};
+    const TextTimes typed = {"A120/10", "B345/20", "C/30", "B34/20"};
     EXPECT_EQ(Lines(), typed);
-    const TextTimes undone[] = {{"A12/10", "B34/20", "C/30", "B34/20"},
+    const TextTimes undone[] = {{"A120/10", "B34/20", "C/30", "B34/20"},
+                                {"A120/10", "B34/20", "C/30"},
                                 {"A12/10", "B34/20", "C/30"},
                                 {"A12/10", "B/20", "C/30"},
                                 kABC};
@@ -58,7 +64,7 @@ TEST_F(History, TypingMergesUntilTheSelectionMovesOrACommandRuns) {
     }
     EXPECT_FALSE(Named(u"mnuEditUndo"_s)->isEnabled());
     Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_EQ(Lines(), undone[2]);
+    EXPECT_EQ(Lines(), undone[3]);
 }
 
 // A failed Open, a selection alone and Cancel make no step; while playback runs, Undo and Redo wait.
