@@ -4,7 +4,7 @@
 #include <string>
 
 #include "colour/ColouredText.h"
-#include "colour/MemoryPane.h"
+#include "MemoryPane.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 
 #include "FuzzChecks.h"
 #include "colour/ColouredText.h"
-#include "colour/MemoryPane.h"
+#include "MemoryPane.h"
 #include "colour/Palette.h"
 
 namespace {

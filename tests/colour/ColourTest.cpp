@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "colour/ColouredText.h"
-#include "colour/MemoryPane.h"
+#include "MemoryPane.h"
 #include "colour/NumberText.h"
 #include "colour/SimpleEditWalk.h"
 

@@ -6,7 +6,7 @@
 #include <random>
 
 #include "MainWindowFixture.h"
-#include "colour/MemoryPane.h"
+#include "MemoryPane.h"
 #include "colour/Palette.h"
 #include "ui/AboutDialog.h"
 #include "ui/QtDialogs.h"

@@ -1,4 +1,4 @@
-#include "colour/MemoryPane.h"
+#include "MemoryPane.h"
 
 #include <algorithm>
 
