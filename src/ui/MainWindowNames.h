@@ -17,6 +17,7 @@ inline const QString kColourStrip = QStringLiteral("picColors");
 inline const QString kPlayTimer = QStringLiteral("timAni");
 inline const QString kToolbar = QStringLiteral("tlbMain");
 inline const QString kKeepTimer = QStringLiteral("timKeep");
+inline const QString kExportProgress = QStringLiteral("dlgExportProgress");
 
 // The menus and their entries; separators are named too.
 inline const QString kFileMenu = QStringLiteral("mnuFile");
@@ -27,6 +28,7 @@ inline const QString kReopenEntry = QStringLiteral("mnuFileReopen");
 inline const QString kFileSeparator1 = QStringLiteral("mnuFileLine");
 inline const QString kSaveEntry = QStringLiteral("mnuFileSave");
 inline const QString kSaveAsEntry = QStringLiteral("mnuFileSaveAs");
+inline const QString kExportPictureEntry = QStringLiteral("mnuFileExportPicture");
 inline const QString kFileSeparator2 = QStringLiteral("mnuFileLine2");
 inline const QString kExitEntry = QStringLiteral("mnuFileExit");
 inline const QString kEditMenu = QStringLiteral("mnuEdit");

@@ -1,0 +1,165 @@
+// The animated picture as a reader sees it: Qt's GIF reader for the frames as
+// shown, their delays and the loop; giflib's decoder for what each frame holds.
+#include <gif_lib.h>
+#include <gmock/gmock.h>
+
+#include <QBuffer>
+#include <QImageReader>
+#include <set>
+
+#include "colour/Palette.h"
+#include "picture/AnimatedPicture.h"
+#include "picture/FramePainter.h"
+
+namespace flickerscribe::picture {
+namespace {
+
+struct Decoded {
+    std::vector<QImage> frames;  // as shown, each over the ones before
+    std::vector<int> delays;     // in ms
+    int loops = 0;               // -1: for ever
+};
+
+Decoded Decode(const std::string& gif) {
+    QByteArray bytes = QByteArray::fromStdString(gif);
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer, "gif");
+    Decoded decoded;
+    QImage frame;
+    while (reader.read(&frame)) {
+        decoded.frames.push_back(frame.convertToFormat(QImage::Format_RGB32));
+        decoded.delays.push_back(reader.nextImageDelay());
+    }
+    decoded.loops = reader.loopCount();
+    return decoded;
+}
+
+Decoded Draw(const std::vector<std::string>& texts) {
+    const auto gif = DrawAnimatedPicture(texts);
+    EXPECT_TRUE(gif.has_value());
+    return Decode(gif.value_or(""));
+}
+
+QRgb Qt(Colour colour) {
+    return qRgb(int(RedOf(colour)), int(GreenOf(colour)), int(BlueOf(colour)));
+}
+
+// Frames that look the same make one frame that stays as long as they did
+// together; the picture loops for ever, every frame of one size.
+TEST(Picture, FramesStayTheirTimeAndThePictureLoops) {
+    const struct {
+        std::vector<std::string> texts;
+        std::vector<int> delays;
+    } cases[] = {
+        {{"a"}, {100}},
+        {{"^1Fl^7ick", "^1Fl^7ick", "^1Fl^7ick", "x"}, {300, 100}},
+        {{"a", "b", "a"}, {100, 100, 100}},
+        {{"^1a", "^9a", "^1a", "^3a"}, {300, 100}},  // other codes, one picture
+        {{"", "", "wide text", "^1"}, {200, 100, 100}},
+        {std::vector<std::string>(7000, "a"), {655300, 44700}},  // longer than a GIF's 16-bit delay
+    };
+    for (const auto& c : cases) {
+        const Decoded d = Draw(c.texts);
+        EXPECT_EQ(d.delays, c.delays) << c.texts.front();
+        EXPECT_EQ(d.loops, -1);
+        for (const QImage& frame : d.frames) EXPECT_EQ(frame.size(), d.frames.front().size());
+    }
+}
+
+// Each frame shows its own line, whatever the frame before it left: drawn
+// alone, first of the same animation, it has the same pixels.
+TEST(Picture, EveryFrameShowsItsLine) {
+    const std::vector<std::string> animations[] = {
+        {"Q", "Qu", "Qui", "Quil"},                                        // typing
+        {"^4[QZT]^7Quillon", "^7Q^4[QZT]^7uillon", "^7Qu^4[QZT]^7illon"},  // bouncing
+        {"abcdef", "abc", "", "abcdef"},                                   // shrinking and growing
+        {"^1abc", "^2abc", "^2abc", "^1abc"},                              // colours alone
+        {"one\ntwo", "one", "^3three\n^5four"},                            // line breaks
+    };
+    for (const auto& texts : animations) {
+        const Decoded all = Draw(texts);
+        ASSERT_EQ(all.frames.size(), texts.size() - (texts[1] == texts[2]));
+        for (std::size_t k = 0, shown = 0; k < texts.size(); ++k) {
+            if (k > 0 && texts[k] == texts[k - 1]) continue;
+            std::vector<std::string> first = texts;
+            first.insert(first.begin(), texts[k]);
+            EXPECT_EQ(all.frames[shown++], Draw(first).frames.front()) << texts[k];
+        }
+    }
+}
+
+// Every pixel is the grey or the colour of a character; from left to right
+// the characters' colours come in the order of the text, beginning just
+// behind the margin.
+TEST(Picture, GlyphsTakeTheirCharactersColours) {
+    const Colour red = Rgb(255, 0, 0), green = Rgb(0, 255, 0), yellow = Rgb(255, 255, 0),
+                 blue = Rgb(0, 0, 255), cyan = Rgb(0, 255, 255), magenta = Rgb(255, 0, 255);
+    const struct {
+        std::string text;
+        std::vector<Colour> colours;
+    } cases[] = {
+        {"^1Fl^7ick", {red, kWhite}},
+        {"^2a^3b^4c^5d^6e^8f", {green, yellow, blue, cyan, magenta, kBlack}},
+        {"Quillon^4[QZT]", {kWhite, blue}},
+        {"^9x^0y", {red, kWhite}},
+    };
+    for (const auto& c : cases) {
+        const QImage frame = Draw({c.text}).frames.at(0);
+        std::set<QRgb> allowed = {Qt(kPaneGrey)};
+        for (Colour colour : c.colours) allowed.insert(Qt(colour));
+        std::vector<Colour> seen;
+        int firstInk = -1;
+        for (int x = 0; x < frame.width(); ++x) {
+            std::set<QRgb> column;
+            for (int y = 0; y < frame.height(); ++y) {
+                const QRgb pixel = frame.pixel(x, y);
+                ASSERT_TRUE(allowed.contains(pixel)) << c.text << " " << std::hex << pixel;
+                if (pixel != Qt(kPaneGrey)) column.insert(pixel);
+            }
+            ASSERT_LE(column.size(), 1u) << c.text << " column " << x;
+            if (column.empty()) continue;
+            if (firstInk < 0) firstInk = x;
+            const QRgb ink = *column.begin();
+            if (seen.empty() || Qt(seen.back()) != ink)
+                seen.push_back(Rgb(unsigned(qRed(ink)), unsigned(qGreen(ink)), unsigned(qBlue(ink))));
+        }
+        EXPECT_EQ(seen, c.colours) << c.text;
+        EXPECT_GE(firstInk, kFrameMargin) << c.text;
+        EXPECT_LE(firstInk, kFrameMargin + 3) << c.text;
+    }
+}
+
+// Typing a name: each frame after the first holds the new letter's place
+// only, to the right of the one before.
+TEST(Picture, LaterFramesHoldOnlyWhatChanged) {
+    struct Source {
+        std::string bytes;
+        std::size_t at = 0;
+    } source{DrawAnimatedPicture({"Q", "Qu", "Qui", "Quil", "Quill"}).value()};
+    int error = 0;
+    GifFileType* gif = DGifOpen(
+        &source,
+        [](GifFileType* file, GifByteType* out, int length) {
+            auto& s = *static_cast<Source*>(file->UserData);
+            const std::size_t n = std::min(std::size_t(length), s.bytes.size() - s.at);
+            std::copy_n(s.bytes.data() + s.at, n, out);
+            s.at += n;
+            return int(n);
+        },
+        &error);
+    ASSERT_NE(gif, nullptr);
+    ASSERT_EQ(DGifSlurp(gif), GIF_OK);
+    ASSERT_EQ(gif->ImageCount, 5);
+    for (int k = 1; k < gif->ImageCount; ++k) {
+        const GifImageDesc& now = gif->SavedImages[k].ImageDesc;
+        const GifImageDesc& before = gif->SavedImages[k - 1].ImageDesc;
+        EXPECT_GT(now.Left, before.Left) << k;
+        EXPECT_LT(now.Width, gif->SWidth / 4) << k;
+        EXPECT_LT(now.Height, gif->SHeight) << k;
+    }
+    DGifCloseFile(gif, &error);
+}
+
+}  // namespace
+}  // namespace flickerscribe::picture
