@@ -49,7 +49,6 @@ QImage ImageAt96Dpi(QSize size) {
 }
 
 // The shown characters of a coded text with one format for each colour run.
-// A line break of the text is a line break of the layout.
 struct ShownText {
     QString text;
     QList<QTextLayout::FormatRange> formats;
@@ -64,11 +63,23 @@ ShownText Shown(std::string_view codedText) {
         range.format.setForeground(QColor(ToRgb(run.colour)));
         for (const char c : run.text) {
             const char32_t u = Cp1252ToUnicode(static_cast<unsigned char>(c));
-            shown.text += u == U'\n' ? QChar(QChar::LineSeparator) : QChar(static_cast<char16_t>(u));
+            shown.text += u == U'\n' ? QChar(u' ') : QChar(static_cast<char16_t>(u));
         }
         shown.formats.append(range);
     }
     return shown;
+}
+
+// One line without wrapping, however long.
+QTextLayout& LaidOut(QTextLayout& layout) {
+    QTextOption option;
+    option.setWrapMode(QTextOption::NoWrap);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    if (line.isValid()) line.setLineWidth(1e7);
+    layout.endLayout();
+    return layout;
 }
 
 }  // namespace
@@ -93,27 +104,10 @@ FramePainter::FramePainter() : font_(PreviewFont()), metricsDevice_(ImageAt96Dpi
     lineHeight_ = static_cast<int>(std::ceil(QFontMetricsF(font_, &metricsDevice_).height()));
 }
 
-void FramePainter::LayOut(QTextLayout& layout) const {
-    QTextOption option;
-    option.setWrapMode(QTextOption::NoWrap);
-    layout.setTextOption(option);
-    layout.beginLayout();
-    for (int row = 0;; ++row) {
-        QTextLine line = layout.createLine();
-        if (!line.isValid()) break;
-        line.setLineWidth(1e7);
-        line.setPosition(QPointF(0, row * lineHeight_));
-    }
-    layout.endLayout();
-}
-
-QSize FramePainter::TextSize(std::string_view codedText) const {
+int FramePainter::TextWidth(std::string_view codedText) const {
     QTextLayout layout(Shown(codedText).text, font_, &metricsDevice_);
-    LayOut(layout);
-    qreal width = 0;
-    for (int i = 0; i < layout.lineCount(); ++i)
-        width = std::max(width, layout.lineAt(i).horizontalAdvance());
-    return QSize(static_cast<int>(std::ceil(width)), std::max(1, layout.lineCount()) * lineHeight_);
+    const QTextLine line = LaidOut(layout).lineAt(0);
+    return static_cast<int>(std::ceil(line.horizontalAdvance()));
 }
 
 FramePixels FramePainter::Draw(std::string_view codedText, QSize size) {
@@ -123,11 +117,9 @@ FramePixels FramePainter::Draw(std::string_view codedText, QSize size) {
     ShownText shown = Shown(codedText);
     QTextLayout layout(shown.text, font_, &canvas_);
     layout.setFormats(shown.formats);
-    LayOut(layout);
-    const int textHeight = std::max(1, layout.lineCount()) * lineHeight_;
     {
         QPainter painter(&canvas_);
-        layout.draw(&painter, QPointF(kFrameMargin, (size.height() - textHeight) / 2));
+        LaidOut(layout).draw(&painter, QPointF(kFrameMargin, (size.height() - lineHeight_) / 2));
     }
 
     FramePixels pixels(static_cast<std::size_t>(size.width()) * static_cast<std::size_t>(size.height()));

@@ -3,7 +3,6 @@
 #include <QFont>
 #include <QImage>
 #include <QSize>
-#include <QTextLayout>
 #include <array>
 #include <cstdint>
 #include <string_view>
@@ -40,19 +39,17 @@ class FramePainter {
 public:
     FramePainter();
 
-    // The size the shown text of `codedText` takes, without the margin: the
-    // widest of its lines (a line break starts a new one), and the height of
-    // all lines.
-    QSize TextSize(std::string_view codedText) const;
+    // The width the shown text of `codedText` takes, without the margin.
+    int TextWidth(std::string_view codedText) const;
+    // The height of a line of text.
+    int LineHeight() const { return lineHeight_; }
 
-    // Draws `codedText` on a frame of `size` (which holds the margin):
-    // left-aligned behind the margin and centred in height.
+    // Draws `codedText` on a frame of `size` (which holds the margin), in one
+    // line as the pane shows it, left-aligned behind the margin and centred
+    // in height. A line break shows as a blank, as in a pasted text.
     FramePixels Draw(std::string_view codedText, QSize size);
 
 private:
-    // Lays the text out in lines of the height of the font, one for each line break.
-    void LayOut(QTextLayout& layout) const;
-
     QFont font_;
     int lineHeight_ = 0;
     QImage canvas_;

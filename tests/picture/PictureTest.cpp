@@ -57,6 +57,7 @@ TEST(Picture, FramesStayTheirTimeAndThePictureLoops) {
         {{"a", "b", "a"}, {100, 100, 100}},
         {{"^1a", "^9a", "^1a", "^3a"}, {300, 100}},  // other codes, one picture
         {{"", "", "wide text", "^1"}, {200, 100, 100}},
+        {{"one\ntwo", "one two"}, {200}},                        // a line break shows as a blank
         {std::vector<std::string>(7000, "a"), {655300, 44700}},  // longer than a GIF's 16-bit delay
     };
     for (const auto& c : cases) {
@@ -65,6 +66,8 @@ TEST(Picture, FramesStayTheirTimeAndThePictureLoops) {
         EXPECT_EQ(d.loops, -1);
         for (const QImage& frame : d.frames) EXPECT_EQ(frame.size(), d.frames.front().size());
     }
+    // Wider than a GIF can be: cut off at its largest width.
+    EXPECT_EQ(Draw({std::string(6000, 'a')}).frames.at(0).width(), 65535);
 }
 
 // Each frame shows its own line, whatever the frame before it left: drawn
