@@ -58,7 +58,7 @@ void BM_Bounce2000(benchmark::State& state) {
 
 // A 30-character name typed in letter by letter.
 void BM_Wave2Of30Characters(benchmark::State& state) {
-    Export(state, Frames("^1Quillon^7 the ^3Flickerscribe^5 maker", "", {{"Wave 2"}}));
+    Export(state, Frames("^1Quillon^7 of ^3Flickerscribe^5 maker", "", {{"Wave 2"}}));
 }
 
 }  // namespace
