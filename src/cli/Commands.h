@@ -16,5 +16,6 @@ extern const Command kGenerateCommand;
 extern const Command kImportCommand;
 extern const Command kRenderCommand;
 extern const Command kEffectsCommand;
+extern const Command kPictureCommand;
 
 }  // namespace flickerscribe::cli

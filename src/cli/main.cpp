@@ -17,6 +17,7 @@ const Command* const kCommands[] = {
     &kImportCommand,
     &kRenderCommand,
     &kEffectsCommand,
+    &kPictureCommand,
 };
 
 std::string Overview() {

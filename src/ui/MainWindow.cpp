@@ -14,6 +14,7 @@
 #include <QToolButton>
 
 #include "colour/ColouredText.h"
+#include "picture/FramePainter.h"
 #include "settings/SettingsStore.h"
 #include "ui/ColourButtons.h"
 #include "ui/DialogWindow.h"
@@ -151,6 +152,9 @@ void MainWindow::BuildMenus() {
     AddEntry(file, names::kSaveEntry, tr("Save"))->setEnabled(false);
     connect(AddEntry(file, names::kSaveAsEntry, tr("Save As")), &QAction::triggered, this,
             [this] { SaveAnimationAs(); });
+    connect(AddEntry(file, names::kExportPictureEntry, tr("Export animated picture..."),
+                     {QKeySequence(Qt::CTRL | Qt::Key_E)}),
+            &QAction::triggered, this, [this] { ExportPicture(); });
     AddSeparator(file, names::kFileSeparator2);
     connect(AddEntry(file, names::kExitEntry, tr("Exit")), &QAction::triggered, this, [this] { Exit(); });
 
@@ -300,12 +304,8 @@ void MainWindow::BuildControls() {
 
     auto* pane = new OneLineRichEdit(client_);
     pane->setObjectName(names::kPane);
-    QFont paneFont = BoldFont(u"Courier New"_s, 14.25, QFont::TypeWriter);
-    // A name of single characters in ever new colours needs no shaping: this
-    // keeps the longest text fast to draw.
-    paneFont.setStyleStrategy(QFont::PreferNoShaping);
-    paneFont.setKerning(false);
-    StyleGreyPane(pane, paneFont);
+    // The font the animated picture draws its frames in, too.
+    StyleGreyPane(pane, picture::PreviewFont());
     pane->document()->setDocumentMargin(2);
     // The pane keeps no history of its own: Undo is the animation's.
     pane->setUndoRedoEnabled(false);

@@ -113,6 +113,8 @@ public:
     void SaveAnimationAs();
     void ImportScript();
     void GenerateScript();
+    // The animation as an animated GIF (MainWindow_Picture.cpp).
+    void ExportPicture();
     // The one file dialog of Open, Save As and Import: it keeps its file name
     // and folder between uses.
     FileDialogState& FileDialog() { return fileDialog_; }

@@ -19,6 +19,7 @@ inline const QString kToolbar = QStringLiteral("tlbMain");
 inline const QString kKeepTimer = QStringLiteral("timKeep");
 // Shown in the status bar while the animation can't be kept.
 inline const QString kKeepProblem = QStringLiteral("lblKeepProblem");
+inline const QString kExportProgress = QStringLiteral("dlgExportProgress");
 
 // The menus and their entries; separators are named too.
 inline const QString kFileMenu = QStringLiteral("mnuFile");
@@ -30,6 +31,7 @@ inline const QString kKeptMenu = QStringLiteral("mnuFileKept");
 inline const QString kFileSeparator1 = QStringLiteral("mnuFileLine");
 inline const QString kSaveEntry = QStringLiteral("mnuFileSave");
 inline const QString kSaveAsEntry = QStringLiteral("mnuFileSaveAs");
+inline const QString kExportPictureEntry = QStringLiteral("mnuFileExportPicture");
 inline const QString kFileSeparator2 = QStringLiteral("mnuFileLine2");
 inline const QString kExitEntry = QStringLiteral("mnuFileExit");
 inline const QString kEditMenu = QStringLiteral("mnuEdit");

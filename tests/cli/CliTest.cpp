@@ -76,6 +76,8 @@ TEST(Cli, CommandsWriteTheirResultsAndEndWithTheirStatus) {
         {{"effects", "--name", "K", "--effect", "Bounce", "--param1", "5.9", "--effect", "Wave 2"}, "y\n", 0,
          ProjectFile({"K"}), "Are you sure you want to repeat the BOUNCE EFFECT 5.9 times? Answered no"},
         {{"import", "--help"}, "", 0, "usage: flickerscribe-cli import [--output FILE] INPUT\n...", ""},
+        {{"picture", "-"}, kFsq, 0, "GIF89a...", ""},
+        {{"picture", "--output", "never.gif", "stdin"}, "#v050#\r\n", 1, "", "there is no animation to draw in stdin"},
         {{"generate", "missing.fsq"}, "", 1, "", "flickerscribe-cli: cannot read missing.fsq"},
         {{"generate", "--output", "nowhere/out.cfg", "stdin"}, "", 1, "", "cannot write nowhere/out.cfg"},
         {{"effects", "--output", "."}, "", 1, "", "cannot write ."},
@@ -110,6 +112,7 @@ TEST(Cli, CommandsWriteTheirResultsAndEndWithTheirStatus) {
     EXPECT_EQ(ReadBytes(dir.File("-dash.cfg")), Script(""));
     EXPECT_EQ(ReadBytes(dir.File("out.fsq")), kFsq);
     EXPECT_FALSE(std::filesystem::exists(dir.File("never.fsq")));
+    EXPECT_FALSE(std::filesystem::exists(dir.File("never.gif")));
 }
 
 // As `generate <(command)` hands it over: a pipe whose data comes later.

@@ -21,7 +21,7 @@ if [ -z "${FS_UNDER_XVFB:-}" ]; then
     command -v "$tool" >/dev/null || { echo "missing $tool (scripts/setup.sh installs it)"; exit 1; }
   done
   # -a picks a free display number, so parallel runs don't meet.
-  FS_UNDER_XVFB=1 exec timeout 90 xvfb-run -a -s "-screen 0 1024x768x24" "$0" "$@"
+  FS_UNDER_XVFB=1 exec timeout 170 xvfb-run -a -s "-screen 0 1024x768x24" "$0" "$@"
 fi
 
 work="$(mktemp -d)"
@@ -89,10 +89,15 @@ echo "closed; the program ended with status 0"
 for signal in TERM HUP; do
   "$program" -platform xcb >"$work/program.log" 2>&1 &
   pid=$!
+  shown=""
   for _ in $(seq 300); do
-    xwininfo -root -tree 2>/dev/null | grep -qF "\"$title\"" && break
+    kill -0 "$pid" 2>/dev/null || break
+    xwininfo -root -tree 2>/dev/null | grep -qF "\"$title\"" && { shown=1; break; }
     sleep 0.1
   done
+  if [ -z "$shown" ]; then
+    echo "for SIG$signal: no window within 30 s, or the program ended first:"; cat "$work/program.log"; exit 1
+  fi
   kill -s "$signal" "$pid"
   for _ in $(seq 300); do kill -0 "$pid" 2>/dev/null || break; sleep 0.1; done
   status=0

@@ -156,6 +156,9 @@ TEST_F(EndToEnd, OneSessionGivesEveryCommand) {
     EXPECT_TRUE(ReadBytes(PathOf(u"session.cfg"_s))
                     .ends_with("set name \"^1Old\"\r\nwait 10\r\nset name \"^2Name\"\r\nwait 15\r\n"));
 
+    dialogs.QueueSave(PathOf(u"session.gif"_s));
+    Give(u"mnuFileExportPicture"_s);
+
     // The other windows, each opened and closed; and Exit, last.
     for (const QString& name :
          {u"mnuHelpColor"_s, u"mnuEditSimple"_s, u"mnuEditOptions"_s, u"mnuHelpHelp"_s, u"mnuHelpAbout"_s})

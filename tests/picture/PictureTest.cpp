@@ -1,0 +1,125 @@
+// The animated picture as a reader sees it: Qt's GIF reader for the frames as
+// shown, their delays and the loop.
+#include <gmock/gmock.h>
+
+#include <QBuffer>
+#include <QImageReader>
+#include <map>
+
+#include "picture/AnimatedPicture.h"
+#include "picture/FramePainter.h"
+
+namespace flickerscribe::picture {
+namespace {
+
+struct Decoded {
+    std::vector<QImage> frames;  // as shown, each over the ones before
+    std::vector<int> delays;     // in ms
+    int loops = 0;               // -1: for ever
+};
+
+Decoded Draw(const std::vector<std::string>& texts) {
+    QByteArray bytes = QByteArray::fromStdString(DrawAnimatedPicture(texts).value());
+    QBuffer buffer(&bytes);
+    QImageReader reader(&buffer, "gif");
+    Decoded decoded;
+    for (QImage frame; reader.read(&frame);) {
+        decoded.frames.push_back(frame.convertToFormat(QImage::Format_RGB32));
+        decoded.delays.push_back(reader.nextImageDelay());
+    }
+    decoded.loops = reader.loopCount();
+    return decoded;
+}
+
+// Frames that look the same make one frame that stays as long as they did
+// together; the picture loops for ever, every frame of one size.
+TEST(Picture, FramesStayTheirTimeAndThePictureLoops) {
+    const struct {
+        std::vector<std::string> texts;
+        std::vector<int> delays;
+    } cases[] = {
+        {{"a"}, {100}},
+        {{"^1Fl^7ick", "^1Fl^7ick", "^1Fl^7ick", "x"}, {300, 100}},
+        {{"a", "b", "a"}, {100, 100, 100}},
+        {{"^1a", "^9a", "^1a", "^3a"}, {300, 100}},  // other codes, one picture
+        {{"", "", "wide text", "^1"}, {200, 100, 100}},
+        {{"one\ntwo", "one two"}, {200}},                        // a line break shows as a blank
+        {std::vector<std::string>(7000, "a"), {655300, 44700}},  // longer than a GIF's 16-bit delay
+    };
+    for (const auto& c : cases) {
+        const Decoded d = Draw(c.texts);
+        EXPECT_EQ(d.delays, c.delays) << c.texts.front();
+        EXPECT_EQ(d.loops, -1);
+        for (const QImage& frame : d.frames) EXPECT_EQ(frame.size(), d.frames.front().size());
+    }
+    // Wider than a GIF can be: cut off at its largest width.
+    EXPECT_EQ(Draw({std::string(6000, 'a')}).frames.at(0).width(), 65535);
+}
+
+// Each frame shows its own line, whatever the frame before it left: drawn
+// alone, first of the same animation, it has the same pixels.
+TEST(Picture, EveryFrameShowsItsLine) {
+    const std::vector<std::string> animations[] = {
+        {"Q", "Qu", "Qui", "Quil"},       // typing
+        {"abcdef", "abc", "", "abcdef"},  // shrinking and growing
+        {"^1abc", "^2abc", "^1abc"},      // colours alone
+    };
+    for (const auto& texts : animations) {
+        const Decoded all = Draw(texts);
+        ASSERT_EQ(all.frames.size(), texts.size());
+        for (std::size_t k = 0; k < texts.size(); ++k) {
+            std::vector<std::string> first = texts;
+            first.insert(first.begin(), texts[k]);
+            EXPECT_EQ(all.frames[k], Draw(first).frames.front()) << texts[k];
+        }
+    }
+}
+
+// Each glyph has its character's colour, all else (the margin too) is the
+// pane's grey. In the fixed-pitch face character i fills the i-th equal part
+// behind the margin.
+TEST(Picture, GlyphsTakeTheirCharactersColours) {
+    const std::map<char, QRgb> kColours = {{'R', qRgb(255, 0, 0)},     {'G', qRgb(0, 255, 0)},
+                                           {'Y', qRgb(255, 255, 0)},   {'B', qRgb(0, 0, 255)},
+                                           {'C', qRgb(0, 255, 255)},   {'M', qRgb(255, 0, 255)},
+                                           {'W', qRgb(255, 255, 255)}, {'K', qRgb(0, 0, 0)}};
+    const struct {
+        std::string text, colours;
+    } cases[] = {
+        {"^1Fl^7ick", "RRWWW"},
+        {"^2a^3b^4c^5d^6e^8f", "GYBCMK"},
+        {"Quillon ^4[QZT]", "WWWWWWW BBBBB"},
+        {"^9x^0y", "RW"},
+    };
+    for (const auto& c : cases) {
+        const QImage frame = Draw({c.text}).frames.at(0);
+        const double advance = double(frame.width() - 2 * kFrameMargin) / double(c.colours.size());
+        std::vector<int> inked(c.colours.size());
+        for (int y = 0; y < frame.height(); ++y) {
+            for (int x = 0; x < frame.width(); ++x) {
+                const QRgb pixel = frame.pixel(x, y);
+                if (pixel == qRgb(128, 128, 128)) continue;  // the pane's grey
+                ASSERT_TRUE(x >= kFrameMargin && y >= kFrameMargin && y < frame.height() - kFrameMargin)
+                    << c.text << " inks the margin at " << x << "," << y;
+                const auto cell = std::size_t(std::max(0.0, (x - kFrameMargin) / advance));
+                ASSERT_LT(cell, c.colours.size()) << c.text << " at " << x << "," << y;
+                ASSERT_EQ(pixel, kColours.at(c.colours[cell]))
+                    << c.text << " at " << x << "," << y << " in character " << cell;
+                ++inked[cell];
+            }
+        }
+        for (std::size_t i = 0; i < c.colours.size(); ++i)
+            EXPECT_EQ(inked[i] > 0, c.colours[i] != ' ') << c.text << " character " << i;
+    }
+}
+
+// Small files: typing a name into a wide picture, each later frame holds
+// little more than its new letter.
+TEST(Picture, LaterFramesHoldOnlyWhatChanged) {
+    const std::string wide(60, ' ');
+    const std::size_t typing = DrawAnimatedPicture({"Q", "Qu", "Qui", "Quil", "Quill", wide})->size();
+    EXPECT_LT(typing, DrawAnimatedPicture({"Q", wide})->size() + 4 * 75);
+}
+
+}  // namespace
+}  // namespace flickerscribe::picture
