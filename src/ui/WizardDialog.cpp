@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPalette>
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QTreeWidget>
@@ -45,6 +46,11 @@ WizardDialog::WizardDialog(AnimationHistory& history, Dialogs& dialogs, const se
     MakeFixedDialog(*this, names::kWindow, tr("Animation Script Wizard"), 7440, 5385);
     // A white header over each page, the picture down the side of the first.
     setWizardStyle(QWizard::ModernStyle);
+    // The etched lines under the header and over the buttons: a dark grey one
+    // over a white one.
+    QPalette lines = palette();
+    lines.setColor(QPalette::Mid, QColor(128, 128, 128));
+    setPalette(lines);
     // The main window stays usable while the wizard is open.
     setModal(false);
     addWelcomePage();
