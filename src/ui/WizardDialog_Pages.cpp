@@ -98,7 +98,8 @@ void WizardDialog::addWelcomePage() {
 }
 
 void WizardDialog::addStylePage() {
-    QWizardPage* page = BandPage(2, tr("Select wizard type"), tr("Select the wizard style (simple/advanced)"));
+    QWizardPage* page =
+        BandPage(2, tr("Select wizard type"), tr("Select the wizard style (simple/advanced)"));
     QGroupBox* frame = AddFrame(page, names::kStyleFrame, tr("Animation wizard style"));
     styleOptions_[0] = Named(new QRadioButton(tr("Simple")), names::kSimpleStyleOption);
     styleOptions_[1] = Named(new QRadioButton(tr("Advanced")), names::kAdvancedStyleOption);
@@ -190,7 +191,8 @@ void WizardDialog::addEffectsPage() {
             [this](const QString& text) { storeParameter(1, text); });
     connect(parameter2Box_, &QLineEdit::textChanged, this,
             [this](const QString& text) { storeParameter(2, text); });
-    for (const auto& [label, box] : {std::pair{parameter1Label_, parameter1Box_}, std::pair{parameter2Label_, parameter2Box_}}) {
+    for (const auto& [label, box] :
+         {std::pair{parameter1Label_, parameter1Box_}, std::pair{parameter2Label_, parameter2Box_}}) {
         label->setBuddy(box);
         box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         KeepOnOneLine(box);

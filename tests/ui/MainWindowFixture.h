@@ -155,7 +155,8 @@ public:
     WizardDialog& Wizard() { return static_cast<WizardDialog&>(*dialog); }
     // Pages on by the Next button.
     void ToWizardPage(int page) {
-        while (Wizard().currentId() < page) QTest::mouseClick(Child<QPushButton>(u"cmdNext"_s), Qt::LeftButton);
+        while (Wizard().currentId() < page)
+            QTest::mouseClick(Child<QPushButton>(u"cmdNext"_s), Qt::LeftButton);
     }
 
     std::unique_ptr<QDialog> dialog;
