@@ -73,12 +73,12 @@ void WizardDialog::setUpButtons() {
     // Next and Finish stand in the same place, one at a time; the one on show
     // carries the name of that place.
     const auto nameNextOrFinish = [this](int page) {
-        const bool last = page == kEffectsPage;
+        const bool last = page == EffectsPage;
         button(NextButton)->setObjectName(last ? QString() : names::kNextButton);
         button(FinishButton)->setObjectName(last ? names::kNextButton : QString());
     };
     connect(this, &QWizard::currentIdChanged, this, nameNextOrFinish);
-    nameNextOrFinish(kWelcomePage);
+    nameNextOrFinish(WelcomePage);
 }
 
 void WizardDialog::loadDefaults(const settings::Settings& settings) {

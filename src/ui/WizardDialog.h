@@ -54,7 +54,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    enum PageId { kWelcomePage = 1, kStylePage, kNamePage, kEffectsPage };
+    enum Page { WelcomePage = 1, StylePage, NamePage, EffectsPage };
 
     void addWelcomePage();
     void addStylePage();

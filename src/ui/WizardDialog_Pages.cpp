@@ -94,12 +94,12 @@ void WizardDialog::addWelcomePage() {
     layout->addWidget(heading);
     layout->addWidget(text);
     layout->addStretch();
-    setPage(kWelcomePage, page);
+    setPage(WelcomePage, page);
 }
 
 void WizardDialog::addStylePage() {
     QWizardPage* page =
-        BandPage(2, tr("Select wizard type"), tr("Select the wizard style (simple/advanced)"));
+        BandPage(StylePage, tr("Select wizard type"), tr("Select the wizard style (simple/advanced)"));
     QGroupBox* frame = AddFrame(page, names::kStyleFrame, tr("Animation wizard style"));
     styleOptions_[0] = Named(new QRadioButton(tr("Simple")), names::kSimpleStyleOption);
     styleOptions_[1] = Named(new QRadioButton(tr("Advanced")), names::kAdvancedStyleOption);
@@ -111,11 +111,12 @@ void WizardDialog::addStylePage() {
     rows->addWidget(styleOptions_[1]);
     // The frame keeps its height; the page below it stays empty.
     static_cast<QVBoxLayout*>(page->layout())->addStretch();
-    setPage(kStylePage, page);
+    setPage(StylePage, page);
 }
 
 void WizardDialog::addNamePage() {
-    QWizardPage* page = BandPage(3, tr("Type: Simple - Set name"), tr("Fill in your Clantag and name"));
+    QWizardPage* page =
+        BandPage(NamePage, tr("Type: Simple - Set name"), tr("Fill in your Clantag and name"));
     QGroupBox* frame = AddFrame(page, names::kNameFrame, tr("Your name"));
 
     nameOptions_[0] = Named(new QRadioButton(tr("Name Only")), names::kNameOnlyOption);
@@ -149,11 +150,12 @@ void WizardDialog::addNamePage() {
         // The effect engine decides what it can take.
         KeepOnOneLine(box);
     }
-    setPage(kNamePage, page);
+    setPage(NamePage, page);
 }
 
 void WizardDialog::addEffectsPage() {
-    QWizardPage* page = BandPage(4, tr("Type: Simple - Select effects"), tr("Select the animation effects"));
+    QWizardPage* page =
+        BandPage(EffectsPage, tr("Type: Simple - Select effects"), tr("Select the animation effects"));
     page->setFinalPage(true);
     QGroupBox* frame = AddFrame(page, names::kEffectsFrame, tr("Effects"));
 
@@ -226,7 +228,7 @@ void WizardDialog::addEffectsPage() {
     grid->addWidget(effectList_, 1, 0);
     grid->addLayout(parameters, 1, 1);
     rows->addLayout(grid);
-    setPage(kEffectsPage, page);
+    setPage(EffectsPage, page);
 }
 
 }  // namespace flickerscribe::ui
