@@ -76,6 +76,9 @@ TEST_F(WizardTest, OpensWithTheSettingsAndPagesByNextAndBack) {
         EXPECT_TRUE(Child(u"cmdNext"_s)->isVisible());
         EXPECT_EQ(Child<QPushButton>(u"cmdNext"_s)->text(), page == 4 ? u"Finish"_s : u"Next >"_s);
     }
+    // The welcome page stands on white beside its picture.
+    const QPoint inPage = Child(u"picPage1"_s)->mapTo(dialog.get(), QPoint(3, 3));
+    EXPECT_EQ(dialog->grab().toImage().pixelColor(inPage), QColor(Qt::white));
     EXPECT_TRUE(dialogs.Calls().empty());
 }
 
