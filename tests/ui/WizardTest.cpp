@@ -19,7 +19,9 @@ public:
         Child<QLineEdit>(box)->clear();
         QTest::keyClicks(Child<QLineEdit>(box), text);
     }
+    // Pages on to the effects and adds one.
     void AddEffect(const QString& effect) {
+        ToWizardPage(4);
         auto* choice = Child<QComboBox>(u"cmbEffects"_s);
         choice->setCurrentIndex(choice->findText(effect));
         Click(u"cmdAddEffect"_s);
@@ -35,11 +37,9 @@ public:
         for (const QTreeWidgetItem* row :
              Child<QTreeWidget>(u"lvwEffects"_s)->findItems({}, Qt::MatchContains))
             rows << row->text(0) + u',' + row->text(1) + u',' + row->text(2);
-        const auto shown = [this](int n) {
-            return Child<QLabel>(u"lblParam%1"_s.arg(n))->text() + u'=' +
-                   Child<QLineEdit>(u"txtParam%1"_s.arg(n))->text();
-        };
-        return rows.join(u';') + u" | "_s + shown(1) + u' ' + shown(2);
+        return rows.join(u';') + u" | "_s + Child<QLabel>(u"lblParam1"_s)->text() + u'=' +
+               Child<QLineEdit>(u"txtParam1"_s)->text() + u' ' + Child<QLabel>(u"lblParam2"_s)->text() +
+               u'=' + Child<QLineEdit>(u"txtParam2"_s)->text();
     }
     std::string Texts() {
         std::string texts;
@@ -125,7 +125,6 @@ TEST_F(WizardTest, FinishTakesTheBoxesOfTheSelectedOption) {
         Type(u"txtNameOnly_1"_s, u"Xy"_s);
         Child(c.focus == std::string("txtNameOnly_0") ? u"txtNameOnly_1"_s : u"txtNameOnly_0"_s)->setFocus();
         Child(QString::fromLatin1(c.focus))->setFocus();
-        ToWizardPage(4);
         AddEffect(u"Wave 2"_s);
         Click(u"cmdNext"_s);
         EXPECT_EQ(Texts(), c.texts) << c.focus;
@@ -181,7 +180,6 @@ TEST_F(WizardTest, QuestionsAndLimitsOfARun) {
         Trigger(u"btnnew"_s);
         Start({"kept/15"});
         OpenWith(QString(nameLength, u'K'), u"[T]"_s, false);
-        ToWizardPage(4);
         AddEffect(u"Bounce"_s);
         ClickRow(0);
         Type(u"txtParam1"_s, QString::fromLatin1(repeat));
@@ -202,18 +200,15 @@ TEST_F(WizardTest, LeavingWithoutFinish) {
         {"cmdCancel", MsgAnswer::Yes, false}, {"Escape", MsgAnswer::No, true}, {"close box", {}, false}};
     Start({"mine/20"});
     for (const auto& [way, answer, stays] : cases) {
-        const std::string how = way;
+        const QString how = QString::fromLatin1(way);
         OpenWith({}, {}, false);
-        ToWizardPage(4);
         AddEffect(u"Wave 2"_s);
         const auto asked = dialogs.Calls().size();
-        if (how == "close box")
-            dialog->close();
-        else
-            dialogs.QueueMessageAnswer(answer);
-        if (how == "cmdCancel") Click(u"cmdCancel"_s);
-        if (how == "Escape") QTest::keyClick(dialog.get(), Qt::Key_Escape);
-        EXPECT_EQ(dialogs.Calls().size() - asked, how == "close box" ? 0u : 1u) << way;
+        if (how != u"close box"_s) dialogs.QueueMessageAnswer(answer);
+        if (how == u"cmdCancel"_s) Click(how);
+        if (how == u"Escape"_s) QTest::keyClick(dialog.get(), Qt::Key_Escape);
+        if (how == u"close box"_s) dialog->close();
+        EXPECT_EQ(dialogs.Calls().size() - asked, how == u"close box"_s ? 0u : 1u) << way;
         EXPECT_EQ(dialog->isVisible(), stays) << way;
         EXPECT_EQ(Lines(), TextTimes{"mine/20"});
     }
