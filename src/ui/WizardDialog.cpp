@@ -1,13 +1,14 @@
 #include "ui/WizardDialog.h"
 
+#include <QAbstractButton>
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QFocusEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
+#include <QPalette>
 #include <QRadioButton>
+#include <QSignalBlocker>
 #include <QTreeWidget>
 
 #include "document/AnimationScript.h"
@@ -27,114 +28,81 @@ namespace flickerscribe::ui {
 namespace names = wizard_names;
 namespace {
 
-// Columns of the effect list.
-constexpr int kNameColumn = 0;
+// The effect list's rows carry their effect in the first column.
+constexpr int kEffectRole = Qt::UserRole;
+
+// The name by which the effect engine knows an effect.
+std::string EngineName(WizardDialog::Effect effect) {
+    return effect == WizardDialog::Effect::Bounce ? "Bounce" : "Wave 2";
+}
 
 }  // namespace
 
 WizardDialog::WizardDialog(AnimationHistory& history, Dialogs& dialogs, const settings::Settings& settings,
                            QWidget* parent)
-    : QDialog(parent), history_(history), dialogs_(dialogs) {
-    MakeFixedDialog(*this, names::kWindow, u"Animation Script Wizard"_s, kClientWidth, kClientHeight);
+    : QWizard(parent), history_(history), dialogs_(dialogs) {
+    // The window is 7530 x 5790 twips from edge to edge; a fixed single border
+    // of 45 twips on each side and a caption bar of 315 leave this client area.
+    MakeFixedDialog(*this, names::kWindow, tr("Animation Script Wizard"), 7440, 5385);
+    // A white header over each page, the picture down the side of the first.
+    setWizardStyle(QWizard::ModernStyle);
+    // The etched lines under the header and over the buttons: a dark grey one
+    // over a white one.
+    QPalette lines = palette();
+    lines.setColor(QPalette::Mid, QColor(128, 128, 128));
+    setPalette(lines);
     // The main window stays usable while the wizard is open.
     setModal(false);
-    BuildPage1();
-    BuildPage2();
-    BuildPage3();
-    BuildPage4();
-    BuildFrame();
-    LoadDefaults(settings);
+    addWelcomePage();
+    addStylePage();
+    addNamePage();
+    addEffectsPage();
+    setUpButtons();
+    loadDefaults(settings);
 }
 
 WizardDialog::~WizardDialog() = default;
 
-void WizardDialog::LoadDefaults(const settings::Settings& settings) {
-    effectChoice_->clear();
-    effectChoice_->addItem(u"Wave 2"_s);
-    effectChoice_->addItem(u"Bounce"_s);
-    effectChoice_->setCurrentIndex(-1);
+void WizardDialog::setUpButtons() {
+    setButtonText(BackButton, tr("< Back"));
+    setButtonText(NextButton, tr("Next >"));
+    setButtonText(FinishButton, tr("Finish"));
+    setButtonText(CancelButton, tr("Cancel"));
+    button(BackButton)->setObjectName(names::kBackButton);
+    button(CancelButton)->setObjectName(names::kCancelButton);
+    // Next and Finish stand in the same place, one at a time; the one on show
+    // carries the name of that place.
+    const auto nameNextOrFinish = [this](int page) {
+        const bool last = page == EffectsPage;
+        button(NextButton)->setObjectName(last ? QString() : names::kNextButton);
+        button(FinishButton)->setObjectName(last ? names::kNextButton : QString());
+    };
+    connect(this, &QWizard::currentIdChanged, this, nameNextOrFinish);
+    nameNextOrFinish(WelcomePage);
+}
 
+void WizardDialog::loadDefaults(const settings::Settings& settings) {
     clanTagBox_->setText(settings.clanTag);
     const int option = clanTagBox_->text().isEmpty() ? 0 : 1;
     nameBoxes_[static_cast<std::size_t>(option)]->setText(settings.name);
     nameOptions_[static_cast<std::size_t>(option)]->setChecked(true);
     tagBehindNameCheck_->setChecked(settings.reverse);
-
-    pageCount_ = kPageCount;
-    currentPage_ = 1;
-    welcomeText_->setText(
-        u"With this wizard, you can create cool animation effects in just a few minutes.\n\n"
-        "Click Next to continue or Cancel to exit."_s);
-    ShowPage();
-}
-
-// Shows the current page and hides its neighbours; paging moves one step at
-// a time, so no other page can be on show.
-void WizardDialog::ShowPage() {
-    const auto page = [this](int number) { return pages_[static_cast<std::size_t>(number - 1)]; };
-    switch (currentPage_) {
-        case 1:
-            backButton_->setEnabled(false);
-            sidePicture_->show();
-            page(1)->show();
-            page(2)->hide();
-            break;
-        case 2:
-            backButton_->setEnabled(true);
-            page(2)->show();
-            sidePicture_->hide();
-            page(1)->hide();
-            page(3)->hide();
-            break;
-        case 3:
-            page(3)->show();
-            page(2)->hide();
-            page(4)->hide();
-            break;
-        case 4:
-            page(4)->show();
-            page(3)->hide();
-            break;
-        default:
-            break;
-    }
-    nextButton_->setText(currentPage_ == pageCount_ ? u"Finish"_s : u"Next >"_s);
-}
-
-void WizardDialog::NextPage() {
-    if (currentPage_ < pageCount_) {
-        ++currentPage_;
-        ShowPage();
-    } else {
-        Finish();
-    }
-}
-
-void WizardDialog::PreviousPage() {
-    if (currentPage_ > 1) {
-        --currentPage_;
-        ShowPage();
-    }
-}
-
-void WizardDialog::AskToLeave() {
-    if (dialogs_.Message(this, u"Are you sure you want to exit the wizard?"_s, u"Exit wizard?"_s,
-                         MsgIcon::Question, MsgButtons::YesNo) == MsgAnswer::Yes) {
-        close();
-    }
 }
 
 void WizardDialog::reject() {
-    AskToLeave();
+    if (dialogs_.Message(this, tr("Are you sure you want to exit the wizard?"), tr("Exit wizard?"),
+                         MsgIcon::Question, MsgButtons::YesNo) == MsgAnswer::Yes) {
+        QWizard::reject();
+    }
 }
 
 void WizardDialog::closeEvent(QCloseEvent* event) {
-    // Leaving by the close box asks nothing. QDialog's own handling would
-    // route it through reject(), which asks.
+    // QDialog's own handling would route the close box through reject(),
+    // which asks.
     event->accept();
 }
 
-void WizardDialog::Finish() {
+void WizardDialog::accept() {
     // The boxes of the selected option count; the other option's text is ignored.
     const bool nameOnly = nameOptions_[0]->isChecked();
     const std::string name = FromQString(nameBoxes_[nameOnly ? 0 : 1]->text());
@@ -145,75 +113,73 @@ void WizardDialog::Finish() {
         return dialogs_.Message(this, ToQString(text), ToQString(title), MsgIcon::Question,
                                 MsgButtons::YesNo) == MsgAnswer::Yes;
     };
-    const EffectRunResult result = history_.ReplaceLines(u"Wizard"_s, [&](AnimationScript& script) {
-        return RunEffectList(script, name, clanTag, reverse, EffectRows(), ask);
+    const EffectRunResult result = history_.ReplaceLines(tr("Wizard"), [&](AnimationScript& script) {
+        return RunEffectList(script, name, clanTag, reverse, effectRows(), ask);
     });
     if (result.inputRefused) {
         dialogs_.Message(
             this,
-            u"A name or a clan tag can hold at most %1 characters. The animation was left as it was."_s.arg(
-                kMaxEffectTextLength),
-            u"Animation Script Wizard"_s, MsgIcon::Exclamation, MsgButtons::Ok);
+            tr("A name or a clan tag can hold at most %1 characters. The animation was left as it was.")
+                .arg(kMaxEffectTextLength),
+            tr("Animation Script Wizard"), MsgIcon::Exclamation, MsgButtons::Ok);
     } else if (result.lineLimitReached) {
         ShowLineLimitMessage(dialogs_, this);
     }
-    close();
+    QWizard::accept();
 }
 
-void WizardDialog::AddEffect() {
+void WizardDialog::addEffect() {
     const int chosen = effectChoice_->currentIndex();
     if (chosen < 0) return;
     auto* row = new QTreeWidgetItem({effectChoice_->itemText(chosen), u"0"_s, u"0"_s});
+    row->setData(0, kEffectRole, effectChoice_->itemData(chosen));
     const bool first = effectList_->topLevelItemCount() == 0;
     effectList_->addTopLevelItem(row);
     if (first) {
         // The first row of an empty list becomes the selected one, but only a
         // click loads its parameters.
-        adding_ = true;
+        const QSignalBlocker quiet(effectList_);
         effectList_->setCurrentItem(row);
-        adding_ = false;
     }
 }
 
-void WizardDialog::ShowEffectPreview() {
-    dialogs_.Message(this, u"Preview not available yet!"_s, u"Effect - Preview"_s, MsgIcon::Information,
+void WizardDialog::showEffectPreview() {
+    dialogs_.Message(this, tr("Preview not available yet!"), tr("Effect - Preview"), MsgIcon::Information,
                      MsgButtons::Ok);
 }
 
-void WizardDialog::ShowColourNameEditor() {
+void WizardDialog::showColourNameEditor() {
     ColourNameEditor editor(dialogs_, this);
     editor.exec();
 }
 
-void WizardDialog::LoadEffectRow(int row) {
-    QTreeWidgetItem* item = effectList_->topLevelItem(row);
-    if (item == nullptr) return;
-    if (effectList_->currentItem() != item) effectList_->setCurrentItem(item);
-    parameter1Box_->setText(item->text(1));
-    parameter2Box_->setText(item->text(2));
-
+void WizardDialog::loadEffectRow(QTreeWidgetItem* row) {
+    if (row == nullptr) return;
+    parameter1Box_->setText(row->text(1));
+    parameter2Box_->setText(row->text(2));
     // Bounce repeats; Wave 2 takes no options.
-    const bool bounce = item->text(kNameColumn) == u"Bounce"_s;
-    parameter1Label_->setText(bounce ? u"Repeat"_s : u"No options"_s);
-    parameter2Label_->setText(u"No options"_s);
+    const bool bounce = row->data(0, kEffectRole).value<Effect>() == Effect::Bounce;
+    parameter1Label_->setText(bounce ? tr("Repeat") : tr("No options"));
+    parameter2Label_->setText(tr("No options"));
 }
 
-void WizardDialog::StoreParameter(int column, const QString& text) {
+void WizardDialog::storeParameter(int column, const QString& text) {
     // With no row selected the text just stays in the box.
-    if (QTreeWidgetItem* row = SelectedRow()) row->setText(column, text);
+    if (QTreeWidgetItem* row = selectedRow()) row->setText(column, text);
 }
 
-QTreeWidgetItem* WizardDialog::SelectedRow() const {
+QTreeWidgetItem* WizardDialog::selectedRow() const {
     QTreeWidgetItem* row = effectList_->currentItem();
     return row != nullptr && row->isSelected() ? row : nullptr;
 }
 
-std::vector<EffectRow> WizardDialog::EffectRows() const {
+std::vector<EffectRow> WizardDialog::effectRows() const {
     std::vector<EffectRow> rows;
     rows.reserve(static_cast<std::size_t>(effectList_->topLevelItemCount()));
     for (int i = 0; i < effectList_->topLevelItemCount(); ++i) {
         const QTreeWidgetItem* item = effectList_->topLevelItem(i);
-        rows.push_back({FromQString(item->text(0)), FromQString(item->text(1)), FromQString(item->text(2))});
+        rows.push_back({EngineName(item->data(0, kEffectRole).value<Effect>()), FromQString(item->text(1)),
+                        FromQString(item->text(2))});
     }
     return rows;
 }
@@ -226,7 +192,7 @@ bool WizardDialog::eventFilter(QObject* watched, QEvent* event) {
             nameOptions_[1]->setChecked(true);
         }
     }
-    return QDialog::eventFilter(watched, event);
+    return QWizard::eventFilter(watched, event);
 }
 
 }  // namespace flickerscribe::ui

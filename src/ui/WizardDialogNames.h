@@ -5,7 +5,9 @@
 // The object names of the wizard's controls, all in one place: the stable
 // identities by which tests and the accessibility tree find them. They keep
 // their values whatever the code calls the things they name. "%1" stands for
-// a page number.
+// a page number. The heading, line and picture of a page's band and the
+// picture beside the welcome page are QWizard's own header and watermark,
+// which have no names of ours.
 namespace flickerscribe::ui::wizard_names {
 
 inline const QString kWindow = QStringLiteral("frmWizard");
@@ -13,16 +15,10 @@ inline const QString kBackButton = QStringLiteral("cmdBack");
 inline const QString kNextButton = QStringLiteral("cmdNext");
 inline const QString kCancelButton = QStringLiteral("cmdCancel");
 
-inline const QString kSidePicture = QStringLiteral("imgPage1");
 inline const QString kWelcomePage = QStringLiteral("picPage1");
 inline const QString kWelcomeHeading = QStringLiteral("lblWelcome");
 inline const QString kWelcomeText = QStringLiteral("lblText");
 inline const QString kPage = QStringLiteral("picPage%1");
-inline const QString kBand = QStringLiteral("picBand%1");
-inline const QString kStyleHeading = QStringLiteral("lblPage1");
-inline const QString kHeading = QStringLiteral("lblHeading%1");
-inline const QString kBandLine = QStringLiteral("lblLine%1");
-inline const QString kBandPicture = QStringLiteral("imgBand%1");
 
 inline const QString kStyleFrame = QStringLiteral("fraWizStyle");
 inline const QString kSimpleStyleOption = QStringLiteral("optWizStyle_0");

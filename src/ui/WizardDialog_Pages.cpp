@@ -1,18 +1,19 @@
-// The controls of the wizard's frame and of its four pages. Places are in
-// twips, left, top, width and height, relative to the parent control.
+// The wizard's four pages and their controls, laid out by Qt's layouts.
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGridLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPalette>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTreeWidget>
+#include <QVBoxLayout>
+#include <QWizardPage>
 
 #include "ui/SingleLine.h"
-#include "ui/Twips.h"
 #include "ui/WizardArt.h"
 #include "ui/WizardDialog.h"
 #include "ui/WizardDialogNames.h"
@@ -24,199 +25,210 @@ namespace flickerscribe::ui {
 namespace names = wizard_names;
 namespace {
 
-// Pages fill the window above the separator and the button row.
-constexpr int kPageHeight = 4695;
-// The white band at the top of pages 2 to 4.
-constexpr int kBandHeight = 885;
-
 template <typename Control>
-Control* Place(Control* control, const QString& name, int left, int top, int width, int height) {
+Control* Named(Control* control, const QString& name) {
     control->setObjectName(name);
-    control->setGeometry(TwipsRect(left, top, width, height));
     return control;
 }
 
-void Fill(QWidget* widget, const QColor& colour) {
-    widget->setAutoFillBackground(true);
-    QPalette palette = widget->palette();
-    palette.setColor(QPalette::Window, colour);
-    widget->setPalette(palette);
+// A page under the header band: its heading, its line of text and its picture
+// stand in the wizard's header.
+QWizardPage* BandPage(int page, const QString& heading, const QString& line) {
+    auto* container = Named(new QWizardPage, names::kPage.arg(page));
+    container->setTitle(heading);
+    container->setSubTitle(line);
+    container->setPixmap(QWizard::LogoPixmap, WizardBandPicture(page));
+    return container;
 }
 
-// The etched line: a dark pixel row over a white one, across the parent.
-void AddSeparator(QWidget* parent, int top) {
-    for (int stroke = 0; stroke < 2; ++stroke) {
-        auto* line = new QWidget(parent);
-        line->setGeometry(0, Twips(top) + stroke, Twips(WizardDialog::kClientWidth), 1);
-        Fill(line, stroke == 0 ? QColor(128, 128, 128) : QColor(Qt::white));
+// The one frame that fills a band page, with the page's margins around it.
+QGroupBox* AddFrame(QWizardPage* page, const QString& name, const QString& caption) {
+    auto* frame = Named(new QGroupBox(caption), name);
+    auto* layout = new QVBoxLayout(page);
+    layout->setContentsMargins(3, 6, 3, 8);
+    layout->addWidget(frame);
+    return frame;
+}
+
+// The column of rows inside a frame, clear of its edges and its caption.
+QVBoxLayout* FrameRows(QGroupBox* frame, int top, int bottom) {
+    auto* rows = new QVBoxLayout(frame);
+    rows->setContentsMargins(13, top, 13, bottom);
+    rows->setSpacing(0);
+    return rows;
+}
+
+// A row of boxes indented under an option: each box takes its parts of the
+// row's width, and `rest` parts stay empty behind them.
+QHBoxLayout* IndentedRow(std::initializer_list<std::pair<QWidget*, int>> boxes, int rest) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(4);
+    row->addSpacing(20);
+    for (const auto& [box, parts] : boxes) {
+        box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        row->addWidget(box, parts);
     }
-}
-
-QPushButton* AddButton(QWidget* parent, const QString& name, const QString& caption, int left, int top,
-                       int width, int height) {
-    auto* button = Place(new QPushButton(caption, parent), name, left, top, width, height);
-    button->setAutoDefault(false);
-    return button;
-}
-
-QLabel* AddLabel(QWidget* parent, const QString& name, const QString& caption, int left, int top, int width,
-                 int height) {
-    return Place(new QLabel(caption, parent), name, left, top, width, height);
-}
-
-QFont PointFont(const QWidget* widget, qreal points, bool bold) {
-    QFont font = widget->font();
-    font.setPointSizeF(points);
-    font.setBold(bold);
-    return font;
+    row->addStretch(rest);
+    return row;
 }
 
 }  // namespace
 
-void WizardDialog::BuildFrame() {
-    AddSeparator(this, kPageHeight);
-    backButton_ = AddButton(this, names::kBackButton, u"< Back"_s, 3750, 4890, 1125, 345);
-    connect(backButton_, &QPushButton::clicked, this, &WizardDialog::PreviousPage);
-    nextButton_ = AddButton(this, names::kNextButton, u"Next >"_s, 4875, 4890, 1125, 345);
-    nextButton_->setDefault(true);
-    connect(nextButton_, &QPushButton::clicked, this, &WizardDialog::NextPage);
-    cancelButton_ = AddButton(this, names::kCancelButton, u"Cancel"_s, 6135, 4890, 1125, 345);
-    connect(cancelButton_, &QPushButton::clicked, this, &WizardDialog::AskToLeave);
+void WizardDialog::addWelcomePage() {
+    auto* page = Named(new QWizardPage, names::kWelcomePage);
+    page->setPixmap(QWizard::WatermarkPixmap, WizardSidePicture());
+
+    auto* heading = Named(new QLabel(tr("Welcome to the Animation Script Wizard")), names::kWelcomeHeading);
+    QFont large = heading->font();
+    large.setPointSizeF(13.5);
+    heading->setFont(large);
+    heading->setWordWrap(true);
+    auto* text = Named(new QLabel(tr("With this wizard, you can create cool animation effects in just a few "
+                                     "minutes.\n\nClick Next to continue or Cancel to exit.")),
+                       names::kWelcomeText);
+    text->setWordWrap(true);
+
+    auto* layout = new QVBoxLayout(page);
+    layout->setContentsMargins(14, 14, 14, 14);
+    layout->setSpacing(30);
+    layout->addWidget(heading);
+    layout->addWidget(text);
+    layout->addStretch();
+    setPage(WelcomePage, page);
 }
 
-void WizardDialog::BuildPage1() {
-    sidePicture_ = Place(new QLabel(this), names::kSidePicture, 0, 0, 2460, kPageHeight);
-    sidePicture_->setPixmap(WizardSidePicture());
-
-    QWidget* page = Place(new QWidget(this), names::kWelcomePage, 2460, 0, kClientWidth - 2460, kPageHeight);
-    Fill(page, Qt::white);
-    pages_[0] = page;
-
-    welcomeHeading_ = AddLabel(page, names::kWelcomeHeading, u"Welcome to the Animation Script Wizard"_s, 240,
-                               240, 4500, 840);
-    welcomeHeading_->setFont(PointFont(this, 13.5, false));
-    welcomeHeading_->setWordWrap(true);
-    welcomeHeading_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-
-    welcomeText_ = AddLabel(page, names::kWelcomeText, QString(), 240, 1320, 4500, 1440);
-    welcomeText_->setWordWrap(true);
-    welcomeText_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-}
-
-QWidget* WizardDialog::AddBandPage(int page, const QString& heading, const QString& line) {
-    QWidget* container = Place(new QWidget(this), names::kPage.arg(page), 0, 0, kClientWidth, kPageHeight);
-    pages_[static_cast<std::size_t>(page - 1)] = container;
-    // Only the welcome page is on show until the user pages on.
-    container->hide();
-
-    QWidget* band = Place(new QWidget(container), names::kBand.arg(page), 0, 0, kClientWidth, kBandHeight);
-    Fill(band, Qt::white);
-    // The heading of page 2 has a name of its own; the others are named by their page.
-    const QString headingName = page == 2 ? names::kStyleHeading : names::kHeading.arg(page);
-    QLabel* title = AddLabel(band, headingName, heading, 240, 150, 5700, 255);
-    title->setFont(PointFont(this, 8.25, true));
-    AddLabel(band, names::kBandLine.arg(page), line, 480, 435, 5700, 255);
-    QLabel* picture = AddLabel(band, names::kBandPicture.arg(page), QString(), 6495, 30, 825, 825);
-    picture->setPixmap(WizardBandPicture(page));
-    AddSeparator(container, kBandHeight);
-    return container;
-}
-
-void WizardDialog::BuildPage2() {
-    QWidget* page = AddBandPage(2, u"Select wizard type"_s, u"Select the wizard style (simple/advanced)"_s);
-    styleFrame_ =
-        Place(new QGroupBox(u"Animation wizard style"_s, page), names::kStyleFrame, 240, 1080, 6960, 1275);
-    styleOptions_[0] =
-        Place(new QRadioButton(u"Simple"_s, styleFrame_), names::kSimpleStyleOption, 240, 360, 3000, 300);
-    styleOptions_[1] =
-        Place(new QRadioButton(u"Advanced"_s, styleFrame_), names::kAdvancedStyleOption, 240, 780, 3000, 300);
+void WizardDialog::addStylePage() {
+    QWizardPage* page =
+        BandPage(StylePage, tr("Select wizard type"), tr("Select the wizard style (simple/advanced)"));
+    QGroupBox* frame = AddFrame(page, names::kStyleFrame, tr("Animation wizard style"));
+    styleOptions_[0] = Named(new QRadioButton(tr("Simple")), names::kSimpleStyleOption);
+    styleOptions_[1] = Named(new QRadioButton(tr("Advanced")), names::kAdvancedStyleOption);
     styleOptions_[0]->setChecked(true);
     styleOptions_[1]->setEnabled(false);
+    QVBoxLayout* rows = FrameRows(frame, 6, 11);
+    rows->addWidget(styleOptions_[0]);
+    rows->addSpacing(9);
+    rows->addWidget(styleOptions_[1]);
+    // The frame keeps its height; the page below it stays empty.
+    static_cast<QVBoxLayout*>(page->layout())->addStretch();
+    setPage(StylePage, page);
 }
 
-void WizardDialog::BuildPage3() {
-    QWidget* page = AddBandPage(3, u"Type: Simple - Set name"_s, u"Fill in your Clantag and name"_s);
-    nameFrame_ = Place(new QGroupBox(u"Your name"_s, page), names::kNameFrame, 240, 1080, 6960, 3450);
+void WizardDialog::addNamePage() {
+    QWizardPage* page =
+        BandPage(NamePage, tr("Type: Simple - Set name"), tr("Fill in your Clantag and name"));
+    QGroupBox* frame = AddFrame(page, names::kNameFrame, tr("Your name"));
 
-    nameOptions_[0] =
-        Place(new QRadioButton(u"Name Only"_s, nameFrame_), names::kNameOnlyOption, 240, 330, 3000, 300);
-    nameBoxes_[0] = Place(new QLineEdit(nameFrame_), names::kNameOnlyBox, 540, 660, 3600, 330);
-
-    nameOptions_[1] = Place(new QRadioButton(u"Clantag and Name"_s, nameFrame_), names::kTagAndNameOption,
-                            240, 1140, 3000, 300);
-    clanTagBox_ = Place(new QLineEdit(nameFrame_), names::kClanTagBox, 540, 1470, 1350, 330);
-    nameBoxes_[1] = Place(new QLineEdit(nameFrame_), names::kTaggedNameBox, 1950, 1470, 3600, 330);
-
+    nameOptions_[0] = Named(new QRadioButton(tr("Name Only")), names::kNameOnlyOption);
+    nameBoxes_[0] = Named(new QLineEdit, names::kNameOnlyBox);
+    nameOptions_[1] = Named(new QRadioButton(tr("Clantag and Name")), names::kTagAndNameOption);
+    clanTagBox_ = Named(new QLineEdit, names::kClanTagBox);
+    nameBoxes_[1] = Named(new QLineEdit, names::kTaggedNameBox);
     tagBehindNameCheck_ =
-        Place(new QCheckBox(u"Reverse clantag-name (e.g. [QZT]Quillon -> Quillon[QZT]   )"_s, nameFrame_),
-              names::kTagBehindNameCheck, 240, 2010, 6480, 300);
+        Named(new QCheckBox(tr("Reverse clantag-name (e.g. [QZT]Quillon -> Quillon[QZT]   )")),
+              names::kTagBehindNameCheck);
+    auto* colourEditorButton = Named(new QPushButton(tr("Color editor")), names::kColourEditorButton);
+    connect(colourEditorButton, &QPushButton::clicked, this, &WizardDialog::showColourNameEditor);
 
-    colourEditorButton_ =
-        AddButton(nameFrame_, names::kColourEditorButton, u"Color editor"_s, 5220, 2850, 1500, 375);
-    connect(colourEditorButton_, &QPushButton::clicked, this, &WizardDialog::ShowColourNameEditor);
+    // The name box of "Name Only" is as wide as the one of "Clantag and
+    // Name", which stands behind the narrower tag box.
+    QVBoxLayout* rows = FrameRows(frame, 4, 12);
+    rows->addWidget(nameOptions_[0]);
+    rows->addSpacing(3);
+    rows->addLayout(IndentedRow({{nameBoxes_[0], 240}}, 172));
+    rows->addSpacing(10);
+    rows->addWidget(nameOptions_[1]);
+    rows->addSpacing(3);
+    rows->addLayout(IndentedRow({{clanTagBox_, 90}, {nameBoxes_[1], 240}}, 78));
+    rows->addSpacing(14);
+    rows->addWidget(tagBehindNameCheck_);
+    rows->addStretch();
+    rows->addWidget(colourEditorButton, 0, Qt::AlignRight);
 
     for (QLineEdit* box : {nameBoxes_[0], clanTagBox_, nameBoxes_[1]}) {
         box->installEventFilter(this);
         // The effect engine decides what it can take.
         KeepOnOneLine(box);
     }
-    setTabOrder(nameOptions_[0], nameBoxes_[0]);
-    setTabOrder(nameBoxes_[0], nameOptions_[1]);
-    setTabOrder(nameOptions_[1], clanTagBox_);
-    setTabOrder(clanTagBox_, nameBoxes_[1]);
-    setTabOrder(nameBoxes_[1], tagBehindNameCheck_);
-    setTabOrder(tagBehindNameCheck_, colourEditorButton_);
+    setPage(NamePage, page);
 }
 
-void WizardDialog::BuildPage4() {
-    QWidget* page = AddBandPage(4, u"Type: Simple - Select effects"_s, u"Select the animation effects"_s);
-    effectsFrame_ = Place(new QGroupBox(u"Effects"_s, page), names::kEffectsFrame, 240, 1080, 6960, 3450);
+void WizardDialog::addEffectsPage() {
+    QWizardPage* page =
+        BandPage(EffectsPage, tr("Type: Simple - Select effects"), tr("Select the animation effects"));
+    page->setFinalPage(true);
+    QGroupBox* frame = AddFrame(page, names::kEffectsFrame, tr("Effects"));
 
-    // The same margins as the name page: 240 twips at the sides, and the first
-    // row clear of the frame's top edge.
-    effectChoice_ = Place(new QComboBox(effectsFrame_), names::kEffectChoice, 240, 435, 2490, 330);
-    effectChoice_->setEditable(false);
-    addEffectButton_ = AddButton(effectsFrame_, names::kAddEffectButton, u"Add"_s, 2820, 420, 1125, 360);
-    connect(addEffectButton_, &QPushButton::clicked, this, &WizardDialog::AddEffect);
-    effectPreviewButton_ =
-        AddButton(effectsFrame_, names::kEffectPreviewButton, u"Preview"_s, 4020, 420, 1125, 360);
-    connect(effectPreviewButton_, &QPushButton::clicked, this, &WizardDialog::ShowEffectPreview);
+    effectChoice_ = Named(new QComboBox, names::kEffectChoice);
+    effectChoice_->addItem(tr("Wave 2"), QVariant::fromValue(Effect::Wave2));
+    effectChoice_->addItem(tr("Bounce"), QVariant::fromValue(Effect::Bounce));
+    effectChoice_->setCurrentIndex(-1);
+    effectChoice_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    auto* addButton = Named(new QPushButton(tr("Add")), names::kAddEffectButton);
+    connect(addButton, &QPushButton::clicked, this, &WizardDialog::addEffect);
+    auto* previewButton = Named(new QPushButton(tr("Preview")), names::kEffectPreviewButton);
+    connect(previewButton, &QPushButton::clicked, this, &WizardDialog::showEffectPreview);
 
-    effectListLabel_ =
-        AddLabel(effectsFrame_, names::kEffectListLabel, u"Effect list"_s, 240, 900, 3000, 240);
-    effectList_ = Place(new QTreeWidget(effectsFrame_), names::kEffectList, 240, 1170, 4440, 2040);
-    effectList_->setColumnCount(3);
-    effectList_->setHeaderLabels({u"Effect name"_s, u"Parameter 1"_s, u"Parameter 2"_s});
+    auto* listLabel = Named(new QLabel(tr("Effect list")), names::kEffectListLabel);
+    effectList_ = Named(new QTreeWidget, names::kEffectList);
+    effectList_->setHeaderLabels({tr("Effect name"), tr("Parameter 1"), tr("Parameter 2")});
     effectList_->setRootIsDecorated(false);
     effectList_->setItemsExpandable(false);
-    effectList_->setSortingEnabled(false);
     effectList_->setSelectionMode(QAbstractItemView::SingleSelection);
     effectList_->setAllColumnsShowFocus(true);
-    effectList_->setColumnWidth(0, Twips(1575));
-    effectList_->setColumnWidth(1, Twips(1275));
+    effectList_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     effectList_->header()->setStretchLastSection(true);
-    connect(effectList_, &QTreeWidget::itemClicked, this,
-            [this](QTreeWidgetItem* item) { LoadEffectRow(effectList_->indexOfTopLevelItem(item)); });
+    effectList_->header()->resizeSection(0, 105);
+    effectList_->header()->resizeSection(1, 85);
+    listLabel->setBuddy(effectList_);
+    connect(effectList_, &QTreeWidget::itemClicked, this, &WizardDialog::loadEffectRow);
     // Moving through the list by keyboard loads the row just as a click does.
-    connect(effectList_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
-        if (item != nullptr && !adding_) LoadEffectRow(effectList_->indexOfTopLevelItem(item));
-    });
+    connect(effectList_, &QTreeWidget::currentItemChanged, this, &WizardDialog::loadEffectRow);
 
-    parameter1Label_ =
-        AddLabel(effectsFrame_, names::kParameter1Label, u"Parameter 1"_s, 4860, 1170, 1860, 240);
-    parameter1Box_ = Place(new QLineEdit(effectsFrame_), names::kParameter1Box, 4860, 1440, 1860, 330);
+    parameter1Label_ = Named(new QLabel(tr("Parameter 1")), names::kParameter1Label);
+    parameter1Box_ = Named(new QLineEdit, names::kParameter1Box);
+    parameter2Label_ = Named(new QLabel(tr("Parameter 2")), names::kParameter2Label);
+    parameter2Box_ = Named(new QLineEdit, names::kParameter2Box);
     connect(parameter1Box_, &QLineEdit::textChanged, this,
-            [this](const QString& text) { StoreParameter(1, text); });
-    parameter2Label_ =
-        AddLabel(effectsFrame_, names::kParameter2Label, u"Parameter 2"_s, 4860, 1950, 1860, 240);
-    parameter2Box_ = Place(new QLineEdit(effectsFrame_), names::kParameter2Box, 4860, 2220, 1860, 330);
+            [this](const QString& text) { storeParameter(1, text); });
     connect(parameter2Box_, &QLineEdit::textChanged, this,
-            [this](const QString& text) { StoreParameter(2, text); });
-    KeepOnOneLine(parameter1Box_);
-    KeepOnOneLine(parameter2Box_);
-    parameter1Label_->setBuddy(parameter1Box_);
-    parameter2Label_->setBuddy(parameter2Box_);
-    effectListLabel_->setBuddy(effectList_);
+            [this](const QString& text) { storeParameter(2, text); });
+    for (const auto& [label, box] :
+         {std::pair{parameter1Label_, parameter1Box_}, std::pair{parameter2Label_, parameter2Box_}}) {
+        label->setBuddy(box);
+        box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        KeepOnOneLine(box);
+    }
+
+    // The drop-down list and its buttons in a row; under it the list, which
+    // takes 296 parts of the width, and the parameters, 124 parts beside it.
+    QVBoxLayout* rows = FrameRows(frame, 11, 13);
+    auto* chooser = new QHBoxLayout;
+    chooser->setSpacing(5);
+    chooser->addWidget(effectChoice_, 166);
+    chooser->addWidget(addButton);
+    chooser->addWidget(previewButton);
+    chooser->addStretch(96);
+    rows->addLayout(chooser);
+    rows->addSpacing(9);
+    auto* parameters = new QVBoxLayout;
+    parameters->setSpacing(5);
+    parameters->addWidget(parameter1Label_);
+    parameters->addWidget(parameter1Box_);
+    parameters->addSpacing(7);
+    parameters->addWidget(parameter2Label_);
+    parameters->addWidget(parameter2Box_);
+    parameters->addStretch();
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(12);
+    grid->setVerticalSpacing(5);
+    grid->setColumnStretch(0, 296);
+    grid->setColumnStretch(1, 124);
+    grid->addWidget(listLabel, 0, 0);
+    grid->addWidget(effectList_, 1, 0);
+    grid->addLayout(parameters, 1, 1);
+    rows->addLayout(grid);
+    setPage(EffectsPage, page);
 }
 
 }  // namespace flickerscribe::ui

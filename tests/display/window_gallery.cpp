@@ -51,9 +51,9 @@ int main(int argc, char** argv) {
     shoot(main, u"main-colours"_s);
 
     auto wizard = std::make_unique<ui::WizardDialog>(main.History(), dialogs, main.Settings());
-    for (int page = 1; page <= ui::WizardDialog::kPageCount; ++page) {
+    for (const int page : wizard->pageIds()) {
+        if (page > 1) wizard->next();
         shoot(*wizard, u"wizard-%1"_s.arg(page));
-        if (page < ui::WizardDialog::kPageCount) wizard->NextPage();
     }
     const std::vector<std::pair<QString, std::function<std::unique_ptr<QWidget>()>>> windows = {
         {u"script"_s, [&] { return std::make_unique<ui::ScriptWindow>(main.Script(), dialogs, main.Settings()); }},

@@ -14,7 +14,8 @@ using Gestures = DialogTest;
 QString State(Gestures& t, qsizetype writesBefore, qsizetype askedBefore) {
     QString state = t.dialog->isVisible() ? u"open"_s : u"closed"_s;
     if (auto* wizard = dynamic_cast<WizardDialog*>(t.dialog.get()))
-        state += u" page %1 rows %2"_s.arg(wizard->CurrentPage()).arg(wizard->EffectRows().size());
+        state += u" page %1 rows %2"_s.arg(wizard->currentId())
+                     .arg(t.Child<QTreeWidget>(u"lvwEffects"_s)->topLevelItemCount());
     if (auto* edit = dynamic_cast<EditTimeDialog*>(t.dialog.get()))
         state += edit->result() == QDialog::Accepted ? u" time "_s + edit->Time() : u" no time"_s;
     state += u" writes %1 lines %2"_s.arg(t.store.Writes().size() - writesBefore).arg(t.Script().Count());

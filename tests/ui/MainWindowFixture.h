@@ -153,8 +153,10 @@ public:
         return found;
     }
     WizardDialog& Wizard() { return static_cast<WizardDialog&>(*dialog); }
+    // Pages on by the Next button.
     void ToWizardPage(int page) {
-        while (Wizard().CurrentPage() < page) Wizard().NextPage();
+        while (Wizard().currentId() < page)
+            QTest::mouseClick(Child<QPushButton>(u"cmdNext"_s), Qt::LeftButton);
     }
 
     std::unique_ptr<QDialog> dialog;
