@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QEvent>
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
@@ -12,6 +13,7 @@
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 #include "colour/ColouredText.h"
 #include "picture/FramePainter.h"
@@ -20,7 +22,6 @@
 #include "ui/DialogWindow.h"
 #include "ui/LineListView.h"
 #include "ui/MainIcons.h"
-#include "ui/MainLayout.h"
 #include "ui/MainWindowNames.h"
 #include "ui/MenuButtonAccessible.h"
 #include "ui/OneLineRichEdit.h"
@@ -28,7 +29,6 @@
 #include "ui/RichPane.h"
 #include "ui/ScriptModel.h"
 #include "ui/TextConv.h"
-#include "ui/Twips.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -40,8 +40,14 @@ namespace flickerscribe::ui {
 
 namespace {
 
-constexpr int kClientWidth = 7965;
-constexpr int kClientHeight = 6765;
+// The window's first size under its menu bar, and its narrowest, in pixels.
+constexpr int kClientWidth = 531;
+constexpr int kClientHeight = 451;
+constexpr int kMinimumWidth = 500;
+// The pane, and the colour strip beside it, are one line high.
+constexpr int kPaneTop = 2;
+constexpr int kPaneHeight = 33;
+constexpr int kStripWidth = 249;
 constexpr int kColourButtons = 8;
 constexpr int kColourButtonsTop = 50;
 
@@ -107,8 +113,8 @@ MainWindow::MainWindow(Dialogs& dialogs, settings::SettingsStore& store, QString
     connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { KeepAnimation(); });
     connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { KeepAnimation(); });
 
-    setMinimumWidth(MinimumWindowWidth());
-    resize(Twips(kClientWidth), Twips(kClientHeight) + menuBar()->sizeHint().height());
+    setMinimumWidth(kMinimumWidth);
+    resize(kClientWidth, kClientHeight + menuBar()->sizeHint().height());
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         move(screen->availableGeometry().center() - rect().center());
 
@@ -326,14 +332,13 @@ void MainWindow::BuildControls() {
     lineList_->horizontalHeader()->setHighlightSections(false);
     lineList_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     lineList_->horizontalHeader()->setSectionsClickable(false);
-    lineList_->setColumnWidth(0, Twips(5000));
-    lineList_->setColumnWidth(1, Twips(1440));
-    lineList_->setColumnWidth(2, Twips(1440));
+    lineList_->setColumnWidth(0, 333);
+    lineList_->setColumnWidth(1, 96);
+    lineList_->setColumnWidth(2, 96);
     // Tab leaves the list for the colour strip rather than walking its cells.
     lineList_->setTabKeyNavigation(false);
     lineList_->setShowGrid(false);
     lineList_->setWordWrap(false);
-    lineList_->setGeometry(0, ListTop(), Twips(5415), Twips(4335));
     lineList_->installEventFilter(this);
     connect(lineList_, &LineListView::KeyPressed, this, &MainWindow::OnListKeyPress);
     connect(lineList_, &QAbstractItemView::clicked, this, [this](const QModelIndex& index) {
@@ -373,8 +378,21 @@ void MainWindow::BuildControls() {
                 [this, index] { PaintSelection(index); });
     colourStrip_->hide();
 
+    // The pane, with the strip beside it when shown, and under them the list,
+    // which takes whatever room the window has.
+    paneEdit_->setFixedHeight(kPaneHeight);
+    colourStrip_->setFixedSize(kStripWidth, kPaneHeight);
+    auto* top = new QHBoxLayout;
+    top->setSpacing(0);
+    top->addWidget(paneEdit_);
+    top->addWidget(colourStrip_);
+    auto* layout = new QVBoxLayout(client_);
+    layout->setContentsMargins(0, kPaneTop, 0, 0);
+    layout->setSpacing(0);
+    layout->addLayout(top);
+    layout->addWidget(lineList_, 1);
+
     setTabOrder(paneEdit_, lineList_);
-    client_->installEventFilter(this);
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
@@ -386,9 +404,7 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
         // user's click, key or drop reaches the pane.
         SetPreview();
     }
-    if (watched == client_ && event->type() == QEvent::Resize) {
-        LayOutControls();
-    } else if (watched == paneEdit_ || watched == lineList_) {
+    if (watched == paneEdit_ || watched == lineList_) {
         if (event->type() == QEvent::ShortcutOverride &&
             IsLineShortcut(static_cast<QKeyEvent*>(event), lineActions_)) {
             // Not the widget's own cut, copy, paste, undo and redo of
@@ -401,20 +417,6 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
         }
     }
     return QMainWindow::eventFilter(watched, event);
-}
-
-void MainWindow::LayOutControls() {
-    if (isMinimized() || client_ == nullptr) return;
-    const MainLayout layout = LayOutMainWindow(client_->size(), coloursVisible_);
-    paneEdit_->setGeometry(layout.pane);
-    if (layout.stripVisible) {
-        colourStrip_->setGeometry(layout.strip);
-        colourStrip_->show();
-    } else {
-        colourStrip_->hide();
-    }
-    const int listHeight = layout.listHeight > 0 ? layout.listHeight : lineList_->height();
-    lineList_->setGeometry(0, ListTop(), layout.listWidth, listHeight);
 }
 
 void MainWindow::SetPreview() {
@@ -449,7 +451,7 @@ void MainWindow::NewAnimation() {
 void MainWindow::ToggleColours() {
     coloursVisible_ = !coloursVisible_;
     showColoursAction_->setChecked(coloursVisible_);
-    LayOutControls();
+    colourStrip_->setVisible(coloursVisible_);
 }
 
 void MainWindow::LoadSettings() {

@@ -81,8 +81,6 @@ public:
     // A click on the line with this 1-based index.
     void ShowClickedLine(int index);
     void Exit();
-    // The layout rule: pane and strip on top, the list filling the rest.
-    void LayOutControls();
 
     // --- playback (MainWindow_Playback.cpp)
     void TogglePlayback();
