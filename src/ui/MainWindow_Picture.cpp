@@ -53,7 +53,6 @@ void MainWindow::ExportPicture() {
         progress.setValue(done);
         return !progress.wasCanceled();
     });
-    progress.close();
     // Cancelled: nothing is written, an old file stays as it was.
     if (!bytes) return;
     if (const auto error = WriteFileSafely(*path, *bytes)) ShowSaveError(dialogs_, this, *error);
