@@ -41,7 +41,6 @@ namespace {
 constexpr int kClientWidth = 7965;
 constexpr int kClientHeight = 6765;
 constexpr int kColourButtons = 8;
-constexpr int kColourButtonsTop = 50;
 
 QFont ListFont() {
     QFont font(u"Courier New"_s);
@@ -111,8 +110,6 @@ MainWindow::MainWindow(Dialogs& dialogs, settings::SettingsStore& store, QString
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         move(screen->availableGeometry().center() - rect().center());
 
-    // Enter on a focused colour button presses it.
-    PressFocusedButtonOnEnter(*this);
     // The strip starts hidden; the settings apply, and the empty list shows
     // "Preview" in a locked pane.
     coloursVisible_ = false;
@@ -282,12 +279,12 @@ void MainWindow::BuildControls() {
 
     auto* pane = new OneLineRichEdit(client_);
     pane->setObjectName(names::kPane);
-    QFont paneFont = BoldFont(u"Courier New"_s, 14.25, QFont::TypeWriter);
+    QFont paneFont = boldFont(u"Courier New"_s, 14.25, QFont::TypeWriter);
     // A name of single characters in ever new colours needs no shaping: this
     // keeps the longest text fast to draw.
     paneFont.setStyleStrategy(QFont::PreferNoShaping);
     paneFont.setKerning(false);
-    StyleGreyPane(pane, paneFont);
+    styleGreyPane(pane, paneFont);
     pane->document()->setDocumentMargin(2);
     // The pane keeps no history of its own: Undo is the animation's.
     pane->setUndoRedoEnabled(false);
@@ -348,7 +345,7 @@ void MainWindow::BuildControls() {
 
     colourStrip_ = new QWidget(client_);
     colourStrip_->setObjectName(names::kColourStrip);
-    colourButtons_ = AddColourButtons(colourStrip_, kColourButtons, 0, kColourButtonsTop);
+    colourButtons_ = addColourButtons(colourStripRow(colourStrip_), kColourButtons);
     for (int index = 0; index < kColourButtons; ++index)
         connect(colourButtons_[static_cast<std::size_t>(index)], &QPushButton::clicked, this,
                 [this, index] { PaintSelection(index); });

@@ -87,7 +87,7 @@ void MainWindow::EditSelectedLine() {
     if (script_.Count() > 0) {
         EditTimeDialog window(this);
         if (window.exec() == QDialog::Accepted)
-            history_.SetTime(u"Edit time"_s, script_.SelectedIndex(), FromQString(window.Time()));
+            history_.SetTime(u"Edit time"_s, script_.SelectedIndex(), FromQString(window.time()));
     } else {
         dialogs_.Message(this, u"No items to edit"_s, u"Edit"_s, MsgIcon::Exclamation, MsgButtons::Ok);
     }

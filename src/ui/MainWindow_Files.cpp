@@ -13,7 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace flickerscribe::ui {
 namespace {
 
-const QString kAnimationFilter = u"Brennock Animation Script (*.fsq)|*.fsq"_s;
+const QString kAnimationFilter = u"Brennock Animation Script (*.fsq)"_s;
 
 }  // namespace
 
@@ -57,7 +57,7 @@ void MainWindow::ImportScript() {
                      MsgIcon::Information, MsgButtons::Ok);
     // The folder is left as it is: the dialog opens where it was last.
     fileDialog_.title = u"Import file"_s;
-    fileDialog_.filter = u"Brennock Scripts (*.cfg)|*.cfg"_s;
+    fileDialog_.filter = u"Brennock Scripts (*.cfg)"_s;
     if (!dialogs_.ShowOpen(this, fileDialog_)) return;
 
     LoadIntoList(u"Import"_s, fileDialog_.fileName, ImportFile, u"File not found!"_s, u"Import error"_s);

@@ -18,6 +18,7 @@
 #include "ui/Dialogs.h"
 #include "ui/LineLimit.h"
 #include "ui/TextConv.h"
+#include "ui/Twips.h"
 #include "ui/WizardDialogNames.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -35,7 +36,8 @@ constexpr int kNameColumn = 0;
 WizardDialog::WizardDialog(AnimationHistory& history, Dialogs& dialogs, const settings::Settings& settings,
                            QWidget* parent)
     : QDialog(parent), history_(history), dialogs_(dialogs) {
-    MakeFixedDialog(*this, names::kWindow, u"Animation Script Wizard"_s, kClientWidth, kClientHeight);
+    setUpDialog(*this, names::kWindow, u"Animation Script Wizard"_s, WindowSize::Fixed);
+    setFixedSize(Twips(kClientWidth), Twips(kClientHeight));
     // The main window stays usable while the wizard is open.
     setModal(false);
     BuildPage1();

@@ -54,9 +54,7 @@ void AddSeparator(QWidget* parent, int top) {
 
 QPushButton* AddButton(QWidget* parent, const QString& name, const QString& caption, int left, int top,
                        int width, int height) {
-    auto* button = Place(new QPushButton(caption, parent), name, left, top, width, height);
-    button->setAutoDefault(false);
-    return button;
+    return Place(new QPushButton(caption, parent), name, left, top, width, height);
 }
 
 QLabel* AddLabel(QWidget* parent, const QString& name, const QString& caption, int left, int top, int width,

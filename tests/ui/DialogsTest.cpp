@@ -106,8 +106,8 @@ TEST_P(Painting, GivesThePaneAsCodedText) {
     const bool editor = c.window == std::string("frmColorEditor");
     Start({"^1old/40", "older/abc"}, 2);
     Open(QString::fromLatin1(c.window));
-    Pane& pane = editor ? static_cast<ColourNameEditor&>(*dialog).PreviewPane()
-                        : static_cast<SimpleEditWindow&>(*dialog).PreviewPane();
+    Pane& pane = editor ? static_cast<ColourNameEditor&>(*dialog).previewPane()
+                        : static_cast<SimpleEditWindow&>(*dialog).previewPane();
     auto* edit = Child<QTextEdit>(u"txtPreview"_s);
     for (const char* step = c.steps; *step != '\0'; ++step) {
         char* end = nullptr;
@@ -165,7 +165,7 @@ TEST_F(Dialog, OpensWithTheFocusWhereTheUserTypesFirst) {
 
 TEST(About, ShowsNameVersionAndMakerInColourAndTheAddressesWhole) {
     AboutDialog window;
-    EXPECT_EQ(window.PreviewPane().Text(), "Flickerscribe\n\nVersion 0.5.0\nMade by [QZT]Quillon\n");
+    EXPECT_EQ(window.previewPane().Text(), "Flickerscribe\n\nVersion 0.5.0\nMade by [QZT]Quillon\n");
     const auto* label = window.findChild<QLabel*>(u"Label1"_s);
     const QStringList lines = label->text().split(u'\n');
     ASSERT_EQ(lines.size(), 2);
@@ -212,25 +212,33 @@ TEST_F(Dialog, HelpShowsAndCopiesEachAddressWhole) {
     EXPECT_FALSE(dialog->isVisible());
 }
 
-// The real file dialog opens in the folder asked for, with the filter given.
-TEST(QtDialogs, TheFileDialogOpensInTheFolderAskedFor) {
+// The real file dialog opens in the folder asked for, with Qt's filters as
+// given, and asks no overwrite question of its own: the commands ask theirs.
+TEST(QtDialogs, TheRealFileDialogOpensWhereAskedAndLeavesTheOverwriteQuestionToUs) {
     QTemporaryDir asked;
+    WriteBytes(asked.filePath(u"old.cfg"_s), "old");
     QString shown;
+    QStringList questions;
+    QTimer watcher;  // answers any question box that comes up, and notes it
+    QObject::connect(&watcher, &QTimer::timeout, [&] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            questions << box->text();
+            box->button(QMessageBox::Yes) != nullptr ? box->button(QMessageBox::Yes)->click() : box->reject();
+        }
+    });
+    watcher.start(20);
     QTimer::singleShot(0, [&] {
         auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
         shown = dialog->directory().path() + u' ' + dialog->nameFilters().join(u'|');
-        dialog->close();
+        auto* name = dialog->findChild<QLineEdit*>(u"fileNameEdit"_s);
+        QTest::keyClicks(name, u"old.cfg"_s);
+        QTest::keyClick(name, Qt::Key_Return);
     });
-    FileDialogState state{{}, u"Scripts|*.cfg"_s, asked.path(), {}};
-    EXPECT_FALSE(QtDialogs().ShowOpen(nullptr, state));
-    EXPECT_EQ(shown, asked.path() + u" Scripts (*.cfg)"_s);
-}
-
-TEST(QtDialogs, FiltersBecomeQtNameFilters) {
-    EXPECT_EQ(QtNameFilters(u"Brennock Script (*.cfg)|*.cfg|All Files(*.*)|*.*"_s),
-              (QStringList{u"Brennock Script (*.cfg)"_s, u"All Files(*.*)"_s}));
-    EXPECT_EQ(QtNameFilters(u"Both|*.a;*.b|Odd"_s), QStringList{u"Both (*.a *.b)"_s});
-    EXPECT_EQ(QtNameFilters(QString()), QStringList());
+    FileDialogState state{{}, u"Scripts (*.cfg);;All Files(*.*)"_s, asked.path(), {}};
+    EXPECT_TRUE(QtDialogs().ShowSave(nullptr, state));
+    EXPECT_EQ(shown, asked.path() + u" Scripts (*.cfg)|All Files(*.*)"_s);
+    EXPECT_EQ(QDir::fromNativeSeparators(state.fileName), asked.filePath(u"old.cfg"_s));
+    EXPECT_EQ(questions, QStringList());
 }
 
 // --- the rich text pane and the wizard's pictures

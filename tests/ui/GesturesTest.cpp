@@ -16,7 +16,7 @@ QString State(Gestures& t, qsizetype writesBefore, qsizetype askedBefore) {
     if (auto* wizard = dynamic_cast<WizardDialog*>(t.dialog.get()))
         state += u" page %1 rows %2"_s.arg(wizard->CurrentPage()).arg(wizard->EffectRows().size());
     if (auto* edit = dynamic_cast<EditTimeDialog*>(t.dialog.get()))
-        state += edit->result() == QDialog::Accepted ? u" time "_s + edit->Time() : u" no time"_s;
+        state += edit->result() == QDialog::Accepted ? u" time "_s + edit->time() : u" no time"_s;
     state += u" writes %1 lines %2"_s.arg(t.store.Writes().size() - writesBefore).arg(t.Script().Count());
     for (const QString& asked : t.dialogs.Asked().mid(askedBefore))
         state += u" asked "_s + asked.section(u" ["_s, 0, 0);
@@ -82,7 +82,7 @@ TEST_F(Gestures, ALineBreakPastedIntoAOneLineBoxBecomesABlank) {
                 given = QString::fromStdString(Script().LineAt(1).Text);
             } else if (auto* time = dynamic_cast<EditTimeDialog*>(dialog.get())) {
                 QTest::keyClick(edit, Qt::Key_Return);
-                given = time->Time();
+                given = time->time();
             }
             EXPECT_EQ(given, u"1 "_s);
         }
