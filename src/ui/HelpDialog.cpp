@@ -38,7 +38,8 @@ const QString kCloseButton = QStringLiteral("Command1");
 
 }  // namespace names
 
-QGroupBox* addFrame(QBoxLayout* window, const QString& name, const QString& caption) {
+// A frame in the window, and the grid of its rows.
+QGridLayout* addFrame(QBoxLayout* window, const QString& name, const QString& caption) {
     auto* frame = new QGroupBox(caption);
     frame->setObjectName(name);
     auto* grid = new QGridLayout(frame);
@@ -46,7 +47,7 @@ QGroupBox* addFrame(QBoxLayout* window, const QString& name, const QString& capt
     grid->setHorizontalSpacing(7);
     grid->setVerticalSpacing(0);
     window->addWidget(frame);
-    return frame;
+    return grid;
 }
 
 }  // namespace
@@ -60,9 +61,8 @@ HelpDialog::HelpDialog(Dialogs& dialogs, QWidget* parent)
 
     // A value in a read-only box, whole, with the button that copies it: the
     // button copies the value itself, not what the box may show.
-    const auto addValue = [this](QGroupBox* frame, int row, const QString& boxName, const QString& value,
+    const auto addValue = [this](QGridLayout* grid, int row, const QString& boxName, const QString& value,
                                  const QString& buttonName, const QString& what) {
-        auto* grid = static_cast<QGridLayout*>(frame->layout());
         auto* box = new QLineEdit(value);
         box->setObjectName(boxName);
         box->setReadOnly(true);
@@ -80,28 +80,28 @@ HelpDialog::HelpDialog(Dialogs& dialogs, QWidget* parent)
         connect(copy, &QPushButton::clicked, this, [this, value] { dialogs_.SetClipboardText(value); });
         return box;
     };
-    const auto addLabel = [](QGroupBox* frame, int row, const QString& name, const QString& caption,
+    const auto addLabel = [](QGridLayout* grid, int row, const QString& name, const QString& caption,
                              QWidget* buddy) {
         auto* label = new QLabel(caption);
         label->setObjectName(name);
         label->setBuddy(buddy);
         label->setMinimumHeight(16);
-        static_cast<QGridLayout*>(frame->layout())->addWidget(label, row, 0);
+        grid->addWidget(label, row, 0);
     };
 
-    QGroupBox* help = addFrame(window, names::kHelpFrame, tr("Help + FAQ + Tutorial"));
+    QGridLayout* help = addFrame(window, names::kHelpFrame, tr("Help + FAQ + Tutorial"));
     addValue(help, 0, names::kWebSiteBox, info::kWebSite, names::kCopyWebSiteButton,
              tr("Copy the web site address"));
-    QGroupBox* forums = addFrame(window, names::kForumsFrame, tr("Forums"));
+    QGridLayout* forums = addFrame(window, names::kForumsFrame, tr("Forums"));
     addValue(forums, 0, names::kForumsBox, info::kForums, names::kCopyForumsButton,
              tr("Copy the forums address"));
     window->addSpacing(8);
-    QGroupBox* contact = addFrame(window, names::kContactFrame, tr("Contact me"));
-    static_cast<QGridLayout*>(contact->layout())->setContentsMargins(5, 0, 5, 3);
+    QGridLayout* contact = addFrame(window, names::kContactFrame, tr("Contact me"));
+    contact->setContentsMargins(5, 0, 5, 3);
     addLabel(contact, 0, names::kEmailLabel, tr("Email"),
              addValue(contact, 1, names::kEmailBox, info::kEmail, names::kCopyEmailButton,
                       tr("Copy the e-mail address")));
-    static_cast<QGridLayout*>(contact->layout())->setRowMinimumHeight(2, 7);
+    contact->setRowMinimumHeight(2, 7);
     addLabel(contact, 3, names::kChatLabel, tr("ICQ"),
              addValue(contact, 4, names::kChatNumberBox, info::kChatNumber, names::kCopyChatNumberButton,
                       tr("Copy the chat number")));
