@@ -30,7 +30,6 @@ void setUpDialog(QDialog& dialog, const QString& name, const QString& caption, W
     dialog.setObjectName(name);
     dialog.setWindowTitle(caption);
     dialog.setFont(dialogFont());
-    dialog.setSizeGripEnabled(false);
     Qt::WindowFlags flags = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                             Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
     flags |= size == WindowSize::Fixed ? Qt::MSWindowsFixedSizeDialogHint : Qt::WindowMinMaxButtonsHint;

@@ -18,7 +18,7 @@ QFont dialogFont();
 void setButtonSize(QPushButton* button, int width, int height);
 
 enum class WindowSize {
-    Fixed,    // no minimise or maximise button, no size grip; as large as its contents
+    Fixed,    // no minimise or maximise button; as large as its contents
     Sizable,  // the user can resize, minimise and maximise it
 };
 

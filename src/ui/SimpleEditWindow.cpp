@@ -103,9 +103,10 @@ Pane& SimpleEditWindow::previewPane() {
 }
 
 bool SimpleEditWindow::eventFilter(QObject* watched, QEvent* event) {
-    // Every Enter in the pane starts a new text line, Shift+Enter included
-    // (which would otherwise put a soft break inside the line).
-    if (watched == paneEdit_ && event->type() == QEvent::KeyPress) {
+    // Only the pane is watched. Every Enter in it starts a new text line,
+    // Shift+Enter included (which would otherwise put a soft break inside the
+    // line).
+    if (event->type() == QEvent::KeyPress) {
         const auto* key = static_cast<QKeyEvent*>(event);
         if ((key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) &&
             (key->modifiers() & Qt::ShiftModifier) && !paneEdit_->isReadOnly()) {

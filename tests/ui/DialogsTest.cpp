@@ -161,6 +161,32 @@ TEST_F(Dialog, OpensWithTheFocusWhereTheUserTypesFirst) {
     }
 }
 
+// At its default size each window shows every control whole: none stands over
+// another or past its frame's edge.
+TEST_F(Dialog, NoControlCoversAnotherOrCrossesItsFramesEdge) {
+    for (const QString& name :
+         {u"frmEdit"_s, u"frmOptions"_s, u"frmHelp"_s, u"frmColorEditor"_s, u"frmSimpleEdit"_s}) {
+        Open(name);
+        QApplication::processEvents();
+        QList<QWidget*> controls;
+        for (QWidget* control : dialog->findChildren<QWidget*>()) {
+            if (!control->objectName().isEmpty() && !control->objectName().startsWith(u"qt_"_s))
+                controls << control;
+        }
+        for (QWidget* control : controls) {
+            EXPECT_TRUE(control->parentWidget()->rect().contains(control->geometry()))
+                << name.toStdString() << " " << control->objectName().toStdString();
+            for (QWidget* other : controls) {
+                if (other != control && other->parentWidget() == control->parentWidget()) {
+                    EXPECT_FALSE(control->geometry().intersects(other->geometry()))
+                        << name.toStdString() << " " << control->objectName().toStdString() << " "
+                        << other->objectName().toStdString();
+                }
+            }
+        }
+    }
+}
+
 // --- About and Help
 
 TEST(About, ShowsNameVersionAndMakerAndClosesByEnterOrEscape) {
@@ -193,33 +219,39 @@ TEST_F(Dialog, HelpShowsAndCopiesEachAddressWhole) {
     EXPECT_FALSE(dialog->isVisible());
 }
 
-// The real file dialog opens in the folder asked for, with Qt's filters as
-// given, and asks no overwrite question of its own: the commands ask theirs.
-TEST(QtDialogs, TheRealFileDialogOpensWhereAskedAndLeavesTheOverwriteQuestionToUs) {
+// The real file dialog opens in the folder asked for, as an Open or a Save
+// dialog, with Qt's filters as given, and asks no overwrite question of its
+// own: the commands ask theirs.
+TEST(QtDialogs, TheRealFileDialogOpensAsAskedAndLeavesTheOverwriteQuestionToUs) {
     QTemporaryDir asked;
     WriteBytes(asked.filePath(u"old.cfg"_s), "old");
-    QString shown;
-    QStringList questions;
-    QTimer watcher;  // answers any question box that comes up, and notes it
-    QObject::connect(&watcher, &QTimer::timeout, [&] {
-        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            questions << box->text();
-            box->button(QMessageBox::Yes) != nullptr ? box->button(QMessageBox::Yes)->click() : box->reject();
-        }
-    });
-    watcher.start(20);
-    QTimer::singleShot(0, [&] {
-        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        shown = dialog->directory().path() + u' ' + dialog->nameFilters().join(u'|');
-        auto* name = dialog->findChild<QLineEdit*>(u"fileNameEdit"_s);
-        QTest::keyClicks(name, u"old.cfg"_s);
-        QTest::keyClick(name, Qt::Key_Return);
-    });
-    FileDialogState state{{}, u"Scripts (*.cfg);;All Files(*.*)"_s, asked.path(), {}};
-    EXPECT_TRUE(QtDialogs().ShowSave(nullptr, state));
-    EXPECT_EQ(shown, asked.path() + u" Scripts (*.cfg)|All Files(*.*)"_s);
-    EXPECT_EQ(QDir::fromNativeSeparators(state.fileName), asked.filePath(u"old.cfg"_s));
-    EXPECT_EQ(questions, QStringList());
+    for (const bool save : {false, true}) {
+        QString shown;
+        QStringList questions;
+        QTimer watcher;  // answers any question box that comes up, and notes it
+        QObject::connect(&watcher, &QTimer::timeout, [&] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                questions << box->text();
+                box->button(QMessageBox::Yes) != nullptr ? box->button(QMessageBox::Yes)->click()
+                                                         : box->reject();
+            }
+        });
+        watcher.start(20);
+        QTimer::singleShot(0, [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            shown = (dialog->acceptMode() == QFileDialog::AcceptSave ? u"save "_s : u"open "_s) +
+                    dialog->directory().path() + u' ' + dialog->nameFilters().join(u'|');
+            auto* name = dialog->findChild<QLineEdit*>(u"fileNameEdit"_s);
+            QTest::keyClicks(name, u"old.cfg"_s);
+            QTest::keyClick(name, Qt::Key_Return);
+        });
+        FileDialogState state{{}, u"Scripts (*.cfg);;All Files(*.*)"_s, asked.path(), {}};
+        EXPECT_TRUE(save ? QtDialogs().ShowSave(nullptr, state) : QtDialogs().ShowOpen(nullptr, state));
+        EXPECT_EQ(shown,
+                  (save ? u"save "_s : u"open "_s) + asked.path() + u" Scripts (*.cfg)|All Files(*.*)"_s);
+        EXPECT_EQ(QDir::fromNativeSeparators(state.fileName), asked.filePath(u"old.cfg"_s));
+        EXPECT_EQ(questions, QStringList());
+    }
 }
 
 // --- the rich text pane and the wizard's pictures
