@@ -53,7 +53,7 @@ void BM_ScriptWindowOfAFullAnimationToFirstPaint(benchmark::State& state) {
         flickerscribe::ui::ScriptWindow window(script, dialogs, settings);
         window.show();
         window.repaint();
-        window.ScriptBox()->viewport()->repaint();
+        window.scriptBox()->viewport()->repaint();
         state.PauseTiming();
         window.close();
         state.ResumeTiming();

@@ -3,14 +3,14 @@
 
 #include "settings/UserSettingsStore.h"
 #include "ui/MainWindow.h"
+#include "ui/ProgramInfo.h"
 #include "ui/QtDialogs.h"
 #include "ui/TerminationSignals.h"
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("Flickerscribe"));
-    QApplication::setApplicationVersion(
-        QStringLiteral("%1.%2.%3").arg(FS_VERSION_MAJOR).arg(FS_VERSION_MINOR).arg(FS_VERSION_PATCH));
+    QApplication::setApplicationName(flickerscribe::ui::info::kProgramTitle);
+    QApplication::setApplicationVersion(QString::fromStdString(flickerscribe::ui::info::programVersion()));
     flickerscribe::ui::QtDialogs dialogs;
     const auto store = flickerscribe::settings::OpenUserSettingsStore();
     // Each run keeps its animation in the user's data folder.

@@ -6,21 +6,30 @@ namespace {
 
 // A flag is on only for the exact text "1": "0", "true", " 1" and a missing
 // value are all off.
-bool Flag(const QString& text) {
-    return text == QStringLiteral("1");
-}
+const QString kOn = QStringLiteral("1");
+const QString kOff = QStringLiteral("0");
 
 }  // namespace
 
 Settings LoadSettings(const SettingsStore& store) {
     Settings settings;
-    settings.openFolder = store.ReadValue(QStringLiteral("OpenDir"));
-    settings.saveFolder = store.ReadValue(QStringLiteral("SaveDir"));
-    settings.name = store.ReadValue(QStringLiteral("Name"));
-    settings.clanTag = store.ReadValue(QStringLiteral("Clantag"));
-    settings.reverse = Flag(store.ReadValue(QStringLiteral("Reverse")));
-    settings.editInPlace = Flag(store.ReadValue(QStringLiteral("EditItem")));
+    settings.openFolder = store.ReadValue(value::kOpenFolder);
+    settings.saveFolder = store.ReadValue(value::kSaveFolder);
+    settings.name = store.ReadValue(value::kName);
+    settings.clanTag = store.ReadValue(value::kClanTag);
+    settings.reverse = store.ReadValue(value::kReverse) == kOn;
+    settings.editInPlace = store.ReadValue(value::kEditInPlace) == kOn;
     return settings;
+}
+
+void SaveSettings(SettingsStore& store, const Settings& settings) {
+    store.WriteValue(value::kEditInPlace, settings.editInPlace ? kOn : kOff);
+    store.WriteValue(value::kName, settings.name);
+    store.WriteValue(value::kClanTag, settings.clanTag);
+    store.WriteValue(value::kReverse, settings.reverse ? kOn : kOff);
+    store.WriteValue(value::kOpenFolder, settings.openFolder);
+    store.WriteValue(value::kSaveFolder, settings.saveFolder);
+    store.WriteValue(value::kGenerateFolder, settings.saveFolder);
 }
 
 }  // namespace flickerscribe::settings

@@ -20,8 +20,24 @@ public:
     virtual void WriteValue(const QString& valueName, const QString& value) = 0;
 };
 
+// The names of the values in the store, as they are on disk and in the
+// registry: they never change.
+namespace value {
+inline const QString kOpenFolder = QStringLiteral("OpenDir");
+inline const QString kSaveFolder = QStringLiteral("SaveDir");
+inline const QString kGenerateFolder = QStringLiteral("GenerateDir");  // written, never read
+inline const QString kName = QStringLiteral("Name");
+inline const QString kClanTag = QStringLiteral("Clantag");
+inline const QString kReverse = QStringLiteral("Reverse");
+inline const QString kEditInPlace = QStringLiteral("EditItem");
+}  // namespace value
+
 // The settings in memory, read from the store: texts unchanged, a flag true
 // only for the exact text "1".
 Settings LoadSettings(const SettingsStore& store);
+
+// Writes all seven values, also those unchanged: flags as "1" or "0", and the
+// save folder a second time as GenerateDir.
+void SaveSettings(SettingsStore& store, const Settings& settings);
 
 }  // namespace flickerscribe::settings

@@ -1,18 +1,16 @@
 #include "ui/AboutDialog.h"
 
-#include <QFontMetrics>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPalette>
 #include <QPushButton>
 #include <QTextEdit>
-#include <algorithm>
+#include <QVBoxLayout>
 
 #include "colour/ColouredText.h"
-#include "ui/DialogWindow.h"
 #include "ui/PaneStyle.h"
 #include "ui/ProgramInfo.h"
 #include "ui/RichPane.h"
-#include "ui/Twips.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -33,22 +31,22 @@ const QString kOkButton = QStringLiteral("cmdOK");
 
 }  // namespace names
 
-// One stroke of the etched separator: a horizontal line from (x1, y), in
-// twips, to the pixel column `right`, `thickness` pixels thick.
-QWidget* AddLine(QWidget* parent, const QString& name, int x1, int y, int right, int thickness,
-                 QColor colour) {
-    auto* line = new QWidget(parent);
+// One stroke of the etched separator, `thickness` pixels high, as wide as the
+// window lets it be.
+QWidget* addStroke(QBoxLayout* layout, const QString& name, int thickness, QColor colour) {
+    auto* line = new QWidget;
     line->setObjectName(name);
-    line->setGeometry(Twips(x1), Twips(y), right - Twips(x1), thickness);
+    line->setFixedHeight(thickness);
     line->setAutoFillBackground(true);
     QPalette palette = line->palette();
     palette.setColor(QPalette::Window, colour);
     line->setPalette(palette);
+    layout->addWidget(line);
     return line;
 }
 
 // The pane takes one '\n' for a line break where the text has CR LF.
-std::string WithPaneBreaks(const std::string& text) {
+std::string withPaneBreaks(const std::string& text) {
     std::string out;
     out.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -60,64 +58,60 @@ std::string WithPaneBreaks(const std::string& text) {
 
 }  // namespace
 
-std::string AboutText() {
-    return "^1Flicker^7scribe\r\n\r\nVersion ^8" + info::ProgramVersion() +
+std::string aboutText() {
+    return "^1Flicker^7scribe\r\n\r\nVersion ^8" + info::programVersion() +
            "\r\n^8Made by ^7[QZT]^2Quillon\r\n";
 }
 
-AboutDialog::AboutDialog(QWidget* parent) : QDialog(parent) {
-    MakeFixedDialog(*this, names::kWindow, QString(), 5730, 3045);
+AboutDialog::AboutDialog(QWidget* parent)
+    : DialogWindow(names::kWindow, tr("About %1").arg(info::kProgramTitle), WindowSize::Fixed, {}, parent) {
+    auto* window = new QVBoxLayout;
+    window->setContentsMargins(8, 8, 13, 8);
+    window->setSpacing(0);
 
-    paneEdit_ = new QTextEdit(this);
-    paneEdit_->setObjectName(names::kPane);
-    paneEdit_->setGeometry(TwipsRect(120, 120, 5415, 2175));
-    paneEdit_->setReadOnly(true);
-    paneEdit_->setLineWrapMode(QTextEdit::NoWrap);
-    StyleGreyPane(paneEdit_, BoldFont(u"Courier New"_s, 14.25, QFont::TypeWriter));
-    pane_ = std::make_unique<RichPane>(paneEdit_);
+    auto* paneEdit = new QTextEdit;
+    paneEdit->setObjectName(names::kPane);
+    paneEdit->setFixedSize(361, 145);
+    paneEdit->setReadOnly(true);
+    paneEdit->setLineWrapMode(QTextEdit::NoWrap);
+    styleGreyPane(paneEdit, boldFont(u"Courier New"_s, 14.25, QFont::TypeWriter));
+    pane_ = std::make_unique<RichPane>(paneEdit);
+    window->addWidget(paneEdit, 0, Qt::AlignLeft);
 
-    // The web addresses, whole and one a line, in the dialog's own font: the
-    // window grows to the width they need.
-    addressLabel_ = new QLabel(
-        u"Flickerscribe website @ "_s + info::kWebSite + u"\n[QZT] Website @ "_s + info::kClanWebSite, this);
-    addressLabel_->setObjectName(names::kAddressLabel);
-    addressLabel_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    const QFontMetrics metrics(addressLabel_->font());
-    int textWidth = 0;
-    for (const QString& line : addressLabel_->text().split(u'\n'))
-        textWidth = std::max(textWidth, metrics.horizontalAdvance(line));
-    const int width = std::max(Twips(5730), textWidth + Twips(240) + 4);
-    addressLabel_->setGeometry(Twips(120), Twips(2520), width - Twips(240), 2 * metrics.lineSpacing() + 4);
+    // An etched separator: a grey stroke over a white one.
+    window->addSpacing(10);
+    addStroke(window, names::kSeparatorDark, 1, QColor(128, 128, 128));
+    addStroke(window, names::kSeparatorLight, 2, Qt::white);
+    window->addSpacing(2);
 
-    // An etched separator: a grey stroke with a white one just below it.
-    separator_[1] =
-        AddLine(this, names::kSeparatorDark, 90, 2445, width - Twips(166), 1, QColor(128, 128, 128));
-    separator_[0] = AddLine(this, names::kSeparatorLight, 105, 2460, width - Twips(166), 2, Qt::white);
+    // The web addresses, whole and one a line.
+    auto* addresses = new QLabel(tr("%1 website @ %2\n[QZT] Website @ %3")
+                                     .arg(info::kProgramTitle, info::kWebSite, info::kClanWebSite));
+    addresses->setObjectName(names::kAddressLabel);
+    addresses->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    window->addWidget(addresses);
+    window->addSpacing(8);
 
-    okButton_ = new QPushButton(u"OK"_s, this);
-    okButton_->setObjectName(names::kOkButton);
-    okButton_->setGeometry(width - Twips(225 + 1260), addressLabel_->geometry().bottom() + Twips(105),
-                           Twips(1260), Twips(345));
-    setFixedSize(width, okButton_->geometry().bottom() + 1 + Twips(120));
-    okButton_->setDefault(true);
-    connect(okButton_, &QPushButton::clicked, this, &AboutDialog::Dismiss);
-    okButton_->setFocus();
+    auto* okButton = new QPushButton(tr("OK"));
+    okButton->setObjectName(names::kOkButton);
+    setButtonSize(okButton, 84, 23);
+    okButton->setDefault(true);
+    connect(okButton, &QPushButton::clicked, this, &QDialog::accept);
+    auto* okRow = new QHBoxLayout;
+    okRow->setContentsMargins(0, 0, 2, 0);
+    okRow->addStretch();
+    okRow->addWidget(okButton);
+    window->addLayout(okRow);
+    setContents(window);
+    okButton->setFocus();
 
-    ShowProgramInfo();
+    // The text is built at each opening.
+    RenderCodedText(withPaneBreaks(aboutText()), *pane_);
 }
 
 AboutDialog::~AboutDialog() = default;
 
-void AboutDialog::ShowProgramInfo() {
-    setWindowTitle(u"About "_s + info::kProgramTitle);
-    RenderCodedText(WithPaneBreaks(AboutText()), *pane_);
-}
-
-void AboutDialog::Dismiss() {
-    accept();
-}
-
-Pane& AboutDialog::PreviewPane() {
+Pane& AboutDialog::previewPane() {
     return *pane_;
 }
 

@@ -1,12 +1,9 @@
 #pragma once
 
-#include <QDialog>
 #include <memory>
 #include <string>
 
-class QLabel;
-class QPushButton;
-class QTextEdit;
+#include "ui/DialogWindow.h"
 
 namespace flickerscribe {
 class Pane;
@@ -18,29 +15,21 @@ class RichPane;
 
 // The coded text that the About window shows: the program's name, version and
 // maker, with CR LF between its lines.
-std::string AboutText();
+std::string aboutText();
 
 // The About window: name, version and maker in colour, and the web addresses.
 // OK is both the default and the cancel button, so Enter and Escape close it.
-class AboutDialog : public QDialog {
+class AboutDialog : public DialogWindow {
     Q_OBJECT
 
 public:
     explicit AboutDialog(QWidget* parent = nullptr);
     ~AboutDialog() override;
 
-    // Sets the caption and renders AboutText() into the pane.
-    void ShowProgramInfo();
-    void Dismiss();
-
-    Pane& PreviewPane();
+    Pane& previewPane();
 
 private:
-    QTextEdit* paneEdit_;
     std::unique_ptr<RichPane> pane_;
-    QWidget* separator_[2];
-    QLabel* addressLabel_;
-    QPushButton* okButton_;
 };
 
 }  // namespace flickerscribe::ui

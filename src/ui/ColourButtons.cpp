@@ -1,57 +1,67 @@
 #include "ui/ColourButtons.h"
 
-#include <QColor>
+#include <QCoreApplication>
+#include <QHBoxLayout>
 #include <QPushButton>
 #include <string>
 
-#include "ui/Twips.h"
+#include "ui/PaneStyle.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace flickerscribe::ui {
 namespace {
 
-constexpr int kButtonSize = 375;
-constexpr int kButtonStep = 480;
+constexpr int kButtonSide = 25;
+constexpr int kButtonGap = 7;
 
-QColor ToQColor(Colour colour) {
-    return QColor(static_cast<int>(RedOf(colour)), static_cast<int>(GreenOf(colour)),
-                  static_cast<int>(BlueOf(colour)));
-}
-
-QString ColourName(int index) {
-    static const QString names[] = {u"Red"_s,     u"Green"_s, u"Yellow"_s, u"Blue"_s, u"Cyan"_s,
-                                    u"Magenta"_s, u"White"_s, u"Black"_s,  u"Red"_s};
-    return index >= 0 && index < 9 ? names[index] : QString();
+QString colourName(int index) {
+    static const char* const names[] = {
+        QT_TRANSLATE_NOOP("ColourButtons", "Red"),    QT_TRANSLATE_NOOP("ColourButtons", "Green"),
+        QT_TRANSLATE_NOOP("ColourButtons", "Yellow"), QT_TRANSLATE_NOOP("ColourButtons", "Blue"),
+        QT_TRANSLATE_NOOP("ColourButtons", "Cyan"),   QT_TRANSLATE_NOOP("ColourButtons", "Magenta"),
+        QT_TRANSLATE_NOOP("ColourButtons", "White"),  QT_TRANSLATE_NOOP("ColourButtons", "Black"),
+        QT_TRANSLATE_NOOP("ColourButtons", "Red")};
+    return index >= 0 && index < 9 ? QCoreApplication::translate("ColourButtons", names[index]) : QString();
 }
 
 }  // namespace
 
-Colour ColourOfButton(int index) {
+Colour colourOfButton(int index) {
     return ColourFromDigit(std::to_string(index + 1));
 }
 
-std::vector<QPushButton*> AddColourButtons(QWidget* parent, int count, int left, int top) {
+std::vector<QPushButton*> addColourButtons(QBoxLayout* row, int count) {
+    row->setSpacing(kButtonGap);
     std::vector<QPushButton*> buttons;
     buttons.reserve(static_cast<std::size_t>(count));
     for (int index = 0; index < count; ++index) {
-        auto* button = new QPushButton(u" "_s, parent);
+        auto* button = new QPushButton(u" "_s);
         button->setObjectName(u"cmdColor_%1"_s.arg(index));
-        button->setAccessibleName(ColourName(index));
-        button->setGeometry(TwipsRect(left + kButtonStep * index, top, kButtonSize, kButtonSize));
-        // Tab reaches the buttons and Space presses one; a click leaves the
-        // focus, and so the caret and selection, in the pane.
+        button->setAccessibleName(colourName(index));
+        button->setFixedSize(kButtonSide, kButtonSide);
+        // Tab reaches the buttons and Space or Enter presses one, in the main
+        // window too; a click leaves the focus, and so the caret and
+        // selection, in the pane.
         button->setFocusPolicy(Qt::TabFocus);
-        button->setAutoDefault(false);
-        const QColor colour = ToQColor(ColourOfButton(index));
+        button->setAutoDefault(true);
         button->setStyleSheet(
             u"QPushButton { background-color: %1; border: 1px solid #3c3c3c; border-radius: 2px; }"
             u"QPushButton:hover { border: 1px solid #0a64c8; }"
             u"QPushButton:focus { border: 2px dotted #0a64c8; }"
-            u"QPushButton:pressed { border: 2px solid #0a64c8; }"_s.arg(colour.name()));
+            u"QPushButton:pressed { border: 2px solid #0a64c8; }"_s.arg(
+                toQColor(colourOfButton(index)).name()));
+        row->addWidget(button);
         buttons.push_back(button);
     }
     return buttons;
+}
+
+QBoxLayout* colourStripRow(QWidget* strip) {
+    auto* row = new QHBoxLayout(strip);
+    row->setContentsMargins(0, 3, 0, 5);
+    row->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    return row;
 }
 
 }  // namespace flickerscribe::ui

@@ -1,17 +1,17 @@
 #include "ui/ColourNameEditor.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 #include "colour/ColouredText.h"
 #include "ui/ColourButtons.h"
-#include "ui/DialogWindow.h"
 #include "ui/Dialogs.h"
 #include "ui/OneLineRichEdit.h"
 #include "ui/PaneStyle.h"
 #include "ui/RichPane.h"
 #include "ui/TextConv.h"
-#include "ui/Twips.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -31,51 +31,64 @@ const QString kCloseButton = QStringLiteral("cmdClose");
 
 }  // namespace names
 
+constexpr int kColourCount = 9;
+
 }  // namespace
 
-ColourNameEditor::ColourNameEditor(Dialogs& dialogs, QWidget* parent) : QDialog(parent), dialogs_(dialogs) {
-    MakeFixedDialog(*this, names::kWindow, u"Color name editor"_s, 4515, 2265);
+ColourNameEditor::ColourNameEditor(Dialogs& dialogs, QWidget* parent)
+    : DialogWindow(names::kWindow, tr("Color name editor"), WindowSize::Fixed, {.enterOnlyOnButtons = true},
+                   parent),
+      dialogs_(dialogs) {
+    auto* colours = new QHBoxLayout;
+    colours->setAlignment(Qt::AlignLeft);
+    const std::vector<QPushButton*> colourButtons = addColourButtons(colours, kColourCount);
 
-    colourButtons_ = AddColourButtons(this, 9, 120, 120);
-    for (int index = 0; index < static_cast<int>(colourButtons_.size()); ++index) {
-        connect(colourButtons_[static_cast<std::size_t>(index)], &QPushButton::clicked, this,
-                [this, index] { PaintSelection(index); });
+    auto* paneEdit = new OneLineRichEdit;
+    paneEdit->setObjectName(names::kPane);
+    paneEdit->setMinimumWidth(288);
+    paneEdit->setFixedHeight(33);
+    styleGreyPane(paneEdit, boldFont(u"MS Sans Serif"_s, 12, QFont::SansSerif));
+    pane_ = std::make_unique<RichPane>(paneEdit);
+    auto* hintLabel = new QLabel(tr("Color your text here"));
+    hintLabel->setObjectName(names::kHintLabel);
+    hintLabel->setBuddy(paneEdit);
+    hintLabel->setMinimumHeight(16);
+    for (int index = 0; index < kColourCount; ++index) {
+        connect(colourButtons[static_cast<std::size_t>(index)], &QPushButton::clicked, this,
+                [this, index] { pane_->SetSelColour(colourOfButton(index)); });
     }
 
-    hintLabel_ = new QLabel(u"Color your text here"_s, this);
-    hintLabel_->setObjectName(names::kHintLabel);
-    hintLabel_->setGeometry(TwipsRect(120, 720, 1695, 255));
+    auto* copyButton = new QPushButton(tr("Copy to clipboard"));
+    copyButton->setObjectName(names::kCopyButton);
+    setButtonSize(copyButton, 97, 25);
+    connect(copyButton, &QPushButton::clicked, this, &ColourNameEditor::copyToClipboard);
+    // Escape closes the window the same way.
+    auto* closeButton = new QPushButton(tr("Close"));
+    closeButton->setObjectName(names::kCloseButton);
+    setButtonSize(closeButton, 73, 25);
+    connect(closeButton, &QPushButton::clicked, this, &QDialog::reject);
+    auto* buttons = new QHBoxLayout;
+    buttons->setContentsMargins(0, 0, 7, 0);
+    buttons->addWidget(copyButton);
+    buttons->addStretch();
+    buttons->addWidget(closeButton);
 
-    paneEdit_ = new OneLineRichEdit(this);
-    paneEdit_->setObjectName(names::kPane);
-    paneEdit_->setGeometry(TwipsRect(120, 960, 4320, 495));
-    StyleGreyPane(paneEdit_, BoldFont(u"MS Sans Serif"_s, 12, QFont::SansSerif));
-    pane_ = std::make_unique<RichPane>(paneEdit_);
-    hintLabel_->setBuddy(paneEdit_);
-
-    copyButton_ = new QPushButton(u"Copy to clipboard"_s, this);
-    copyButton_->setObjectName(names::kCopyButton);
-    copyButton_->setGeometry(TwipsRect(120, 1800, 1455, 375));
-    copyButton_->setAutoDefault(false);
-    connect(copyButton_, &QPushButton::clicked, this, &ColourNameEditor::CopyToClipboard);
-
-    // The window's cancel button: Escape closes the window the same way.
-    closeButton_ = new QPushButton(u"Close"_s, this);
-    closeButton_->setObjectName(names::kCloseButton);
-    closeButton_->setGeometry(TwipsRect(3240, 1800, 1095, 375));
-    closeButton_->setAutoDefault(false);
-    connect(closeButton_, &QPushButton::clicked, this, &ColourNameEditor::Dismiss);
-
-    paneEdit_->setFocus();
+    auto* window = new QVBoxLayout;
+    window->setContentsMargins(8, 8, 5, 6);
+    window->setSpacing(0);
+    window->addLayout(colours);
+    window->addSpacing(15);
+    window->addWidget(hintLabel);
+    window->addWidget(paneEdit);
+    window->addSpacing(23);
+    window->addLayout(buttons);
+    setContents(window);
+    paneEdit->setFocus();
 }
 
 ColourNameEditor::~ColourNameEditor() = default;
 
-void ColourNameEditor::PaintSelection(int index) {
-    pane_->SetSelColour(ColourOfButton(index));
-}
-
-void ColourNameEditor::CopyToClipboard() {
+void ColourNameEditor::copyToClipboard() {
     const std::string coded = EncodeColouredText(*pane_, kBlack);
     // The walk over the pane ends on its last character, which stays selected.
     const int length = static_cast<int>(pane_->Text().size());
@@ -86,11 +99,7 @@ void ColourNameEditor::CopyToClipboard() {
     dialogs_.SetClipboardText(ToQString(coded));
 }
 
-void ColourNameEditor::Dismiss() {
-    reject();
-}
-
-Pane& ColourNameEditor::PreviewPane() {
+Pane& ColourNameEditor::previewPane() {
     return *pane_;
 }
 

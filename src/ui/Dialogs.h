@@ -12,8 +12,8 @@ enum class MsgButtons { Ok, OkCancel, YesNo, YesNoCancel };
 enum class MsgAnswer { Ok, Cancel, Yes, No };
 
 // The state of one file dialog object, kept by its owner between uses, the way
-// a common dialog keeps its file name and folder. The filter is written
-// "Description (*.ext)|*.ext|Other (*.*)|*.*".
+// a common dialog keeps its file name and folder. The filter is in Qt's own
+// syntax: "Description (*.ext);;Other (*.*)".
 struct FileDialogState {
     QString title;
     QString filter;

@@ -1,15 +1,18 @@
 #include "ui/EditTimeDialog.h"
 
 #include <QComboBox>
+#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QValidator>
+#include <algorithm>
+#include <utility>
 
 #include "colour/NumberText.h"
-#include "ui/DialogWindow.h"
+#include "document/AnimationScript.h"
 #include "ui/SingleLine.h"
 #include "ui/TextConv.h"
-#include "ui/Twips.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -32,55 +35,90 @@ const QString kSpeedGuide = QStringLiteral("lblSpeed");
 
 }  // namespace names
 
+// A time is whatever the script's number test takes, on one line like every
+// box's text. Anything else never stands in the box: typed, pasted or set, it
+// becomes the regular speed, 20. QLineEdit takes the rewritten text.
+class TimeValidator : public QValidator {
+public:
+    using QValidator::QValidator;
+
+    State validate(QString& input, int& position) const override {
+        input = OnOneLine(std::move(input));
+        if (!IsNumberText(FromQString(input))) {
+            input = u"20"_s;
+            position = static_cast<int>(input.size());
+        }
+        position = std::min(position, static_cast<int>(input.size()));
+        return Acceptable;
+    }
+};
+
 template <typename Control>
-Control* Place(Control* control, const QString& name, int left, int top, int width, int height) {
+Control* named(Control* control, const QString& name) {
     control->setObjectName(name);
-    control->setGeometry(TwipsRect(left, top, width, height));
     return control;
 }
 
 }  // namespace
 
-EditTimeDialog::EditTimeDialog(QWidget* parent) : QDialog(parent) {
-    MakeFixedDialog(*this, names::kWindow, u"Edit"_s, 4530, 1950);
-
-    timeLabel_ = Place(new QLabel(u"Time"_s, this), names::kTimeLabel, 120, 120, 495, 255);
-    timeBox_ = Place(new QLineEdit(u"15"_s, this), names::kTimeBox, 120, 360, 495, 300);
-    KeepOnOneLine(timeBox_);
-    timeLabel_->setBuddy(timeBox_);
-    actionLabel_ = Place(new QLabel(u"Action"_s, this), names::kActionLabel, 120, 1080, 1935, 255);
+EditTimeDialog::EditTimeDialog(QWidget* parent)
+    : DialogWindow(names::kWindow, tr("Edit"), WindowSize::Fixed, {}, parent) {
+    auto* timeLabel = named(new QLabel(tr("Time")), names::kTimeLabel);
+    timeBox_ = named(new QLineEdit(QString::fromStdString(AnimationLine{}.Time)), names::kTimeBox);
+    timeBox_->setFixedSize(33, 20);
+    timeBox_->setValidator(new TimeValidator(timeBox_));
+    timeLabel->setBuddy(timeBox_);
+    auto* speedGuide = named(new QLabel(tr("15 = fast\n20 = regular\n30 = slow")), names::kSpeedGuide);
+    speedGuide->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    auto* actionLabel = named(new QLabel(tr("Action")), names::kActionLabel);
     // A box with no entries that only shows its words: actions can't be
     // chosen yet, and nothing reads it.
-    actionBox_ = Place(new QComboBox(this), names::kActionBox, 120, 1320, 2055, 315);
-    actionBox_->setEditable(true);
-    actionBox_->setEditText(u"Under construction"_s);
-    KeepOnOneLine(actionBox_->lineEdit());
-    actionLabel_->setBuddy(actionBox_);
-    okButton_ = Place(new QPushButton(u"OK"_s, this), names::kOkButton, 3360, 120, 1095, 350);
-    okButton_->setDefault(true);
-    cancelButton_ = Place(new QPushButton(u"Cancel"_s, this), names::kCancelButton, 3360, 600, 1095, 350);
-    cancelButton_->setAutoDefault(false);
-    speedGuide_ = Place(new QLabel(this), names::kSpeedGuide, 960, 360, 1935, 615);
-    speedGuide_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    auto* actionBox = named(new QComboBox, names::kActionBox);
+    actionBox->setEditable(true);
+    actionBox->setEditText(tr("Under construction"));
+    actionBox->setFixedSize(137, 21);
+    KeepOnOneLine(actionBox->lineEdit());
+    actionLabel->setBuddy(actionBox);
+
+    auto* okButton = named(new QPushButton(tr("OK")), names::kOkButton);
+    okButton->setDefault(true);
+    connect(okButton, &QPushButton::clicked, this, &QDialog::accept);
+    // Escape and the close box reject the dialog the same way.
+    auto* cancelButton = named(new QPushButton(tr("Cancel")), names::kCancelButton);
+    connect(cancelButton, &QPushButton::clicked, this, &QDialog::reject);
+
+    // Time and its guide, Action below; OK and Cancel stand at the right.
+    auto* window = new QGridLayout;
+    window->setContentsMargins(8, 8, 5, 21);
+    window->setSpacing(0);
+    window->addWidget(timeLabel, 0, 0, 1, 2);
+    window->setRowMinimumHeight(0, 16);
+    window->addWidget(timeBox_, 1, 0, Qt::AlignLeft | Qt::AlignTop);
+    window->addWidget(speedGuide, 1, 1, Qt::AlignLeft | Qt::AlignTop);
+    window->setRowMinimumHeight(1, 48);
+    window->setColumnMinimumWidth(0, 56);
+    window->setColumnMinimumWidth(1, 160);
+    window->addWidget(actionLabel, 2, 0, 1, 2);
+    window->setRowMinimumHeight(2, 16);
+    window->addWidget(actionBox, 3, 0, 1, 2, Qt::AlignLeft | Qt::AlignTop);
+    auto* buttons = new QVBoxLayout;
+    buttons->setSpacing(9);
+    for (QPushButton* button : {okButton, cancelButton}) {
+        setButtonSize(button, 73, 23);
+        buttons->addWidget(button);
+    }
+    window->addLayout(buttons, 0, 2, 4, 1, Qt::AlignTop);
+    setContents(window);
 
     // Tab goes the way the controls were made: time, action, OK, Cancel.
+    setTabOrder(timeBox_, actionBox);
+    setTabOrder(actionBox, okButton);
+    setTabOrder(okButton, cancelButton);
     timeBox_->setFocus();
-
-    connect(timeBox_, &QLineEdit::textChanged, this, [this] { CheckTime(); });
-    connect(okButton_, &QPushButton::clicked, this, &QDialog::accept);
-    // Escape and the close box reject the dialog the same way.
-    connect(cancelButton_, &QPushButton::clicked, this, &QDialog::reject);
-
-    speedGuide_->setText(u"15 = fast\n20 = regular\n30 = slow"_s);
 }
 
-QString EditTimeDialog::Time() const {
+QString EditTimeDialog::time() const {
     return timeBox_->text();
-}
-
-void EditTimeDialog::CheckTime() {
-    // Setting "20" raises this handler once more, and "20" passes.
-    if (!IsNumberText(FromQString(timeBox_->text()))) timeBox_->setText(u"20"_s);
 }
 
 }  // namespace flickerscribe::ui

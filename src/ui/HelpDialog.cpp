@@ -1,17 +1,14 @@
 #include "ui/HelpDialog.h"
 
-#include <QFontMetrics>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <algorithm>
 
 #include "ui/DialogIcons.h"
-#include "ui/DialogWindow.h"
 #include "ui/Dialogs.h"
 #include "ui/ProgramInfo.h"
-#include "ui/Twips.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -41,111 +38,82 @@ const QString kCloseButton = QStringLiteral("Command1");
 
 }  // namespace names
 
-// How much wider than designed the boxes are, in pixels, so that each shows
-// its whole value in the dialog's font.
-int Widening() {
-    const QFontMetrics metrics(DialogFont());
-    int widest = 0;
-    for (const QString& value : {info::kWebSite, info::kForums, info::kEmail, info::kChatNumber})
-        widest = std::max(widest, metrics.horizontalAdvance(value));
-    // The box's frame and margins around its text.
-    return std::max(0, widest + 12 - Twips(3495));
-}
-
-QGroupBox* AddFrame(QWidget* parent, const QString& name, const QString& caption, int top, int height,
-                    int widening) {
-    auto* frame = new QGroupBox(caption, parent);
+// A frame in the window, and the grid of its rows.
+QGridLayout* addFrame(QBoxLayout* window, const QString& name, const QString& caption) {
+    auto* frame = new QGroupBox(caption);
     frame->setObjectName(name);
-    frame->setGeometry(TwipsRect(120, top, 4215, height).adjusted(0, 0, widening, 0));
-    return frame;
-}
-
-QLineEdit* AddValueBox(QWidget* frame, const QString& name, const QString& value, int top, int widening) {
-    auto* box = new QLineEdit(value, frame);
-    box->setObjectName(name);
-    box->setGeometry(TwipsRect(120, top, 3495, 375).adjusted(0, 0, widening, 0));
-    box->setReadOnly(true);
-    box->setAlignment(Qt::AlignCenter);
-    box->setCursorPosition(0);
-    return box;
-}
-
-QPushButton* AddCopyButton(QWidget* frame, const QString& name, int top, const QString& what, int widening) {
-    auto* button = new QPushButton(frame);
-    button->setObjectName(name);
-    button->setGeometry(TwipsRect(3720, top, 375, 375).translated(widening, 0));
-    button->setIcon(CopyIcon());
-    button->setAccessibleName(what);
-    button->setAutoDefault(false);
-    return button;
-}
-
-QLabel* AddLabel(QWidget* frame, const QString& name, const QString& caption, int top) {
-    auto* label = new QLabel(caption, frame);
-    label->setObjectName(name);
-    label->setGeometry(TwipsRect(120, top, 1695, 255));
-    return label;
+    auto* grid = new QGridLayout(frame);
+    grid->setContentsMargins(5, 6, 5, 5);
+    grid->setHorizontalSpacing(7);
+    grid->setVerticalSpacing(0);
+    window->addWidget(frame);
+    return grid;
 }
 
 }  // namespace
 
-HelpDialog::HelpDialog(Dialogs& dialogs, QWidget* parent) : QDialog(parent), dialogs_(dialogs) {
-    MakeFixedDialog(*this, names::kWindow, u"Help!!"_s, 4470, 4620);
-    const int w = Widening();
-    setFixedSize(width() + w, height());
+HelpDialog::HelpDialog(Dialogs& dialogs, QWidget* parent)
+    : DialogWindow(names::kWindow, tr("Help!!"), WindowSize::Fixed, {.enterOnlyOnButtons = true}, parent),
+      dialogs_(dialogs) {
+    auto* window = new QVBoxLayout;
+    window->setContentsMargins(8, 8, 9, 11);
+    window->setSpacing(7);
 
-    helpFrame_ = AddFrame(this, names::kHelpFrame, u"Help + FAQ + Tutorial"_s, 120, 855, w);
-    webSiteBox_ = AddValueBox(helpFrame_, names::kWebSiteBox, info::kWebSite, 360, w);
-    copyWebSiteButton_ =
-        AddCopyButton(helpFrame_, names::kCopyWebSiteButton, 360, u"Copy the web site address"_s, w);
-    connect(copyWebSiteButton_, &QPushButton::clicked, this, &HelpDialog::CopyWebSite);
+    // A value in a read-only box, whole, with the button that copies it: the
+    // button copies the value itself, not what the box may show.
+    const auto addValue = [this](QGridLayout* grid, int row, const QString& boxName, const QString& value,
+                                 const QString& buttonName, const QString& what) {
+        auto* box = new QLineEdit(value);
+        box->setObjectName(boxName);
+        box->setReadOnly(true);
+        box->setAlignment(Qt::AlignCenter);
+        box->setCursorPosition(0);
+        box->setMinimumWidth(qMax(233, fontMetrics().horizontalAdvance(value) + 12));
+        box->setFixedHeight(25);
+        grid->addWidget(box, row, 0);
+        auto* copy = new QPushButton;
+        copy->setObjectName(buttonName);
+        copy->setIcon(copyIcon());
+        copy->setAccessibleName(what);
+        copy->setFixedSize(25, 25);
+        grid->addWidget(copy, row, 1);
+        connect(copy, &QPushButton::clicked, this, [this, value] { dialogs_.SetClipboardText(value); });
+        return box;
+    };
+    const auto addLabel = [](QGridLayout* grid, int row, const QString& name, const QString& caption,
+                             QWidget* buddy) {
+        auto* label = new QLabel(caption);
+        label->setObjectName(name);
+        label->setBuddy(buddy);
+        label->setMinimumHeight(16);
+        grid->addWidget(label, row, 0);
+    };
 
-    forumsFrame_ = AddFrame(this, names::kForumsFrame, u"Forums"_s, 1080, 855, w);
-    forumsBox_ = AddValueBox(forumsFrame_, names::kForumsBox, info::kForums, 360, w);
-    copyForumsButton_ =
-        AddCopyButton(forumsFrame_, names::kCopyForumsButton, 360, u"Copy the forums address"_s, w);
-    connect(copyForumsButton_, &QPushButton::clicked, this, &HelpDialog::CopyForums);
+    QGridLayout* help = addFrame(window, names::kHelpFrame, tr("Help + FAQ + Tutorial"));
+    addValue(help, 0, names::kWebSiteBox, info::kWebSite, names::kCopyWebSiteButton,
+             tr("Copy the web site address"));
+    QGridLayout* forums = addFrame(window, names::kForumsFrame, tr("Forums"));
+    addValue(forums, 0, names::kForumsBox, info::kForums, names::kCopyForumsButton,
+             tr("Copy the forums address"));
+    window->addSpacing(8);
+    QGridLayout* contact = addFrame(window, names::kContactFrame, tr("Contact me"));
+    contact->setContentsMargins(5, 0, 5, 3);
+    addLabel(contact, 0, names::kEmailLabel, tr("Email"),
+             addValue(contact, 1, names::kEmailBox, info::kEmail, names::kCopyEmailButton,
+                      tr("Copy the e-mail address")));
+    contact->setRowMinimumHeight(2, 7);
+    addLabel(contact, 3, names::kChatLabel, tr("ICQ"),
+             addValue(contact, 4, names::kChatNumberBox, info::kChatNumber, names::kCopyChatNumberButton,
+                      tr("Copy the chat number")));
 
-    contactFrame_ = AddFrame(this, names::kContactFrame, u"Contact me"_s, 2160, 1695, w);
-    emailLabel_ = AddLabel(contactFrame_, names::kEmailLabel, u"Email"_s, 240);
-    emailBox_ = AddValueBox(contactFrame_, names::kEmailBox, info::kEmail, 480, w);
-    emailLabel_->setBuddy(emailBox_);
-    copyEmailButton_ =
-        AddCopyButton(contactFrame_, names::kCopyEmailButton, 480, u"Copy the e-mail address"_s, w);
-    connect(copyEmailButton_, &QPushButton::clicked, this, &HelpDialog::CopyEmail);
-    chatLabel_ = AddLabel(contactFrame_, names::kChatLabel, u"ICQ"_s, 960);
-    chatNumberBox_ = AddValueBox(contactFrame_, names::kChatNumberBox, info::kChatNumber, 1200, w);
-    chatLabel_->setBuddy(chatNumberBox_);
-    copyChatNumberButton_ =
-        AddCopyButton(contactFrame_, names::kCopyChatNumberButton, 1200, u"Copy the chat number"_s, w);
-    connect(copyChatNumberButton_, &QPushButton::clicked, this, &HelpDialog::CopyChatNumber);
-
-    closeButton_ = new QPushButton(u"Close"_s, this);
-    closeButton_->setObjectName(names::kCloseButton);
-    closeButton_->setGeometry(TwipsRect(2880, 4080, 1455, 375).translated(w, 0));
-    closeButton_->setAutoDefault(false);
-    connect(closeButton_, &QPushButton::clicked, this, &HelpDialog::Dismiss);
-    closeButton_->setFocus();
-}
-
-void HelpDialog::CopyWebSite() {
-    dialogs_.SetClipboardText(info::kWebSite);
-}
-
-void HelpDialog::CopyForums() {
-    dialogs_.SetClipboardText(info::kForums);
-}
-
-void HelpDialog::CopyEmail() {
-    dialogs_.SetClipboardText(info::kEmail);
-}
-
-void HelpDialog::CopyChatNumber() {
-    dialogs_.SetClipboardText(info::kChatNumber);
-}
-
-void HelpDialog::Dismiss() {
-    reject();
+    auto* closeButton = new QPushButton(tr("Close"));
+    closeButton->setObjectName(names::kCloseButton);
+    setButtonSize(closeButton, 97, 25);
+    connect(closeButton, &QPushButton::clicked, this, &QDialog::reject);
+    window->addSpacing(8);
+    window->addWidget(closeButton, 0, Qt::AlignRight);
+    setContents(window);
+    closeButton->setFocus();
 }
 
 }  // namespace flickerscribe::ui

@@ -49,7 +49,6 @@ constexpr int kPaneTop = 2;
 constexpr int kPaneHeight = 33;
 constexpr int kStripWidth = 249;
 constexpr int kColourButtons = 8;
-constexpr int kColourButtonsTop = 50;
 
 QFont ListFont() {
     QFont font(u"Courier New"_s);
@@ -118,8 +117,6 @@ MainWindow::MainWindow(Dialogs& dialogs, settings::SettingsStore& store, QString
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         move(screen->availableGeometry().center() - rect().center());
 
-    // Enter on a focused colour button presses it.
-    PressFocusedButtonOnEnter(*this);
     // The strip starts hidden; the settings apply, and the empty list shows
     // "Preview" in a locked pane.
     coloursVisible_ = false;
@@ -311,7 +308,7 @@ void MainWindow::BuildControls() {
     auto* pane = new OneLineRichEdit(client_);
     pane->setObjectName(names::kPane);
     // The font the animated picture draws its frames in, too.
-    StyleGreyPane(pane, picture::PreviewFont());
+    styleGreyPane(pane, picture::PreviewFont());
     pane->document()->setDocumentMargin(2);
     // The pane keeps no history of its own: Undo is the animation's.
     pane->setUndoRedoEnabled(false);
@@ -372,7 +369,7 @@ void MainWindow::BuildControls() {
 
     colourStrip_ = new QWidget(client_);
     colourStrip_->setObjectName(names::kColourStrip);
-    colourButtons_ = AddColourButtons(colourStrip_, kColourButtons, 0, kColourButtonsTop);
+    colourButtons_ = addColourButtons(colourStripRow(colourStrip_), kColourButtons);
     for (int index = 0; index < kColourButtons; ++index)
         connect(colourButtons_[static_cast<std::size_t>(index)], &QPushButton::clicked, this,
                 [this, index] { PaintSelection(index); });

@@ -87,7 +87,7 @@ void MainWindow::EditSelectedLine() {
     if (script_.Count() > 0) {
         EditTimeDialog window(this);
         if (window.exec() == QDialog::Accepted)
-            history_.SetTime(tr("Edit time"), script_.SelectedIndex(), FromQString(window.Time()));
+            history_.SetTime(tr("Edit time"), script_.SelectedIndex(), FromQString(window.time()));
     } else {
         dialogs_.Message(this, tr("No items to edit"), tr("Edit"), MsgIcon::Exclamation, MsgButtons::Ok);
     }

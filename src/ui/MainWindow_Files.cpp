@@ -14,7 +14,7 @@ namespace flickerscribe::ui {
 namespace {
 
 QString AnimationFilter() {
-    return MainWindow::tr("Brennock Animation Script (*.fsq)|*.fsq");
+    return MainWindow::tr("Brennock Animation Script (*.fsq)");
 }
 
 }  // namespace
@@ -59,7 +59,7 @@ void MainWindow::ImportScript() {
                      MsgIcon::Information, MsgButtons::Ok);
     // The folder is left as it is: the dialog opens where it was last.
     fileDialog_.title = tr("Import file");
-    fileDialog_.filter = tr("Brennock Scripts (*.cfg)|*.cfg");
+    fileDialog_.filter = tr("Brennock Scripts (*.cfg)");
     if (!dialogs_.ShowOpen(this, fileDialog_)) return;
 
     LoadIntoList(tr("Import"), fileDialog_.fileName, ImportFile, tr("File not found!"), tr("Import error"));

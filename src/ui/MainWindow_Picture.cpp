@@ -25,7 +25,7 @@ void MainWindow::ExportPicture() {
     const auto path = ChooseSavePath(dialogs_, this, fileDialog_,
                                      [this, &title] {
                                          fileDialog_.title = title;
-                                         fileDialog_.filter = tr("Animated picture (*.gif)|*.gif");
+                                         fileDialog_.filter = tr("Animated picture (*.gif)");
                                          if (!settings_.saveFolder.isEmpty())
                                              fileDialog_.initialFolder = settings_.saveFolder;
                                      },

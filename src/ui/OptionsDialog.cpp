@@ -1,8 +1,8 @@
 #include "ui/OptionsDialog.h"
 
 #include <QCheckBox>
+#include <QGridLayout>
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -10,10 +10,8 @@
 
 #include "settings/SettingsStore.h"
 #include "ui/DialogIcons.h"
-#include "ui/DialogWindow.h"
 #include "ui/Dialogs.h"
 #include "ui/SingleLine.h"
-#include "ui/Twips.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -46,133 +44,155 @@ const QString kReverseCheck = QStringLiteral("chkReverse");
 }  // namespace names
 
 template <typename Control>
-Control* Place(Control* control, const QString& name, int left, int top, int width, int height) {
+Control* named(Control* control, const QString& name) {
     control->setObjectName(name);
-    control->setGeometry(TwipsRect(left, top, width, height));
     return control;
 }
 
-QLabel* AddLabel(QWidget* parent, const QString& name, const QString& caption, int left, int top, int width,
-                 int height) {
-    return Place(new QLabel(caption, parent), name, left, top, width, height);
+// The rows of a frame: a label 16 pixels high, a box (or button) 23 high,
+// and a check box in a row of its own.
+constexpr int kLabelRow = 16;
+constexpr int kBoxHeight = 23;
+
+QLabel* addLabel(QGridLayout* grid, const QString& name, const QString& caption, int row, int column) {
+    auto* label = named(new QLabel(caption), name);
+    grid->addWidget(label, row, column);
+    grid->setRowMinimumHeight(row, kLabelRow);
+    return label;
 }
 
-QPushButton* AddButton(QWidget* parent, const QString& name, const QString& caption, int left, int top,
-                       int width, int height) {
-    auto* button = Place(new QPushButton(caption, parent), name, left, top, width, height);
-    // Neither default nor cancel: Enter on a button does nothing special.
-    button->setAutoDefault(false);
-    return button;
-}
-
-QPushButton* AddBrowseButton(QWidget* parent, const QString& name, int top, const QString& what) {
-    QPushButton* button = AddButton(parent, name, QString(), 4440, top, 375, 350);
-    button->setIcon(FolderIcon());
-    button->setAccessibleName(what);
-    return button;
-}
-
-QLineEdit* AddFolderBox(QWidget* parent, const QString& name, int top) {
-    auto* box = Place(new QLineEdit(parent), name, 120, top, 4215, 350);
-    box->setReadOnly(true);
+QLineEdit* addBox(QGridLayout* grid, const QString& name, int row, int column) {
+    auto* box = named(new QLineEdit, name);
+    box->setFixedHeight(kBoxHeight);
+    grid->addWidget(box, row, column, Qt::AlignLeft | Qt::AlignTop);
     return box;
 }
 
-QString Flag(bool on) {
-    return on ? u"1"_s : u"0"_s;
+QGroupBox* addFrame(QWidget* parent, const QString& name, const QString& caption, QGridLayout* grid) {
+    auto* frame = named(new QGroupBox(caption, parent), name);
+    frame->setLayout(grid);
+    grid->setContentsMargins(5, 6, 5, 6);
+    grid->setVerticalSpacing(0);
+    return frame;
 }
 
 }  // namespace
 
 OptionsDialog::OptionsDialog(settings::SettingsStore& store, Dialogs& dialogs,
                              std::function<void()> loadSettings, QWidget* parent)
-    : QDialog(parent), store_(store), dialogs_(dialogs), loadSettings_(std::move(loadSettings)) {
-    MakeFixedDialog(*this, names::kWindow, u"Options"_s, 6810, 4125);
+    : DialogWindow(names::kWindow, tr("Options"), WindowSize::Fixed,
+                   {.enterOnlyOnButtons = true, .escapeKeepsOpen = true}, parent),
+      store_(store),
+      dialogs_(dialogs),
+      loadSettings_(std::move(loadSettings)) {
+    auto* okButton = named(new QPushButton(tr("OK")), names::kOkButton);
+    connect(okButton, &QPushButton::clicked, this, &OptionsDialog::storeSettings);
+    auto* cancelButton = named(new QPushButton(tr("Cancel")), names::kCancelButton);
+    connect(cancelButton, &QPushButton::clicked, this, &QDialog::reject);
 
-    okButton_ = AddButton(this, names::kOkButton, u"OK"_s, 5280, 120, 1455, 350);
-    connect(okButton_, &QPushButton::clicked, this, &OptionsDialog::StoreSettings);
-    cancelButton_ = AddButton(this, names::kCancelButton, u"Cancel"_s, 5280, 600, 1455, 350);
-    connect(cancelButton_, &QPushButton::clicked, this, &OptionsDialog::Cancel);
+    // Editor: the in-place edit, and the two folders, each with its browse button.
+    auto* editor = new QGridLayout;
+    editInPlaceCheck_ = named(new QCheckBox(tr("Selected item edit")), names::kEditInPlaceCheck);
+    editInPlaceCheck_->setToolTip(tr("Edit item by clicking on the selected item"));
+    editor->addWidget(editInPlaceCheck_, 0, 0, 1, 2, Qt::AlignTop);
+    editor->setRowMinimumHeight(0, 24);
+    const auto addFolder = [&](int row, const QString& labelName, const QString& caption,
+                               const QString& boxName, const QString& buttonName, const QString& what,
+                               const QString& title) {
+        addLabel(editor, labelName, caption, row, 0);
+        QLineEdit* box = addBox(editor, boxName, row + 1, 0);
+        box->setReadOnly(true);
+        box->setMinimumWidth(281);
+        editor->setRowMinimumHeight(row + 1, kBoxHeight + 1);
+        auto* browse = named(new QPushButton, buttonName);
+        browse->setIcon(folderIcon());
+        browse->setAccessibleName(what);
+        browse->setFixedSize(25, kBoxHeight);
+        editor->addWidget(browse, row + 1, 1, Qt::AlignTop);
+        connect(browse, &QPushButton::clicked, this, [this, box, title] { browseFolder(box, title); });
+        return box;
+    };
+    openFolderBox_ =
+        addFolder(1, names::kOpenFolderLabel, tr("Default Open directory"), names::kOpenFolderBox,
+                  names::kBrowseOpenFolderButton, tr("Browse for the default Open directory"),
+                  tr("Select default 'Open script' directory"));
+    saveFolderBox_ =
+        addFolder(3, names::kSaveFolderLabel, tr("Default Save directory"), names::kSaveFolderBox,
+                  names::kBrowseSaveFolderButton, tr("Browse for the default Save directory"),
+                  tr("Select default 'Save script' directory"));
+    editor->setHorizontalSpacing(7);
 
-    editorFrame_ = Place(new QGroupBox(u"Editor"_s, this), names::kEditorFrame, 120, 120, 4935, 2055);
-    editInPlaceCheck_ = Place(new QCheckBox(u"Selected item edit"_s, editorFrame_), names::kEditInPlaceCheck,
-                              120, 360, 3855, 255);
-    editInPlaceCheck_->setToolTip(u"Edit item by clicking on the selected item"_s);
-    openFolderLabel_ =
-        AddLabel(editorFrame_, names::kOpenFolderLabel, u"Default Open directory"_s, 120, 720, 2055, 255);
-    openFolderBox_ = AddFolderBox(editorFrame_, names::kOpenFolderBox, 960);
-    browseOpenFolderButton_ = AddBrowseButton(editorFrame_, names::kBrowseOpenFolderButton, 960,
-                                              u"Browse for the default Open directory"_s);
-    connect(browseOpenFolderButton_, &QPushButton::clicked, this, &OptionsDialog::BrowseOpenFolder);
-    saveFolderLabel_ =
-        AddLabel(editorFrame_, names::kSaveFolderLabel, u"Default Save directory"_s, 120, 1320, 2055, 255);
-    saveFolderBox_ = AddFolderBox(editorFrame_, names::kSaveFolderBox, 1560);
-    browseSaveFolderButton_ = AddBrowseButton(editorFrame_, names::kBrowseSaveFolderButton, 1560,
-                                              u"Browse for the default Save directory"_s);
-    connect(browseSaveFolderButton_, &QPushButton::clicked, this, &OptionsDialog::BrowseSaveFolder);
-
-    wizardFrame_ =
-        Place(new QGroupBox(u"Wizard Defaults"_s, this), names::kWizardFrame, 120, 2280, 4935, 1695);
-    clanTagLabel_ = AddLabel(wizardFrame_, names::kClanTagLabel, u"Clantag"_s, 120, 360, 1335, 255);
-    clanTagBox_ = Place(new QLineEdit(wizardFrame_), names::kClanTagBox, 120, 600, 1335, 350);
-    clanTagLabel_->setBuddy(clanTagBox_);
-    nameLabel_ = AddLabel(wizardFrame_, names::kNameLabel, u"Name"_s, 1680, 360, 975, 255);
-    nameBox_ = Place(new QLineEdit(wizardFrame_), names::kNameBox, 1680, 600, 3015, 350);
-    nameLabel_->setBuddy(nameBox_);
+    // Wizard defaults: clan tag and name side by side, then the order.
+    auto* wizard = new QGridLayout;
+    clanTagBox_ = addBox(wizard, names::kClanTagBox, 1, 0);
+    nameBox_ = addBox(wizard, names::kNameBox, 1, 1);
+    addLabel(wizard, names::kClanTagLabel, tr("Clantag"), 0, 0)->setBuddy(clanTagBox_);
+    addLabel(wizard, names::kNameLabel, tr("Name"), 0, 1)->setBuddy(nameBox_);
+    wizard->setRowMinimumHeight(1, kBoxHeight + 9);
+    clanTagBox_->setFixedWidth(89);
+    nameBox_->setFixedWidth(201);
     KeepOnOneLine(clanTagBox_);
     KeepOnOneLine(nameBox_);
-    reverseCheck_ =
-        Place(new QCheckBox(u"Reverse clantag"_s, wizardFrame_), names::kReverseCheck, 120, 1080, 4575, 255);
+    reverseCheck_ = named(new QCheckBox(tr("Reverse clantag")), names::kReverseCheck);
+    wizard->addWidget(reverseCheck_, 2, 0, 1, 2, Qt::AlignTop);
+    wizard->setRowMinimumHeight(2, 32);
+    wizard->setHorizontalSpacing(15);
+    wizard->setColumnStretch(1, 1);
+
+    auto* frames = new QVBoxLayout;
+    frames->setSpacing(7);
+    frames->addWidget(addFrame(this, names::kEditorFrame, tr("Editor"), editor));
+    frames->addWidget(addFrame(this, names::kWizardFrame, tr("Wizard Defaults"), wizard));
+    auto* buttons = new QVBoxLayout;
+    buttons->setSpacing(9);
+    for (QPushButton* button : {okButton, cancelButton}) {
+        button->setMinimumSize(97, kBoxHeight);
+        buttons->addWidget(button);
+    }
+    buttons->addStretch();
+    auto* window = new QHBoxLayout;
+    window->setContentsMargins(8, 8, 5, 10);
+    window->setSpacing(15);
+    window->addLayout(frames);
+    window->addLayout(buttons);
+    setContents(window);
 
     // The tab order starts at the two buttons, then runs through the frames.
-    QWidget* const order[] = {
-        okButton_,      cancelButton_,           editInPlaceCheck_, openFolderBox_, browseOpenFolderButton_,
-        saveFolderBox_, browseSaveFolderButton_, clanTagBox_,       nameBox_,       reverseCheck_};
+    QWidget* const order[] = {okButton,       cancelButton, editInPlaceCheck_, openFolderBox_,
+                              saveFolderBox_, clanTagBox_,  nameBox_,          reverseCheck_};
     for (std::size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
-    okButton_->setFocus();
+    setTabOrder(openFolderBox_, findChild<QPushButton*>(names::kBrowseOpenFolderButton));
+    setTabOrder(saveFolderBox_, findChild<QPushButton*>(names::kBrowseSaveFolderButton));
+    okButton->setFocus();
 
-    ShowStoredSettings();
+    showStoredSettings();
 }
 
-void OptionsDialog::ShowStoredSettings() {
-    nameBox_->setText(store_.ReadValue(u"Name"_s));
-    clanTagBox_->setText(store_.ReadValue(u"Clantag"_s));
-    openFolderBox_->setText(store_.ReadValue(u"OpenDir"_s));
-    saveFolderBox_->setText(store_.ReadValue(u"SaveDir"_s));
-    reverseCheck_->setChecked(store_.ReadValue(u"Reverse"_s) == u"1"_s);
-    editInPlaceCheck_->setChecked(store_.ReadValue(u"EditItem"_s) == u"1"_s);
+void OptionsDialog::showStoredSettings() {
+    const settings::Settings stored = settings::LoadSettings(store_);
+    nameBox_->setText(stored.name);
+    clanTagBox_->setText(stored.clanTag);
+    openFolderBox_->setText(stored.openFolder);
+    saveFolderBox_->setText(stored.saveFolder);
+    reverseCheck_->setChecked(stored.reverse);
+    editInPlaceCheck_->setChecked(stored.editInPlace);
 }
 
-void OptionsDialog::BrowseOpenFolder() {
-    openFolderBox_->setText(dialogs_.BrowseForFolder(this, u"Select default 'Open script' directory"_s));
+void OptionsDialog::browseFolder(QLineEdit* box, const QString& title) {
+    box->setText(dialogs_.BrowseForFolder(this, title));
 }
 
-void OptionsDialog::BrowseSaveFolder() {
-    saveFolderBox_->setText(dialogs_.BrowseForFolder(this, u"Select default 'Save script' directory"_s));
-}
-
-void OptionsDialog::StoreSettings() {
-    store_.WriteValue(u"EditItem"_s, Flag(editInPlaceCheck_->isChecked()));
-    store_.WriteValue(u"Name"_s, nameBox_->text());
-    store_.WriteValue(u"Clantag"_s, clanTagBox_->text());
-    store_.WriteValue(u"Reverse"_s, Flag(reverseCheck_->isChecked()));
-    store_.WriteValue(u"OpenDir"_s, openFolderBox_->text());
-    store_.WriteValue(u"SaveDir"_s, saveFolderBox_->text());
-    store_.WriteValue(u"GenerateDir"_s, saveFolderBox_->text());
+void OptionsDialog::storeSettings() {
+    settings::Settings chosen;
+    chosen.editInPlace = editInPlaceCheck_->isChecked();
+    chosen.name = nameBox_->text();
+    chosen.clanTag = clanTagBox_->text();
+    chosen.reverse = reverseCheck_->isChecked();
+    chosen.openFolder = openFolderBox_->text();
+    chosen.saveFolder = saveFolderBox_->text();
+    settings::SaveSettings(store_, chosen);
     if (loadSettings_) loadSettings_();
     accept();
-}
-
-void OptionsDialog::Cancel() {
-    reject();
-}
-
-void OptionsDialog::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape) {
-        event->accept();
-        return;
-    }
-    QDialog::keyPressEvent(event);
 }
 
 }  // namespace flickerscribe::ui

@@ -3,11 +3,14 @@
 #include <QPalette>
 #include <QTextEdit>
 
-#include "colour/Palette.h"
-
 namespace flickerscribe::ui {
 
-QFont BoldFont(const QString& family, qreal points, QFont::StyleHint fallback) {
+QColor toQColor(Colour colour) {
+    return QColor(static_cast<int>(RedOf(colour)), static_cast<int>(GreenOf(colour)),
+                  static_cast<int>(BlueOf(colour)));
+}
+
+QFont boldFont(const QString& family, qreal points, QFont::StyleHint fallback) {
     QFont font(family);
     font.setStyleHint(fallback);
     font.setPointSizeF(points);
@@ -15,11 +18,9 @@ QFont BoldFont(const QString& family, qreal points, QFont::StyleHint fallback) {
     return font;
 }
 
-void StyleGreyPane(QTextEdit* pane, const QFont& font) {
+void styleGreyPane(QTextEdit* pane, const QFont& font) {
     QPalette palette = pane->palette();
-    const QColor grey(static_cast<int>(RedOf(kPaneGrey)), static_cast<int>(GreenOf(kPaneGrey)),
-                      static_cast<int>(BlueOf(kPaneGrey)));
-    palette.setColor(QPalette::Base, grey);
+    palette.setColor(QPalette::Base, toQColor(kPaneGrey));
     palette.setColor(QPalette::Text, Qt::black);
     pane->setPalette(palette);
     pane->setFont(font);

@@ -13,8 +13,9 @@ namespace flickerscribe::ui::info {
 
 inline const QString kProgramTitle = QStringLiteral("Flickerscribe");
 
-// The version of this build, "major.minor.patch".
-inline std::string ProgramVersion() {
+// The version of this build, "major.minor.patch": the About window shows it,
+// and the program gives it to Qt as the application's version.
+inline std::string programVersion() {
     return std::to_string(FS_VERSION_MAJOR) + "." + std::to_string(FS_VERSION_MINOR) + "." +
            std::to_string(FS_VERSION_PATCH);
 }

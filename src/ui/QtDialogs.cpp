@@ -15,11 +15,11 @@ namespace flickerscribe::ui {
 
 namespace {
 
-QString TitleOrAppName(const QString& title) {
+QString titleOrAppName(const QString& title) {
     return title.isEmpty() ? QApplication::applicationName() : title;
 }
 
-QMessageBox::Icon ToQtIcon(MsgIcon icon) {
+QMessageBox::Icon toQtIcon(MsgIcon icon) {
     switch (icon) {
         case MsgIcon::Critical:
             return QMessageBox::Critical;
@@ -40,7 +40,7 @@ struct ButtonSet {
     QMessageBox::StandardButton escape;  // also the answer when the box is closed otherwise
 };
 
-ButtonSet ToQtButtons(MsgButtons buttons) {
+ButtonSet toQtButtons(MsgButtons buttons) {
     switch (buttons) {
         case MsgButtons::OkCancel:
             return {QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel};
@@ -54,7 +54,7 @@ ButtonSet ToQtButtons(MsgButtons buttons) {
     return {QMessageBox::Ok, QMessageBox::Ok};
 }
 
-MsgAnswer ToAnswer(int button, QMessageBox::StandardButton escape) {
+MsgAnswer toAnswer(int button, QMessageBox::StandardButton escape) {
     switch (button) {
         case QMessageBox::Ok:
             return MsgAnswer::Ok;
@@ -65,40 +65,25 @@ MsgAnswer ToAnswer(int button, QMessageBox::StandardButton escape) {
         case QMessageBox::Cancel:
             return MsgAnswer::Cancel;
         default:
-            return ToAnswer(escape, QMessageBox::Cancel);
+            return toAnswer(escape, QMessageBox::Cancel);
     }
 }
 
 }  // namespace
 
-QStringList QtNameFilters(const QString& filter) {
-    QStringList out;
-    const QStringList parts = filter.split(u'|');
-    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
-        const QString description = parts[i].trimmed();
-        QString patterns = parts[i + 1].trimmed();
-        patterns.replace(u';', u' ');
-        if (description.contains(QStringLiteral("(%1)").arg(patterns)))
-            out << description;
-        else
-            out << QStringLiteral("%1 (%2)").arg(description, patterns);
-    }
-    return out;
-}
-
 MsgAnswer QtDialogs::Message(QWidget* parent, const QString& text, const QString& title, MsgIcon icon,
                              MsgButtons buttons) {
-    const ButtonSet set = ToQtButtons(buttons);
-    QMessageBox box(ToQtIcon(icon), TitleOrAppName(title), text, set.buttons, parent);
+    const ButtonSet set = toQtButtons(buttons);
+    QMessageBox box(toQtIcon(icon), titleOrAppName(title), text, set.buttons, parent);
     box.setEscapeButton(set.escape);
     const int pressed = box.exec();
-    return ToAnswer(pressed, set.escape);
+    return toAnswer(pressed, set.escape);
 }
 
 std::optional<QString> QtDialogs::InputBox(QWidget* parent, const QString& prompt, const QString& title,
                                            const QString& defaultText) {
     QInputDialog dialog(parent);
-    dialog.setWindowTitle(TitleOrAppName(title));
+    dialog.setWindowTitle(titleOrAppName(title));
     dialog.setLabelText(prompt);
     dialog.setInputMode(QInputDialog::TextInput);
     dialog.setTextValue(defaultText);
@@ -108,14 +93,14 @@ std::optional<QString> QtDialogs::InputBox(QWidget* parent, const QString& promp
 }
 
 bool QtDialogs::ShowOpen(QWidget* parent, FileDialogState& state) {
-    return ShowFileDialog(parent, state, false);
+    return showFileDialog(parent, state, false);
 }
 
 bool QtDialogs::ShowSave(QWidget* parent, FileDialogState& state) {
-    return ShowFileDialog(parent, state, true);
+    return showFileDialog(parent, state, true);
 }
 
-bool QtDialogs::ShowFileDialog(QWidget* parent, FileDialogState& state, bool save) {
+bool QtDialogs::showFileDialog(QWidget* parent, FileDialogState& state, bool save) {
     QFileDialog dialog(parent, state.title);
     dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     // Any name may be typed: the commands test for existence and ask about
@@ -123,8 +108,7 @@ bool QtDialogs::ShowFileDialog(QWidget* parent, FileDialogState& state, bool sav
     // without one.
     dialog.setOption(QFileDialog::DontConfirmOverwrite, true);
     dialog.setDefaultSuffix(QString());
-    const QStringList filters = QtNameFilters(state.filter);
-    if (!filters.isEmpty()) dialog.setNameFilters(filters);
+    if (!state.filter.isEmpty()) dialog.setNameFilter(state.filter);
     const QString folder = !state.initialFolder.isEmpty() ? state.initialFolder : lastFolder_;
     if (!folder.isEmpty()) dialog.setDirectory(folder);
     // A remembered name with a folder of its own opens in that folder.

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QStringList>
-
 #include "ui/Dialogs.h"
 
 namespace flickerscribe::ui {
@@ -21,17 +19,11 @@ public:
     std::optional<QString> ClipboardText() override;
 
 private:
-    bool ShowFileDialog(QWidget* parent, FileDialogState& state, bool save);
+    bool showFileDialog(QWidget* parent, FileDialogState& state, bool save);
 
     // The folder of the last file chosen, where a dialog with no folder of its
     // own opens next.
     QString lastFolder_;
 };
-
-// "Description (*.a)|*.a|All (*.*)|*.*" as Qt's name filters:
-// "Description (*.a)", "All (*.*)". A description without its patterns in
-// brackets gets them appended; several patterns ("*.a;*.b") are separated by
-// blanks.
-QStringList QtNameFilters(const QString& filter);
 
 }  // namespace flickerscribe::ui

@@ -11,16 +11,12 @@
 #include <QTextEdit>
 #include <algorithm>
 
+#include "ui/PaneStyle.h"
 #include "ui/TextConv.h"
 
 namespace flickerscribe::ui {
 
 namespace {
-
-QColor ToQColor(Colour colour) {
-    return QColor(static_cast<int>(RedOf(colour)), static_cast<int>(GreenOf(colour)),
-                  static_cast<int>(BlueOf(colour)));
-}
 
 // A character that was never painted has no brush of its own and shows in the
 // pane's default colour, black.
@@ -35,7 +31,7 @@ Colour ColourOf(const QTextCharFormat& format) {
 
 QTextCharFormat FormatOf(Colour colour) {
     QTextCharFormat format;
-    format.setForeground(ToQColor(colour));
+    format.setForeground(toQColor(colour));
     return format;
 }
 

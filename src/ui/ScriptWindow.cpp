@@ -1,7 +1,6 @@
 #include "ui/ScriptWindow.h"
 
 #include <QAction>
-#include <QKeyEvent>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QScreen>
@@ -11,7 +10,6 @@
 #include "document/SafeWrite.h"
 #include "script/ScriptText.h"
 #include "settings/Settings.h"
-#include "ui/DialogWindow.h"
 #include "ui/FileCommands.h"
 #include "ui/TextConv.h"
 
@@ -31,12 +29,11 @@ const QString kScriptBox = QStringLiteral("txtScript");
 
 }  // namespace names
 
-// The size the window opens with, in twips.
-constexpr int kOpeningWidth = 9600;
-constexpr int kOpeningHeight = 7200;
+// The size the window opens with.
+constexpr QSize kOpeningSize(640, 480);
 
 // Courier New at 9.75 points, or the nearest fixed-pitch face there is.
-QFont ScriptFont() {
+QFont scriptFont() {
     QFont font;
     font.setFamilies({u"Courier New"_s, u"Courier"_s, u"Liberation Mono"_s, u"DejaVu Sans Mono"_s});
     font.setStyleHint(QFont::TypeWriter);
@@ -49,38 +46,42 @@ QFont ScriptFont() {
 
 ScriptWindow::ScriptWindow(const AnimationScript& script, Dialogs& dialogs,
                            const settings::Settings& settings, QWidget* parent)
-    : QDialog(parent), script_(script), dialogs_(dialogs), settings_(settings) {
-    MakeSizableDialog(*this, names::kWindow, u"Generate Brennock Script"_s, kOpeningWidth, kOpeningHeight);
-
+    : DialogWindow(names::kWindow, tr("Generate Brennock Script"), WindowSize::Sizable,
+                   {.escapeKeepsOpen = true}, parent),
+      script_(script),
+      dialogs_(dialogs),
+      settings_(settings) {
     auto* menu = new QMenuBar(this);
     menu->setNativeMenuBar(false);
-    saveAction_ = menu->addAction(u"Save"_s);
+    saveAction_ = menu->addAction(tr("Save"));
     saveAction_->setObjectName(names::kSaveEntry);
-    connect(saveAction_, &QAction::triggered, this, &ScriptWindow::SaveScript);
+    connect(saveAction_, &QAction::triggered, this, &ScriptWindow::saveScript);
 
     scriptBox_ = new QPlainTextEdit(this);
     scriptBox_->setObjectName(names::kScriptBox);
     scriptBox_->setLineWrapMode(QPlainTextEdit::NoWrap);
     scriptBox_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     scriptBox_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    scriptBox_->setFont(ScriptFont());
+    scriptBox_->setFont(scriptFont());
 
     // The box fills the whole client area under the menu, whatever its size.
-    auto* layout = new QVBoxLayout(this);
+    auto* layout = new QVBoxLayout;
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->setMenuBar(menu);
     layout->addWidget(scriptBox_);
+    setContents(layout);
+    resize(kOpeningSize);
 
-    saveDialog_.title = u"Save Script"_s;
-    saveDialog_.filter = u"Brennock Script (*.cfg)|*.cfg|All Files(*.*)|*.*"_s;
+    saveDialog_.title = tr("Save Script");
+    saveDialog_.filter = tr("Brennock Script (*.cfg);;All Files(*.*)");
 
-    BuildScript();
+    buildScript();
 }
 
 ScriptWindow::~ScriptWindow() = default;
 
-void ScriptWindow::BuildScript() {
+void ScriptWindow::buildScript() {
     // The window isn't shown yet: the messages stand over its owner.
     QWidget* owner = parentWidget();
     const std::string text = BuildScriptText(script_, [this, owner](const std::string& message) {
@@ -91,7 +92,7 @@ void ScriptWindow::BuildScript() {
     scriptBox_->setPlainText(ToQString(text));
 }
 
-std::string ScriptWindow::ScriptFileBytes() const {
+std::string ScriptWindow::scriptFileBytes() const {
     // The raw text keeps no-break spaces as they are; every line break of the
     // box, a soft one too, becomes CR LF.
     QString text = scriptBox_->document()->toRawText();
@@ -102,17 +103,17 @@ std::string ScriptWindow::ScriptFileBytes() const {
     return bytes;
 }
 
-void ScriptWindow::SaveScript() {
+void ScriptWindow::saveScript() {
     const auto path = ChooseSavePath(dialogs_, this, saveDialog_,
                                      [this] {
                                          if (!settings_.saveFolder.isEmpty())
                                              saveDialog_.initialFolder = settings_.saveFolder;
                                      },
-                                     {u"File Exists! Overwrite?"_s, u"Save script"_s});
+                                     {tr("File Exists! Overwrite?"), tr("Save script")});
     if (!path) return;
     // The file is replaced only once the new text is complete on disk; on a
     // failure the old file stays whole and the text stays in the box.
-    if (const auto error = WriteFileSafely(*path, ScriptFileBytes())) ShowSaveError(dialogs_, this, *error);
+    if (const auto error = WriteFileSafely(*path, scriptFileBytes())) ShowSaveError(dialogs_, this, *error);
 }
 
 void ScriptWindow::showEvent(QShowEvent* event) {
@@ -125,16 +126,6 @@ void ScriptWindow::showEvent(QShowEvent* event) {
         frame.moveCenter(screen->availableGeometry().center());
         move(frame.topLeft());
     }
-}
-
-void ScriptWindow::keyPressEvent(QKeyEvent* event) {
-    // Escape would close the window and lose the edits in the box: the close
-    // box is the way out.
-    if (event->key() == Qt::Key_Escape) {
-        event->accept();
-        return;
-    }
-    QDialog::keyPressEvent(event);
 }
 
 }  // namespace flickerscribe::ui

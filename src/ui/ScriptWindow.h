@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QDialog>
 #include <string>
 
+#include "ui/DialogWindow.h"
 #include "ui/Dialogs.h"
 
 class QAction;
@@ -19,8 +19,9 @@ namespace flickerscribe::ui {
 
 // The generated script in an editable box, and Save, which writes what the
 // box holds to a .cfg file. Opened modally by Generate; a new window each time,
-// so it always shows the animation of the moment.
-class ScriptWindow : public QDialog {
+// so it always shows the animation of the moment. Escape would close the
+// window and lose the edits in the box: the close box is the way out.
+class ScriptWindow : public DialogWindow {
     Q_OBJECT
 
 public:
@@ -34,22 +35,21 @@ public:
 
     // The command of the Save menu entry: asks for a name and writes the
     // box's text.
-    void SaveScript();
+    void saveScript();
 
     // What a save writes: the box's text as Windows-1252 with CR LF line
     // breaks, followed by one more CR LF.
-    std::string ScriptFileBytes() const;
-    QPlainTextEdit* ScriptBox() const { return scriptBox_; }
+    std::string scriptFileBytes() const;
+    QPlainTextEdit* scriptBox() const { return scriptBox_; }
 
     // This window's own save dialog.
-    FileDialogState& SaveDialog() { return saveDialog_; }
+    FileDialogState& saveDialog() { return saveDialog_; }
 
 protected:
     void showEvent(QShowEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void BuildScript();
+    void buildScript();
 
     const AnimationScript& script_;
     Dialogs& dialogs_;

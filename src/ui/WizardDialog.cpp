@@ -19,6 +19,7 @@
 #include "ui/Dialogs.h"
 #include "ui/LineLimit.h"
 #include "ui/TextConv.h"
+#include "ui/Twips.h"
 #include "ui/WizardDialogNames.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -43,7 +44,8 @@ WizardDialog::WizardDialog(AnimationHistory& history, Dialogs& dialogs, const se
     : QWizard(parent), history_(history), dialogs_(dialogs) {
     // The window is 7530 x 5790 twips from edge to edge; a fixed single border
     // of 45 twips on each side and a caption bar of 315 leave this client area.
-    MakeFixedDialog(*this, names::kWindow, tr("Animation Script Wizard"), 7440, 5385);
+    setUpDialog(*this, names::kWindow, tr("Animation Script Wizard"), WindowSize::Fixed);
+    setFixedSize(Twips(7440), Twips(5385));
     // A white header over each page, the picture down the side of the first.
     setWizardStyle(QWizard::ModernStyle);
     // The etched lines under the header and over the buttons: a dark grey one

@@ -27,7 +27,7 @@ public:
     void Run(const std::string& command, const std::vector<std::optional<QString>>& files) {
         for (const auto& file : files)
             command.starts_with("Save") ? dialogs.QueueSave(file) : dialogs.QueueOpen(file);
-        if (command == "SaveScript") return GeneratedScript().SaveScript();
+        if (command == "SaveScript") return GeneratedScript().saveScript();
         Trigger(command == "Open"     ? u"mnuFileOpen"_s
                 : command == "SaveAs" ? u"mnuFileSaveAs"_s
                                       : u"mnuFileImport"_s);
@@ -46,7 +46,7 @@ TEST_F(Files, EachDialogOpensInItsFolderAndCancelChangesNothing) {
             store.WriteValue(u"OpenDir"_s, folder);
             store.WriteValue(u"SaveDir"_s, folder);
             window->LoadSettings();
-            (command == std::string("SaveScript") ? GeneratedScript().SaveDialog() : window->FileDialog())
+            (command == std::string("SaveScript") ? GeneratedScript().saveDialog() : window->FileDialog())
                 .initialFolder = u"/last"_s;
             Run(command, {std::nullopt});
             EXPECT_EQ(dialogs.Calls().back().state.initialFolder,
@@ -148,15 +148,15 @@ TEST_F(Files, SavesReplaceAFileOnlyWhenAskedAndKeepItWhenTheDiskIsFull) {
 TEST_F(Files, TheScriptWindowShowsTheScriptAndSavesWhatItsBoxHolds) {
     Start({"^1Fl^7ick/15", "\x80\xE9/1.5"});
     ScriptWindow& w = GeneratedScript();
-    EXPECT_TRUE(w.ScriptFileBytes().starts_with("\r\n//-----"));
-    EXPECT_TRUE(w.ScriptFileBytes().ends_with(
+    EXPECT_TRUE(w.scriptFileBytes().starts_with("\r\n//-----"));
+    EXPECT_TRUE(w.scriptFileBytes().ends_with(
         "set name \"^1Fl^7ick\"\r\nwait 15\r\nset name \"\x80\xE9\"\r\nwait 1.5\r\n"));
-    w.ScriptBox()->setPlainText(u"\u20ac\u00e9\u6f22\nx\u2028y"_s);
+    w.scriptBox()->setPlainText(u"\u20ac\u00e9\u6f22\nx\u2028y"_s);
     dialogs.QueueSave(PathOf(u"typed.cfg"_s));
     w.findChild<QMenuBar*>()->actions().front()->trigger();
     EXPECT_EQ(ReadBytes(PathOf(u"typed.cfg"_s)), "\x80\xE9?\r\nx\r\ny\r\n");
     w.show();
-    QTest::keyClick(w.ScriptBox(), Qt::Key_Escape);
+    QTest::keyClick(w.scriptBox(), Qt::Key_Escape);
     EXPECT_TRUE(w.isVisible()) << "Escape would lose the edits";
     w.close();
 }

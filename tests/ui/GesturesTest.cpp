@@ -10,14 +10,15 @@ using Gestures = DialogTest;
 
 // What a window left after a gesture: open or closed, the wizard's page and
 // effect rows, the time the Edit dialog gives, the settings written, the
-// lines and the titles of the questions asked.
+// lines, what was copied and the titles of the questions asked.
 QString State(Gestures& t, qsizetype writesBefore, qsizetype askedBefore) {
     QString state = t.dialog->isVisible() ? u"open"_s : u"closed"_s;
     if (auto* wizard = dynamic_cast<WizardDialog*>(t.dialog.get()))
         state += u" page %1 rows %2"_s.arg(wizard->currentId())
                      .arg(t.Child<QTreeWidget>(u"lvwEffects"_s)->topLevelItemCount());
     if (auto* edit = dynamic_cast<EditTimeDialog*>(t.dialog.get()))
-        state += edit->result() == QDialog::Accepted ? u" time "_s + edit->Time() : u" no time"_s;
+        state += edit->result() == QDialog::Accepted ? u" time "_s + edit->time() : u" no time"_s;
+    if (!t.dialogs.clipboard.isEmpty()) state += u" copied "_s + t.dialogs.clipboard;
     state += u" writes %1 lines %2"_s.arg(t.store.Writes().size() - writesBefore).arg(t.Script().Count());
     for (const QString& asked : t.dialogs.Asked().mid(askedBefore))
         state += u" asked "_s + asked.section(u" ["_s, 0, 0);
@@ -25,7 +26,8 @@ QString State(Gestures& t, qsizetype writesBefore, qsizetype askedBefore) {
 }
 
 // Enter presses the focused button; in a box or a list it is the default
-// button's (Next in the wizard, Finish on its last page).
+// button's (Next in the wizard, Finish on its last page), and nothing's
+// where there is none (Options, Help).
 TEST_F(Gestures, EnterPressesTheFocusedButtonElseTheDefault) {
     const std::tuple<const char*, int, const char*, const char*> cases[] = {
         {"frmWizard", 4, "cmdAddEffect", "open page 4 rows 1 writes 0 lines 2"},
@@ -35,11 +37,14 @@ TEST_F(Gestures, EnterPressesTheFocusedButtonElseTheDefault) {
         {"frmEdit", 0, "txtTime", "closed time 15 writes 0 lines 2"},
         {"frmOptions", 0, "cmdOK", "closed writes 7 lines 2"},
         {"frmOptions", 0, "txtName", "open writes 0 lines 2"},
+        {"frmHelp", 0, "Command5", "open copied 123456789 writes 0 lines 2"},
+        {"frmHelp", 0, "Text1", "open writes 0 lines 2"},
         {"frmWizard", 4, "lvwEffects", "closed page 4 rows 0 writes 0 lines 0"},
     };
     Start({"A/10", "B/20"}, 1);
     for (const auto& [name, page, focusName, after] : cases) {
         const auto writes = store.Writes().size(), asked = dialogs.Asked().size();
+        dialogs.clipboard.clear();
         Open(QString::fromLatin1(name));
         if (page > 0) ToWizardPage(page);
         if (page == 4) Child<QComboBox>(u"cmbEffects"_s)->setCurrentIndex(0);
@@ -83,7 +88,7 @@ TEST_F(Gestures, ALineBreakPastedIntoAOneLineBoxBecomesABlank) {
                 given = QString::fromStdString(Script().LineAt(1).Text);
             } else if (auto* time = dynamic_cast<EditTimeDialog*>(dialog.get())) {
                 QTest::keyClick(edit, Qt::Key_Return);
-                given = time->Time();
+                given = time->time();
             }
             EXPECT_EQ(given, u"1 "_s);
         }
