@@ -19,6 +19,9 @@ mode="${1:-all}"
 cache="${FS_WINDOWS_CACHE:-$HOME/.cache/flickerscribe-windows}"
 export FS_WINDOWS_CACHE="$cache"
 mkdir -p "$cache/logs"
+# One run at a time: a second one waits for the cache the first is making.
+exec 9>"$cache/.lock"
+flock 9
 toolchain="$repo/cmake/MinGW-w64.cmake"
 mingw=x86_64-w64-mingw32
 jobs="$(nproc)"
@@ -74,15 +77,117 @@ ensure_deb_src() {
 # fetch_source PACKAGE VERSION: downloads a Debian source package into
 # $cache/src (once) and prints the folder it is in.
 fetch_source() {
-  local pkg=$1 version=$2 dir="$cache/src/$1"
+  local pkg=$1 version=${2:-} dir="$cache/src/$1"
   mkdir -p "$dir"
   if ! ls "$dir"/*.dsc >/dev/null 2>&1; then
     ensure_deb_src
-    (cd "$dir" && apt-get source --download-only -qq "$pkg=$version" >&2 ||
+    (cd "$dir" && { [ -n "$version" ] && apt-get source --download-only -qq "$pkg=$version" >&2; } ||
                   apt-get source --download-only -qq "$pkg" >&2)
   fi
   echo "$dir"
 }
+
+# unpack_source PACKAGE: a Debian source package with Debian's patches applied,
+# freshly unpacked under $cache/build; prints the folder.
+unpack_source() {
+  local srcdir dir="$cache/build/$1"
+  srcdir="$(fetch_source "$1" "${2:-}")"
+  rm -rf "$dir" && mkdir -p "$dir"
+  (cd "$dir" && dpkg-source -q -x "$(ls "$srcdir"/*.dsc | head -n 1)" src >&2)
+  echo "$dir/src"
+}
+
+# --- giflib for Windows ---------------------------------------------------------
+# A static library (nothing to ship beside the programs but its licence), for the
+# animated-picture export; CMake's FindGIF finds it through the toolchain file.
+gif_prefix="$cache/giflib"
+if [ ! -f "$gif_prefix/.complete" ]; then
+  say "building giflib for Windows"
+  src="$(unpack_source giflib)"
+  rm -rf "$gif_prefix" && mkdir -p "$gif_prefix/include" "$gif_prefix/lib" "$gif_prefix/share/doc/giflib"
+  objects=()
+  for c in dgif_lib egif_lib gifalloc gif_err gif_font gif_hash openbsd-reallocarray quantize; do
+    run giflib.log $mingw-gcc-posix -O2 -Wall -c "$src/$c.c" -o "$cache/build/giflib/$c.o"
+    objects+=("$cache/build/giflib/$c.o")
+  done
+  run giflib-ar.log $mingw-ar rcs "$gif_prefix/lib/libgif.a" "${objects[@]}"
+  cp "$src/gif_lib.h" "$gif_prefix/include/"
+  cp "$src/COPYING" "$gif_prefix/share/doc/giflib/COPYING"
+  rm -rf "$cache/build/giflib"
+  touch "$gif_prefix/.complete"
+fi
+
+# --- GoogleTest for Windows -----------------------------------------------------
+gtest_prefix="$cache/googletest"
+if [ ! -f "$gtest_prefix/.complete" ]; then
+  say "building GoogleTest for Windows"
+  src="$(unpack_source googletest)"
+  rm -rf "$gtest_prefix"
+  run googletest-configure.log cmake -G Ninja -S "$src" -B "$cache/build/googletest/build" \
+    -DCMAKE_TOOLCHAIN_FILE="$toolchain" -DCMAKE_BUILD_TYPE=Release \
+    -DCMAKE_INSTALL_PREFIX="$gtest_prefix" -DBUILD_SHARED_LIBS=OFF
+  run googletest-build.log cmake --build "$cache/build/googletest/build" -j "$jobs"
+  run googletest-install.log cmake --install "$cache/build/googletest/build"
+  rm -rf "$cache/build/googletest"
+  touch "$gtest_prefix/.complete"
+fi
+
+# --- Wine -----------------------------------------------------------------------
+# A prefix of our own, reporting Windows 10 (Qt 6 wants it), without a desktop
+# integration that would add menu entries to the host.
+export WINEPREFIX="$cache/wine"
+export WINEDEBUG=-all
+export WINEDLLOVERRIDES="winemenubuilder.exe=d;mscoree,mshtml="
+if [ ! -f "$WINEPREFIX/.complete" ]; then
+  say "making a Wine prefix"
+  rm -rf "$WINEPREFIX"
+  run wineboot.log wineboot -i
+  run winecfg.log wine winecfg -v win10
+  wineserver -w
+  touch "$WINEPREFIX/.complete"
+fi
+mingw_runtime=("/usr/lib/gcc/$mingw/$($mingw-gcc-posix -dumpversion | cut -d. -f1)-posix"
+               "/usr/$mingw/lib")
+# Linux paths for Wine's DLL search, semicolon-separated.
+windows_dll_path() { local IFS=';'; echo "$*"; }
+
+# giflib works: a two-frame picture written and read back under Wine.
+if [ ! -f "$gif_prefix/.checked" ]; then
+  check="$cache/build/gifcheck"
+  mkdir -p "$check"
+  cat >"$check/gifcheck.c" <<'C'
+#include <gif_lib.h>
+#include <stdio.h>
+int main(int argc, char** argv) {
+    int error = 0;
+    GifFileType* out = EGifOpenFileName(argv[argc - 1], false, &error);
+    if (!out) return 1;
+    GifColorType colours[2] = {{0, 0, 0}, {255, 0, 0}};
+    ColorMapObject* map = GifMakeMapObject(2, colours);
+    EGifPutScreenDesc(out, 2, 2, 1, 0, map);
+    for (int frame = 0; frame < 2; ++frame) {
+        GifPixelType pixels[4] = {frame, 1 - frame, 1 - frame, frame};
+        EGifPutImageDesc(out, 0, 0, 2, 2, false, NULL);
+        for (int row = 0; row < 2; ++row) EGifPutLine(out, pixels + 2 * row, 2);
+    }
+    GifFreeMapObject(map);
+    if (EGifCloseFile(out, &error) != GIF_OK) return 2;
+    GifFileType* in = DGifOpenFileName(argv[argc - 1], &error);
+    if (!in || DGifSlurp(in) != GIF_OK) return 3;
+    const int ok = in->ImageCount == 2 && in->SWidth == 2 && in->SavedImages[1].RasterBits[0] == 1;
+    DGifCloseFile(in, &error);
+    printf("giflib %d.%d.%d: %s\n", GIFLIB_MAJOR, GIFLIB_MINOR, GIFLIB_RELEASE, ok ? "ok" : "wrong");
+    return ok ? 0 : 4;
+}
+C
+  run gifcheck-build.log $mingw-gcc-posix -O2 -I"$gif_prefix/include" "$check/gifcheck.c" \
+    "$gif_prefix/lib/libgif.a" -o "$check/gifcheck.exe"
+  (cd "$check" && run gifcheck-run.log env WINEPATH="$(windows_dll_path "${mingw_runtime[@]}")" \
+     wine ./gifcheck.exe check.gif)
+  say "$(tail -n 1 "$cache/logs/gifcheck-run.log")"
+  rm -rf "$check"
+  touch "$gif_prefix/.checked"
+fi
 
 # --- 2. Qt for Windows ----------------------------------------------------------
 # At the host Qt's version, so that the host's moc, rcc and uic serve. The +dfsg
@@ -96,21 +201,25 @@ qt_features=(-DFEATURE_sql=OFF -DFEATURE_network=OFF -DFEATURE_dbus=OFF
              -DFEATURE_tabletevent=OFF)
 host_qt=(-DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake)
 
-build_qt_module() {   # build_qt_module SOURCE-PACKAGE TARBALL-PREFIX CONFIGURE...
+# build_qt_module SOURCE-PACKAGE NAME CONFIGURE...: unpacks, configures, builds
+# and installs one Qt module into the cache. A build broken off (a machine
+# switched off) goes on where it stopped.
+build_qt_module() {
   local pkg=$1 name=$2; shift 2
-  local srcdir dir="$cache/build/$name"
-  srcdir="$(fetch_source "$pkg" "$qt_version")"
-  local tarball
-  tarball="$(ls "$srcdir"/*.orig.tar.xz | head -n 1)"
-  rm -rf "$dir" && mkdir -p "$dir"
-  say "unpacking $(basename "$tarball")"
-  tar -xf "$tarball" -C "$dir"
-  local src
-  src="$(ls -d "$dir"/"$name"-everywhere-src-*)"
-  say "configuring $name for Windows"
-  run "$name-configure.log" "$@" -G Ninja -S "$src" -B "$dir/build" \
-    -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX="$qt_prefix" \
-    -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF "${host_qt[@]}"
+  local dir="$cache/build/$name"
+  if [ ! -f "$dir/build/build.ninja" ]; then
+    local srcdir tarball src
+    srcdir="$(fetch_source "$pkg" "$qt_version")"
+    tarball="$(ls "$srcdir"/*.orig.tar.xz | head -n 1)"
+    rm -rf "$dir" && mkdir -p "$dir"
+    say "unpacking $(basename "$tarball")"
+    tar -xf "$tarball" -C "$dir"
+    src="$(ls -d "$dir"/"$name"-everywhere-src-*)"
+    say "configuring $name for Windows"
+    run "$name-configure.log" "$@" -G Ninja -S "$src" -B "$dir/build" \
+      -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX="$qt_prefix" \
+      -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF "${host_qt[@]}"
+  fi
   say "building $name (log: $cache/logs/$name-build.log)"
   run "$name-build.log" cmake --build "$dir/build" -j "$jobs"
   run "$name-install.log" cmake --install "$dir/build"
@@ -119,7 +228,6 @@ build_qt_module() {   # build_qt_module SOURCE-PACKAGE TARBALL-PREFIX CONFIGURE.
 
 if [ ! -f "$qt_prefix/.complete" ]; then
   qt_started=$SECONDS
-  rm -rf "$qt_prefix"
   build_qt_module qt6-base qtbase cmake -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
     -DBUILD_SHARED_LIBS=ON "${qt_features[@]}"
   build_qt_module qt6-svg qtsvg "$qt_prefix/bin/qt-cmake"
