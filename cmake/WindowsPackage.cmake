@@ -36,7 +36,8 @@ endforeach()
 # exception, the MinGW-w64 runtime under its own permissive terms (Debian's
 # copyright files hold both); giflib under its MIT licence.
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION . RENAME LICENSE.txt)
-install(FILES ${fs_qt_prefix}/licences/qtbase/LICENSE.LGPL3 DESTINATION ${licences} RENAME Qt-LGPL-3.txt)
+install(FILES ${fs_qt_prefix}/licences/qtbase/LGPL-3.0-only.txt DESTINATION ${licences} RENAME Qt-LGPL-3.txt)
+install(DIRECTORY ${fs_qt_prefix}/licences/ DESTINATION ${licences}/Qt)  # with its bundled libraries' terms
 install(FILES /usr/share/doc/gcc-mingw-w64-base/copyright DESTINATION ${licences}
         RENAME GCC-runtime.txt)
 install(FILES /usr/share/doc/mingw-w64-common/copyright DESTINATION ${licences} RENAME MinGW-w64-runtime.txt)

@@ -137,6 +137,8 @@ fi
 # integration that would add menu entries to the host.
 export WINEPREFIX="$cache/wine"
 export WINEDEBUG=-all
+# Wine takes the Unix side's text (arguments, file names) in the locale's encoding.
+export LC_ALL=C.UTF-8
 export WINEDLLOVERRIDES="winemenubuilder.exe=d;mscoree,mshtml="
 if [ ! -f "$WINEPREFIX/.complete" ]; then
   say "making a Wine prefix"
@@ -223,6 +225,10 @@ build_qt_module() {
   say "building $name (log: $cache/logs/$name-build.log)"
   run "$name-build.log" cmake --build "$dir/build" -j "$jobs"
   run "$name-install.log" cmake --install "$dir/build"
+  # The licence texts (Qt's and its bundled libraries') go with the DLLs
+  # into the release.
+  mkdir -p "$qt_prefix/licences/$name"
+  cp "$dir"/"$name"-everywhere-src-*/LICENSES/* "$qt_prefix/licences/$name/"
   rm -rf "$dir"
 }
 
@@ -239,3 +245,111 @@ if [ "$mode" = prepare ]; then
   say "prepared"
   exit 0
 fi
+
+status=0
+build="$repo/build/windows"
+
+# --- 3. Flickerscribe for Windows -----------------------------------------------
+say "configuring and building Flickerscribe for Windows (log: $cache/logs/windows-build.log)"
+run windows-configure.log cmake --preset windows
+run windows-build.log cmake --build --preset windows
+
+# --- 4. The tests under Wine ----------------------------------------------------
+say "running the tests under Wine (log: $cache/logs/windows-tests.log)"
+ctest --preset windows >"$cache/logs/windows-tests.log" 2>&1 || status=1
+summary="$(grep -E 'tests passed, [0-9]+ tests failed out of [0-9]+' "$cache/logs/windows-tests.log" || true)"
+total="$(sed -E 's/.* out of ([0-9]+).*/\1/' <<<"$summary")"
+failed="$(sed -E 's/.*, ([0-9]+) tests failed.*/\1/' <<<"$summary")"
+skipped="$(grep -c '(Skipped)' "$cache/logs/windows-tests.log" || true)"
+if [ -z "$summary" ]; then
+  tail -n 30 "$cache/logs/windows-tests.log" >&2
+  total=0 failed=0 status=1
+fi
+passed=$((total - failed - skipped))
+sed -n '/The following tests/,$p' "$cache/logs/windows-tests.log" >&2
+say "tests under Wine: $total run, $passed passed, $skipped skipped, $failed failed"
+
+# --- 5. The zip and the setup program -------------------------------------------
+say "packing the zip and the setup program"
+rm -f "$build"/flickerscribe-*-win64*.{zip,exe}
+(cd "$build" && run cpack.log cpack)
+zip_file="$(ls "$build"/flickerscribe-*-win64.zip)"
+setup_file="$(ls "$build"/flickerscribe-*-win64-setup.exe)"
+megabytes() { awk -v b="$(stat -c %s "$1")" 'BEGIN { printf "%.0f", b / 1048576 }'; }
+
+# --- 6. The unpacked programs under Wine ----------------------------------------
+unpacked="$build/unpacked"
+rm -rf "$unpacked" && mkdir -p "$unpacked"
+unzip -q "$zip_file" -d "$unpacked"
+app_dir="$(ls -d "$unpacked"/flickerscribe-*-win64)"
+# Only what the zip holds: no DLL search path into the build or the cache.
+unset WINEPATH QT_PLUGIN_PATH
+
+# The main window on a virtual X display, with a look at the wizard and the
+# script window: their toolbar buttons are clicked where they are drawn.
+shots="$build/screenshots"
+rm -rf "$shots" && mkdir -p "$shots"
+display_number=$((90 + RANDOM % 100))
+Xvfb ":$display_number" -screen 0 1280x900x24 -nolisten tcp >/dev/null 2>&1 &
+xvfb_pid=$!
+export DISPLAY=":$display_number"
+sleep 2
+(cd "$app_dir" && wine ./flickerscribe.exe >"$cache/logs/windows-program.log" 2>&1) &
+program_pid=$!
+window=""
+for _ in $(seq 60); do
+  window="$(xdotool search --onlyvisible --name '^Flickerscribe' 2>/dev/null | head -n 1 || true)"
+  [ -n "$window" ] && break
+  sleep 1
+done
+if [ -n "$window" ]; then
+  sleep 3  # the first paint
+  import -window root "$shots/main-window.png"
+  geometry="$(xdotool getwindowgeometry "$window" | sed -n 's/.*Position: \([0-9]*\),\([0-9]*\).*/\1 \2/p')"
+  read -r wx wy <<<"$geometry"
+  shot_dialog() {  # shot_dialog NAME X Y: clicks the toolbar at X,Y of the main window, shoots, closes
+    xdotool mousemove $((wx + $2)) $((wy + $3)) click 1
+    sleep 3
+    import -window root "$shots/$1.png"
+    xdotool key Escape
+    sleep 1
+  }
+  shot_dialog wizard "${FS_WIZARD_X:-330}" "${FS_TOOLBAR_Y:-50}"
+  shot_dialog script-window "${FS_GENERATE_X:-390}" "${FS_TOOLBAR_Y:-50}"
+  say "screenshots: $(cd "$shots" && echo *.png)"
+else
+  echo "windows.sh: the main window did not show under Wine" >&2
+  status=1
+fi
+kill "$program_pid" 2>/dev/null || true
+wineserver -k 2>/dev/null || true
+kill "$xvfb_pid" 2>/dev/null || true
+unset DISPLAY
+
+# The command-line companion: the README's example, byte for byte as on Linux,
+# and a name outside ASCII given as UTF-8.
+say "building the Linux command-line companion for the comparison"
+run linux-configure.log cmake --preset default
+run linux-build.log cmake --build --preset default --target flickerscribe-cli
+linux_cli="$repo/build/default/src/cli/flickerscribe-cli"
+compare="$build/cli-compare"
+rm -rf "$compare" && mkdir -p "$compare/linux" "$compare/windows"
+example=(effects --name Quillon --tag '^4[QZT]' --effect "Wave 2" --effect Bounce --param1 1 --output q.fsq)
+(cd "$compare/linux" && "$linux_cli" "${example[@]}" && "$linux_cli" generate q.fsq >q.cfg &&
+   "$linux_cli" effects --name 'Zoë ½' --effect "Wave 2" >zoe.fsq && "$linux_cli" render --runs '^1Zoë' >render.txt)
+(cd "$compare/windows" && wine "$app_dir/flickerscribe-cli.exe" "${example[@]}" &&
+   wine "$app_dir/flickerscribe-cli.exe" generate q.fsq >q.cfg &&
+   wine "$app_dir/flickerscribe-cli.exe" effects --name 'Zoë ½' --effect "Wave 2" >zoe.fsq &&
+   wine "$app_dir/flickerscribe-cli.exe" render --runs '^1Zoë' >render.txt) || status=1
+for f in q.fsq q.cfg zoe.fsq render.txt; do
+  if cmp -s "$compare/linux/$f" "$compare/windows/$f"; then
+    say "CLI under Wine: $f equals the Linux one ($(stat -c %s "$compare/linux/$f") bytes)"
+  else
+    echo "windows.sh: CLI under Wine: $f differs from the Linux one (see $compare)" >&2
+    status=1
+  fi
+done
+
+say "done in $(((SECONDS - started) / 60)) min $(((SECONDS - started) % 60)) s"
+echo "windows: $passed tests passed, $failed failed; zip $(megabytes "$zip_file") MB; setup $(megabytes "$setup_file") MB"
+exit "$status"
