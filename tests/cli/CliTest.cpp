@@ -1,8 +1,15 @@
 // Runs the real command-line program and checks what it writes and how it ends.
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
 #include <cstdlib>
+#ifdef _WIN32
+#ifndef WIN32_LEAN_AND_MEAN
+#define WIN32_LEAN_AND_MEAN
+#endif
+#include <windows.h>
+#else
+#include <sys/wait.h>
+#endif
 
 #include "TempFolder.h"
 #include "script/ScriptText.h"
@@ -15,6 +22,56 @@ struct CliResult {
     std::string out, err;
 };
 
+#ifdef _WIN32
+// An argument as the C runtime and CommandLineToArgvW read it back: quoted,
+// with a backslash before each quote and doubled backslashes before those.
+std::wstring Quoted(const std::wstring& arg) {
+    std::wstring quoted = L"\"";
+    std::size_t backslashes = 0;
+    for (const wchar_t c : arg) {
+        if (c == L'\\') {
+            ++backslashes;
+            continue;
+        }
+        quoted.append(c == L'"' ? 2 * backslashes + 1 : backslashes, L'\\');
+        backslashes = 0;
+        quoted += c;
+    }
+    return quoted.append(2 * backslashes, L'\\') + L"\"";
+}
+
+// Runs the program in `dir` with the file "stdin" there on standard input,
+// started directly (no shell) with a wide-character command line. Windows has
+// no pipe whose writer starts late to give it.
+CliResult RunCli(const TempFolder& dir, const std::vector<std::string>& args, const std::string& input = "") {
+    WriteBytes(dir.File("stdin"), input);
+    SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+    const auto open = [&](const char* name, bool output) {
+        return CreateFileW(FsPath(dir.File(name)).wstring().c_str(), output ? GENERIC_WRITE : GENERIC_READ,
+                           FILE_SHARE_READ | FILE_SHARE_WRITE, &inherited, output ? CREATE_ALWAYS : OPEN_EXISTING,
+                           FILE_ATTRIBUTE_NORMAL, nullptr);
+    };
+    STARTUPINFOW start{};
+    start.cb = sizeof start;
+    start.dwFlags = STARTF_USESTDHANDLES;
+    start.hStdInput = open("stdin", false);
+    start.hStdOutput = open("stdout", true);
+    start.hStdError = open("stderr", true);
+    std::wstring line = Quoted(std::filesystem::path(FS_CLI_PATH).make_preferred().wstring());
+    for (const auto& arg : args) line += L" " + Quoted(FsPath(arg).wstring());
+    PROCESS_INFORMATION process{};
+    DWORD status = static_cast<DWORD>(-1);
+    if (CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, CREATE_NO_WINDOW, nullptr,
+                       FsPath(dir.Path()).wstring().c_str(), &start, &process)) {
+        WaitForSingleObject(process.hProcess, INFINITE);
+        GetExitCodeProcess(process.hProcess, &status);
+        CloseHandle(process.hThread);
+        CloseHandle(process.hProcess);
+    }
+    for (HANDLE h : {start.hStdInput, start.hStdOutput, start.hStdError}) CloseHandle(h);
+    return {static_cast<int>(status), ReadBytes(dir.File("stdout")), ReadBytes(dir.File("stderr"))};
+}
+#else
 // Runs the program in `dir` with `input` on standard input: the file "stdin"
 // there, or with `piped` a pipe whose writer starts late.
 CliResult RunCli(const TempFolder& dir, const std::vector<std::string>& args, const std::string& input = "",
@@ -32,6 +89,7 @@ CliResult RunCli(const TempFolder& dir, const std::vector<std::string>& args, co
     return {WIFEXITED(raw) ? WEXITSTATUS(raw) : -1, ReadBytes(dir.File("stdout")),
             ReadBytes(dir.File("stderr"))};
 }
+#endif
 
 std::string Script(const std::string& commands) {
     std::string text;
@@ -81,7 +139,9 @@ TEST(Cli, CommandsWriteTheirResultsAndEndWithTheirStatus) {
         {{"generate", "a", "b"}, "", 2, "", "unexpected argument b\nusage: flickerscribe-cli generate"},
         {{"render", "--runs=yes", "x"}, "", 2, "", "takes no value\nusage: flickerscribe-cli render"},
         {{"effects", "--param1", "5", "--effect", "Bounce"}, "", 2, "", "--param1 needs an --effect before it"},
+#ifndef _WIN32  // longer than a Windows command line may be
         {{"effects", "--tag", std::string(32768, 'a'), "--output", "never.fsq"}, "", 2, "", "at most 32767 characters"},
+#endif
         // clang-format on
     };
     for (const auto& c : cases) {
@@ -103,10 +163,14 @@ TEST(Cli, CommandsWriteTheirResultsAndEndWithTheirStatus) {
 
 // As `generate <(command)` hands it over: a pipe whose data comes later.
 TEST(Cli, ReadsAPipeNamedOnTheCommandLine) {
+#ifdef _WIN32
+    GTEST_SKIP() << "Windows has no /dev/stdin and no pipe that a shell names as a file";
+#else
     TempFolder dir;
     const CliResult r = RunCli(dir, {"generate", "/dev/stdin"}, "#v050#\nx\n7\n[none]\n", true);
     EXPECT_EQ(r.status, 0) << r.err;
     EXPECT_EQ(r.out, Script("\r\nset name \"x\"\r\nwait 7"));
+#endif
 }
 
 // 32767 lines go through whole; a line more stops the work with status 3,
