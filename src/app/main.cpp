@@ -17,5 +17,8 @@ int main(int argc, char** argv) {
                          QStringLiteral("/last-animation.fsq");
     flickerscribe::ui::MainWindow window(dialogs, *store, kept);
     window.show();
+    // A project file named on the command line (as the desktop starts the
+    // program for an .fsq file) is opened as by Open.
+    if (const QStringList args = QApplication::arguments(); args.size() > 1) window.OpenAnimationFile(args.at(1));
     return QApplication::exec();
 }

@@ -22,9 +22,11 @@ void MainWindow::OpenAnimation() {
     fileDialog_.filter = kAnimationFilter;
     if (!settings_.openFolder.isEmpty()) fileDialog_.initialFolder = settings_.openFolder;
     if (!dialogs_.ShowOpen(this, fileDialog_)) return;
+    OpenAnimationFile(fileDialog_.fileName);
+}
 
-    LoadIntoList(u"Open"_s, fileDialog_.fileName, LoadAnimationFile,
-                 u"File not found!\n"_s + fileDialog_.fileName, u"Error"_s);
+void MainWindow::OpenAnimationFile(const QString& path) {
+    LoadIntoList(u"Open"_s, path, LoadAnimationFile, u"File not found!\n"_s + path, u"Error"_s);
 }
 
 // The whole file is read before the list is touched: a file that can't be
