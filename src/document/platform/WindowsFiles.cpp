@@ -17,7 +17,9 @@
 namespace flickerscribe::platform {
 namespace {
 
-// The UTF-8 path as Windows names it; nullopt for bytes that are no UTF-8.
+// The UTF-8 path as Windows names it, with its own separators (Qt and the
+// tests write '/', which not every call takes); nullopt for bytes that are no
+// UTF-8.
 std::optional<std::wstring> Widen(const std::string& utf8) {
     if (utf8.empty()) return std::wstring();
     const int size = MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, utf8.data(),
@@ -26,6 +28,7 @@ std::optional<std::wstring> Widen(const std::string& utf8) {
     std::wstring wide(static_cast<std::size_t>(size), L'\0');
     MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, utf8.data(), static_cast<int>(utf8.size()), wide.data(),
                         size);
+    std::replace(wide.begin(), wide.end(), L'/', L'\\');
     return wide;
 }
 
@@ -53,6 +56,10 @@ public:
 
     bool Valid() const { return h_ != INVALID_HANDLE_VALUE; }
     HANDLE Get() const { return h_; }
+    void Reset(HANDLE h) {
+        Close();
+        h_ = h;
+    }
     // 0 or the error of closing.
     DWORD Close() {
         DWORD error = 0;
@@ -81,7 +88,7 @@ DWORD WriteAll(HANDLE h, std::string_view bytes, const std::optional<WriteFault>
 
 // The folder part of a path with its trailing separator ("" for a bare name).
 std::wstring FolderOf(const std::wstring& path) {
-    const auto separator = path.find_last_of(L"\\/:");
+    const auto separator = path.find_last_of(L"\\:");
     return separator == std::wstring::npos ? std::wstring() : path.substr(0, separator + 1);
 }
 
@@ -99,8 +106,8 @@ public:
                           static_cast<unsigned long>((GetTickCount64() * 2654435761u) ^ GetCurrentProcessId() ^
                                                      (++counter << 20)));
             path_ = folder + L"." + base + suffix;
-            h_ = Handle(CreateFileW(path_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL,
-                                    nullptr));
+            h_.Reset(CreateFileW(path_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL,
+                                 nullptr));
             if (h_.Valid()) {
                 created_ = true;
                 return;
