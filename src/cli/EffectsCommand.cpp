@@ -35,18 +35,23 @@ const CommandSyntax kEffectsSyntax{
 
 // The rows in the order given: each --effect starts one, and --param1 and
 // --param2 fill in the row started last. Empty with `error` set when a
-// parameter comes before any effect.
+// parameter comes before any effect or a text is no valid UTF-8.
 std::vector<EffectRow> EffectRows(const ParsedArgs& args, std::string& error) {
     std::vector<EffectRow> rows;
     for (const auto& [option, value] : args.Options()) {
+        if (option != "--effect" && option != "--param1" && option != "--param2") continue;
+        auto text = TextArgument(value);
+        if (!text) {
+            error = NotUtf8(option);
+            return {};
+        }
         if (option == "--effect") {
-            rows.push_back({TextArgument(value)});
-        } else if (option == "--param1" || option == "--param2") {
-            if (rows.empty()) {
-                error = option + " needs an --effect before it";
-                return {};
-            }
-            (option == "--param1" ? rows.back().Parameter1 : rows.back().Parameter2) = TextArgument(value);
+            rows.push_back({std::move(*text)});
+        } else if (rows.empty()) {
+            error = option + " needs an --effect before it";
+            return {};
+        } else {
+            (option == "--param1" ? rows.back().Parameter1 : rows.back().Parameter2) = std::move(*text);
         }
     }
     return rows;
@@ -87,10 +92,14 @@ int RunEffects(const ParsedArgs& args) {
     const std::vector<EffectRow> rows = EffectRows(args, error);
     if (!error.empty()) return UsageError(kEffectsSyntax, error);
 
+    const auto name = TextArgument(args.Value("--name").value_or(""));
+    if (!name) return UsageError(kEffectsSyntax, NotUtf8("--name"));
+    const auto tag = TextArgument(args.Value("--tag").value_or(""));
+    if (!tag) return UsageError(kEffectsSyntax, NotUtf8("--tag"));
+
     AnimationScript script;
-    const EffectRunResult result = RunEffectList(script, TextArgument(args.Value("--name").value_or("")),
-                                                 TextArgument(args.Value("--tag").value_or("")),
-                                                 args.Has("--reverse"), rows, Answerer(answer));
+    const EffectRunResult result =
+        RunEffectList(script, *name, *tag, args.Has("--reverse"), rows, Answerer(answer));
     if (result.inputRefused) {
         return UsageError(kEffectsSyntax, "the name and the clan tag hold at most " +
                                               std::to_string(kMaxEffectTextLength) + " characters each");

@@ -43,23 +43,25 @@ std::string AnsiPicture(const std::vector<ColouredRun>& runs) {
     return out;
 }
 
+const CommandSyntax kRenderSyntax{
+    .name = "render",
+    .summary = "show a coded name in its colours, as the preview pane shows it",
+    .details =
+        "TEXT holds caret codes: ^1 red, ^2 green, ^3 yellow, ^4 blue, ^5 cyan,\n"
+        "^6 magenta, ^7 white, ^8 black. A TEXT that begins with - goes behind --.",
+    .options = {{"--runs", "", "one line a character: colour as RRGGBB, a tab, the character"}},
+    .positionals = {"TEXT"},
+};
+
 int RunRender(const ParsedArgs& args) {
-    const auto runs = RenderRuns(TextArgument(args.Positionals().front()));
+    const auto text = TextArgument(args.Positionals().front());
+    if (!text) return UsageError(kRenderSyntax, NotUtf8("TEXT"));
+    const auto runs = RenderRuns(*text);
     return WriteResult(std::nullopt, args.Has("--runs") ? RunsListing(runs) : AnsiPicture(runs));
 }
 
 }  // namespace
 
-const Command kRenderCommand{
-    {
-        .name = "render",
-        .summary = "show a coded name in its colours, as the preview pane shows it",
-        .details = "TEXT holds caret codes: ^1 red, ^2 green, ^3 yellow, ^4 blue, ^5 cyan,\n"
-                   "^6 magenta, ^7 white, ^8 black. A TEXT that begins with - goes behind --.",
-        .options = {{"--runs", "", "one line a character: colour as RRGGBB, a tab, the character"}},
-        .positionals = {"TEXT"},
-    },
-    RunRender,
-};
+const Command kRenderCommand{kRenderSyntax, RunRender};
 
 }  // namespace flickerscribe::cli

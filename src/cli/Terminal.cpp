@@ -9,8 +9,27 @@
 
 namespace flickerscribe::cli {
 
-std::string TextArgument(std::string_view utf8) {
-    return Utf8ToCp1252(utf8);
+std::optional<std::string> TextArgument(std::string_view utf8) {
+    const auto codePoints = DecodeUtf8(utf8);
+    if (!codePoints) return std::nullopt;
+    std::string text;
+    text.reserve(codePoints->size());
+    for (std::size_t i = 0; i < codePoints->size(); ++i) {
+        const char32_t c = (*codePoints)[i];
+        // A text holds no line break, as in the window's one-line boxes: each
+        // break (CR LF as one) becomes a blank.
+        if (c == U'\r' || c == U'\n' || c == U'\u2028' || c == U'\u2029') {
+            if (c == U'\r' && i + 1 < codePoints->size() && (*codePoints)[i + 1] == U'\n') ++i;
+            text += ' ';
+        } else {
+            text += UnicodeToCp1252(c);
+        }
+    }
+    return text;
+}
+
+std::string NotUtf8(std::string_view argument) {
+    return std::string(argument) + " is no valid UTF-8 text";
 }
 
 bool IsTerminal(std::FILE* stream) {
@@ -35,12 +54,13 @@ void Complain(std::string_view message) {
 }
 
 std::optional<std::string> ReadInput(const std::string& path) {
-    if (path != "-") return ReadFileBytes(path, FileKinds::AnyReadable);
+    if (path != "-") return ReadFileBytes(path, FileKinds::AnyKind);
     std::string data;
     char buffer[1 << 16];
     for (;;) {
         const std::size_t n = std::fread(buffer, 1, sizeof buffer, stdin);
         data.append(buffer, n);
+        if (data.size() > kMaxFileBytes) return std::nullopt;
         if (n < sizeof buffer) break;
     }
     if (std::ferror(stdin)) return std::nullopt;
@@ -61,7 +81,7 @@ int LineLimitReached() {
 
 int WriteResult(const std::optional<std::string>& file, std::string_view bytes) {
     if (file && *file != "-") {
-        if (const auto error = WriteFileSafely(*file, bytes)) {
+        if (const auto error = WriteFileSafely(*file, bytes, FileKinds::AnyKind)) {
             Complain("cannot write " + *file + ": " + error->text + " (" + std::to_string(error->number) +
                      ")");
             return kExitFileError;

@@ -11,8 +11,11 @@
 // files and pipes get the bytes as they are. Paths are never converted.
 namespace flickerscribe::cli {
 
-// A text argument (a name, a coded text) as the program holds it.
-std::string TextArgument(std::string_view utf8);
+// A text argument (a name, a coded text) as the program holds it, on one
+// line; nullopt when the argument is no valid UTF-8.
+std::optional<std::string> TextArgument(std::string_view utf8);
+// The usage error for a text argument that is no valid UTF-8.
+std::string NotUtf8(std::string_view argument);
 
 bool IsTerminal(std::FILE* stream);
 

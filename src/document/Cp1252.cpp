@@ -1,6 +1,7 @@
 #include "document/Cp1252.h"
 
 #include <array>
+#include <optional>
 
 namespace flickerscribe {
 namespace {
@@ -23,6 +24,35 @@ void AppendUtf8(std::string& out, char32_t cp) {
         out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
         out += static_cast<char>(0x80 | (cp & 0x3F));
     }
+}
+
+// The code point that starts at `i`, which moves behind it; for what is no
+// valid UTF-8 there, nullopt, and `i` moves on by one byte.
+std::optional<char32_t> NextCodePoint(std::string_view utf8, std::size_t& i) {
+    const auto lead = static_cast<unsigned char>(utf8[i++]);
+    if (lead < 0x80) return lead;
+    int extra = 0;
+    char32_t cp = 0;
+    char32_t least = 0;  // below this the form is overlong
+    if ((lead & 0xE0) == 0xC0) {
+        extra = 1, cp = lead & 0x1F, least = 0x80;
+    } else if ((lead & 0xF0) == 0xE0) {
+        extra = 2, cp = lead & 0x0F, least = 0x800;
+    } else if ((lead & 0xF8) == 0xF0) {
+        extra = 3, cp = lead & 0x07, least = 0x10000;
+    } else {
+        return std::nullopt;  // a continuation byte, or no lead byte at all
+    }
+    std::size_t at = i;
+    for (int k = 0; k < extra; ++k, ++at) {
+        if (at >= utf8.size()) return std::nullopt;
+        const auto b = static_cast<unsigned char>(utf8[at]);
+        if ((b & 0xC0) != 0x80) return std::nullopt;
+        cp = (cp << 6) | (b & 0x3F);
+    }
+    if (cp < least || cp > 0x10FFFF || (cp >= 0xD800 && cp <= 0xDFFF)) return std::nullopt;
+    i = at;
+    return cp;
 }
 
 }  // namespace
@@ -50,39 +80,20 @@ std::string Cp1252ToUtf8(std::string_view text) {
 std::string Utf8ToCp1252(std::string_view utf8) {
     std::string out;
     out.reserve(utf8.size());
-    std::size_t i = 0;
-    while (i < utf8.size()) {
-        const auto lead = static_cast<unsigned char>(utf8[i]);
-        int extra = 0;
-        char32_t cp = 0;
-        if (lead < 0x80) {
-            cp = lead;
-        } else if ((lead & 0xE0) == 0xC0 && lead >= 0xC2) {
-            extra = 1, cp = lead & 0x1F;
-        } else if ((lead & 0xF0) == 0xE0) {
-            extra = 2, cp = lead & 0x0F;
-        } else if ((lead & 0xF8) == 0xF0 && lead <= 0xF4) {
-            extra = 3, cp = lead & 0x07;
-        } else {
-            out += '?';
-            ++i;
-            continue;
-        }
-        bool ok = i + static_cast<std::size_t>(extra) < utf8.size();
-        for (int k = 1; ok && k <= extra; ++k) {
-            const auto b = static_cast<unsigned char>(utf8[i + static_cast<std::size_t>(k)]);
-            if ((b & 0xC0) != 0x80)
-                ok = false;
-            else
-                cp = (cp << 6) | (b & 0x3F);
-        }
-        if (!ok) {
-            out += '?';
-            ++i;
-            continue;
-        }
-        i += static_cast<std::size_t>(extra) + 1;
-        out += UnicodeToCp1252(cp);
+    for (std::size_t i = 0; i < utf8.size();) {
+        const auto cp = NextCodePoint(utf8, i);
+        out += cp ? UnicodeToCp1252(*cp) : '?';
+    }
+    return out;
+}
+
+std::optional<std::u32string> DecodeUtf8(std::string_view utf8) {
+    std::u32string out;
+    out.reserve(utf8.size());
+    for (std::size_t i = 0; i < utf8.size();) {
+        const auto cp = NextCodePoint(utf8, i);
+        if (!cp) return std::nullopt;
+        out += *cp;
     }
     return out;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -16,7 +17,12 @@ char32_t Cp1252ToUnicode(unsigned char byte);
 char UnicodeToCp1252(char32_t codePoint);
 
 std::string Cp1252ToUtf8(std::string_view text);
-// Bytes that are no valid UTF-8 become '?' too.
+// Bytes that are no valid UTF-8 become '?' too, one for each.
 std::string Utf8ToCp1252(std::string_view utf8);
+
+// The code points of UTF-8 text; nullopt when it is no valid UTF-8: a byte
+// that starts no character, a sequence cut short, an overlong form (C0 80 for
+// NUL), a surrogate or a code point past U+10FFFF.
+std::optional<std::u32string> DecodeUtf8(std::string_view utf8);
 
 }  // namespace flickerscribe

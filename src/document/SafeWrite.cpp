@@ -109,11 +109,18 @@ int WriteAll(int fd, std::string_view bytes, const std::optional<Fault>& fault) 
     return fault ? fault->error : 0;
 }
 
-// A device or a pipe has no old content to keep: it is written in place.
+// A device or a pipe has no old content to keep: it is written in place. The
+// open doesn't wait: a pipe that nobody reads fails at once (ENXIO). Once
+// open, the writes wait for the reader as any writer would.
 std::optional<SaveError> WriteInPlace(const std::string& path, std::string_view bytes,
                                       const std::optional<Fault>& fault) {
-    const int fd = ::open(path.c_str(), O_WRONLY | O_TRUNC | O_CLOEXEC);
+    const int fd = ::open(path.c_str(), O_WRONLY | O_TRUNC | O_NONBLOCK | O_CLOEXEC);
     if (fd < 0) return ErrorOf(errno);
+    if (::fcntl(fd, F_SETFL, ::fcntl(fd, F_GETFL) & ~O_NONBLOCK) != 0) {
+        const int error = errno;
+        ::close(fd);
+        return ErrorOf(error);
+    }
     int error = WriteAll(fd, bytes, fault);
     if (::close(fd) != 0 && error == 0) error = errno;
     if (error != 0) return ErrorOf(error);
@@ -122,7 +129,7 @@ std::optional<SaveError> WriteInPlace(const std::string& path, std::string_view 
 
 }  // namespace
 
-std::optional<SaveError> WriteFileSafely(const std::string& path, std::string_view bytes) {
+std::optional<SaveError> WriteFileSafely(const std::string& path, std::string_view bytes, FileKinds kinds) {
     const auto fault = TakeFault();
     if (path.empty()) return ErrorOf(ENOENT);
 
@@ -130,7 +137,10 @@ std::optional<SaveError> WriteFileSafely(const std::string& path, std::string_vi
     const bool exists = ::stat(path.c_str(), &old) == 0;
     if (!exists && errno != ENOENT) return ErrorOf(errno);
     if (exists && S_ISDIR(old.st_mode)) return ErrorOf(EISDIR);
-    if (exists && !S_ISREG(old.st_mode)) return WriteInPlace(path, bytes, fault);
+    if (exists && !S_ISREG(old.st_mode)) {
+        if (kinds == FileKinds::PlainOnly) return SaveError{EINVAL, "Not a regular file"};
+        return WriteInPlace(path, bytes, fault);
+    }
     // A file that can't be opened for writing stays as it is, as with a plain write.
     if (exists && ::access(path.c_str(), W_OK) != 0) return ErrorOf(errno);
 
@@ -139,9 +149,10 @@ std::optional<SaveError> WriteFileSafely(const std::string& path, std::string_vi
 
     TempFile temp(target);
     if (const int error = temp.OpenError()) return ErrorOf(error);
-    // Keeping the owner may be refused; the permission bits follow all the same.
-    if (exists) {
-        [[maybe_unused]] const int ownerKept = ::fchown(temp.Fd(), old.st_uid, old.st_gid);
+    // Only root may give a file to someone else; anyone may keep its group
+    // when they belong to it. The permission bits follow in any case.
+    if (exists && ::fchown(temp.Fd(), old.st_uid, old.st_gid) != 0) {
+        [[maybe_unused]] const int groupKept = ::fchown(temp.Fd(), static_cast<uid_t>(-1), old.st_gid);
     }
     if (::fchmod(temp.Fd(), exists ? old.st_mode & 07777 : NewFileMode()) != 0) return ErrorOf(errno);
     if (const int error = WriteAll(temp.Fd(), bytes, fault)) return ErrorOf(error);

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "document/TextFile.h"
+
 namespace flickerscribe {
 
 // Why a file could not be written: the system's error number and its text.
@@ -23,7 +25,12 @@ struct SaveError {
 // file that can't be opened for writing is refused as it would be by a plain
 // write. On any failure the temporary file is removed, the old file is left
 // whole, and the error is returned; nullopt means the file was written.
-std::optional<SaveError> WriteFileSafely(const std::string& path, std::string_view bytes);
+//
+// A target that is no regular file (a named pipe, a device) has no old
+// content to keep: PlainOnly refuses it, AnyKind writes it in place, but
+// refuses a named pipe that nobody reads rather than waiting for a reader.
+std::optional<SaveError> WriteFileSafely(const std::string& path, std::string_view bytes,
+                                         FileKinds kinds = FileKinds::PlainOnly);
 
 // For tests: lets a write break off half way, the way a full disk would.
 namespace write_seam {

@@ -5,30 +5,31 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdint>
 
 namespace flickerscribe {
 
 std::optional<std::string> ReadFileBytes(const std::string& path, FileKinds kinds) {
     if (path.empty()) return std::nullopt;
-    // Without O_NONBLOCK a named pipe with no writer would hold the open forever.
-    const int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    // For plain files only, O_NONBLOCK keeps a named pipe with no writer from
+    // holding the open forever. The command line waits for the writer instead:
+    // opened without a writer, a pipe would read as empty at once.
+    const int flags =
+        kinds == FileKinds::PlainOnly ? O_RDONLY | O_NONBLOCK | O_CLOEXEC : O_RDONLY | O_CLOEXEC;
+    const int fd = ::open(path.c_str(), flags);
     if (fd < 0) return std::nullopt;
     std::string data;
-    bool ok = true;
     struct stat st {};
-    if (::fstat(fd, &st) != 0 || S_ISDIR(st.st_mode)) {
-        ok = false;
-    } else if (!S_ISREG(st.st_mode)) {
-        // A pipe or device is read as it comes, waiting for its data.
-        ok = kinds == FileKinds::AnyReadable && ::fcntl(fd, F_SETFL, ::fcntl(fd, F_GETFL) & ~O_NONBLOCK) == 0;
-    } else if (st.st_size > 0) {
-        data.reserve(static_cast<std::size_t>(st.st_size));
-    }
+    bool ok = ::fstat(fd, &st) == 0 && !S_ISDIR(st.st_mode) &&
+              (S_ISREG(st.st_mode) || kinds == FileKinds::AnyKind) &&
+              static_cast<std::uintmax_t>(st.st_size) <= kMaxFileBytes;
+    if (ok && st.st_size > 0) data.reserve(static_cast<std::size_t>(st.st_size));
     char buffer[1 << 16];
     while (ok) {
         const ssize_t n = ::read(fd, buffer, sizeof buffer);
         if (n > 0) {
             data.append(buffer, static_cast<std::size_t>(n));
+            ok = data.size() <= kMaxFileBytes;  // a pipe or a growing file
         } else if (n == 0) {
             break;
         } else if (errno != EINTR) {

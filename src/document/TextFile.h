@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -7,15 +8,21 @@
 
 namespace flickerscribe {
 
-// Which files a read takes.
+// Which files a read or a write takes.
 enum class FileKinds {
-    PlainOnly,    // regular files; a folder, pipe, device or socket is refused at once
-    AnyReadable,  // also pipes and devices, read until their end (the command line's inputs)
+    PlainOnly,  // regular files; a folder, pipe, device or socket is refused at once
+    AnyKind,    // also pipes and devices (the command line's inputs and outputs)
 };
 
+// The most a file read may hold: a larger file is refused before it is read,
+// so that no file can take more memory than the program has.
+inline constexpr std::size_t kMaxFileBytes = std::size_t{256} << 20;
+
 // Reads a whole file as bytes. nullopt when it can't be opened or read to its
-// end (no such file, no right to read, an I/O error half way) or, for
-// PlainOnly, when it is no regular file. Opening never waits for a writer.
+// end (no such file, no right to read, an I/O error half way), when it holds
+// more than kMaxFileBytes, or, for PlainOnly, when it is no regular file.
+// PlainOnly never waits for a pipe's writer; AnyKind waits for the writer of
+// a named pipe and reads to its end.
 std::optional<std::string> ReadFileBytes(const std::string& path, FileKinds kinds = FileKinds::PlainOnly);
 
 // Cuts file bytes into text lines the way the program's files are read: a line

@@ -8,6 +8,7 @@
 #endif
 #include <windows.h>
 #else
+#include <sys/stat.h>
 #include <sys/wait.h>
 #endif
 
@@ -73,12 +74,14 @@ CliResult RunCli(const TempFolder& dir, const std::vector<std::string>& args, co
 }
 #else
 // Runs the program in `dir` with `input` on standard input: the file "stdin"
-// there, or with `piped` a pipe whose writer starts late.
+// there, or with `piped` a pipe whose writer starts late. `feeder` is a shell
+// command run beside the program, in the background.
 CliResult RunCli(const TempFolder& dir, const std::vector<std::string>& args, const std::string& input = "",
-                 bool piped = false) {
+                 bool piped = false, const std::string& feeder = "") {
     WriteBytes(dir.File("stdin"), input);
-    std::string command =
-        "cd " + dir.Path() + " && " + (piped ? "(sleep 0.2; cat stdin) | " : "") + FS_CLI_PATH;
+    std::string command = "cd " + dir.Path() + " || exit 9; " +
+                          (feeder.empty() ? "" : "(" + feeder + ") & ") +
+                          (piped ? "(sleep 0.2; cat stdin) | " : "") + FS_CLI_PATH;
     for (const auto& arg : args) {
         command += " '";
         for (char c : arg) command += c == '\'' ? std::string("'\\''") : std::string(1, c);
@@ -139,8 +142,16 @@ TEST(Cli, CommandsWriteTheirResultsAndEndWithTheirStatus) {
         {{"generate", "a", "b"}, "", 2, "", "unexpected argument b\nusage: flickerscribe-cli generate"},
         {{"render", "--runs=yes", "x"}, "", 2, "", "takes no value\nusage: flickerscribe-cli render"},
         {{"effects", "--param1", "5", "--effect", "Bounce"}, "", 2, "", "--param1 needs an --effect before it"},
-#ifndef _WIN32  // longer than a Windows command line may be
+        // A text holds no line break: each becomes a blank, CR LF as one.
+        {{"effects", "--tag", "-\r\nX\n", "--name", "f", "--effect", "Wave forward"}, "", 0, ProjectFile({"- X ^7f"}), ""},
+        {{"render", "--runs", "a\rb"}, "", 0, "FFFFFF\ta\nFFFFFF\t \nFFFFFF\tb\n", ""},
+#ifndef _WIN32  // a Windows command line is wide text: always Unicode, and at most 32767 characters
         {{"effects", "--tag", std::string(32768, 'a'), "--output", "never.fsq"}, "", 2, "", "at most 32767 characters"},
+        // What is no UTF-8 is refused by name, and nothing is written.
+        {{"effects", "--name", "\xE0\x80\x8D", "--output", "never.fsq"}, "", 2, "", "--name is no valid UTF-8 text"},
+        {{"effects", "--tag", "\xC0\x80", "--output", "never.fsq"}, "", 2, "", "--tag is no valid UTF-8 text"},
+        {{"effects", "--effect", "Bounce", "--param1", "\xED\xA0\x80", "--output", "never.fsq"}, "", 2, "", "--param1 is no"},
+        {{"render", "a\x80"}, "", 2, "", "TEXT is no valid UTF-8 text"},
 #endif
         // clang-format on
     };
@@ -170,6 +181,22 @@ TEST(Cli, ReadsAPipeNamedOnTheCommandLine) {
     const CliResult r = RunCli(dir, {"generate", "/dev/stdin"}, "#v050#\nx\n7\n[none]\n", true);
     EXPECT_EQ(r.status, 0) << r.err;
     EXPECT_EQ(r.out, Script("\r\nset name \"x\"\r\nwait 7"));
+#endif
+}
+
+// A named pipe whose writer comes late is read when it comes, to its end:
+// neither an empty input nor an empty output file.
+TEST(Cli, WaitsForTheWriterOfANamedPipe) {
+#ifdef _WIN32
+    GTEST_SKIP() << "Windows has no named pipes in the file system (FIFOs)";
+#else
+    TempFolder dir;
+    ASSERT_EQ(::mkfifo(dir.File("fifo").c_str(), 0600), 0);
+    WriteBytes(dir.File("out.cfg"), "old");
+    const CliResult r = RunCli(dir, {"generate", "--output", "out.cfg", "fifo"}, "", false,
+                               "sleep 0.3; printf '#v050#\\r\\nx\\r\\n7\\r\\n[none]\\r\\n' >fifo");
+    EXPECT_EQ(r.status, 0) << r.err;
+    EXPECT_EQ(ReadBytes(dir.File("out.cfg")), Script("\r\nset name \"x\"\r\nwait 7"));
 #endif
 }
 

@@ -124,6 +124,40 @@ TEST(Cp1252, WhatHasNoFormBecomesAQuestionMark) {
     for (const auto& [utf8, cp1252] : cases) EXPECT_EQ(Utf8ToCp1252(utf8), cp1252) << utf8;
 }
 
+// Strict decoding takes every character up to U+10FFFF in its shortest form
+// and nothing else: no overlong CR (E0 80 8D) or NUL (C0 80), no surrogate,
+// no stray continuation byte.
+TEST(Cp1252, StrictDecodingRefusesWhatIsNoUtf8) {
+    const std::pair<std::string, std::u32string> valid[] = {
+        {"", U""},
+        {"a\r\n", U"a\r\n"},
+        {"\xC2\x80\xDF\xBF", U"\u0080\u07FF"},
+        {"\xE0\xA0\x80\xEF\xBF\xBF", U"\u0800\uFFFF"},
+        {"\xF0\x90\x80\x80\xF4\x8F\xBF\xBF", U"\U00010000\U0010FFFF"},
+    };
+    for (const auto& [utf8, decoded] : valid) EXPECT_EQ(DecodeUtf8(utf8), decoded) << utf8;
+    const std::string invalid[] = {
+        "\x80",
+        "a\xBF",
+        "\xC0\x80",
+        "\xC1\xBF",
+        "\xE0\x80\x8D",
+        "\xE0\x9F\xBF",
+        "\xF0\x8F\xBF\xBF",
+        "\xED\xA0\x80",
+        "\xED\xBF\xBF",
+        "\xF4\x90\x80\x80",
+        "\xF8\x88\x80\x80\x80",
+        "\xFF",
+        "\xC3",
+        "\xE2\x82",
+    };
+    for (const auto& utf8 : invalid) {
+        EXPECT_EQ(DecodeUtf8(utf8), std::nullopt) << utf8;
+        EXPECT_NE(Utf8ToCp1252(utf8).find('?'), std::string::npos) << utf8;
+    }
+}
+
 // The lines as "A *B C:9": the selected one starred, a time other than 15 behind a colon.
 std::string Show(const AnimationScript& s) {
     std::string out;

@@ -31,8 +31,8 @@ std::string RandomBytes(std::size_t size, unsigned seed) {
 }
 
 // Only a plain file read to its end replaces the lines, in one reset for the
-// view; anything else (/proc/self/mem opens, but reading it is an I/O error)
-// leaves them alone, even for the view.
+// view; anything else (/proc/self/mem opens, but reading it is an I/O error;
+// a file larger than the program reads) leaves them alone, even for the view.
 TEST(HostileFiles, OnlyAFileReadWholeReplacesTheLines) {
     test::TempFolder dir;
     test::WriteBytes(dir.File("one"), "#v050#\r\nset name a\r\n15\r\n[none]\r\n");
@@ -41,6 +41,9 @@ TEST(HostileFiles, OnlyAFileReadWholeReplacesTheLines) {
     ASSERT_TRUE(FileExists(dir.File("gone")));
     std::remove(dir.File("gone").c_str());
     ASSERT_EQ(::mkfifo(dir.File("pipe").c_str(), 0600), 0);
+    // More than the program reads, but sparse: no disk is taken.
+    test::WriteBytes(dir.File("huge"), "#v050#\r\n");
+    ASSERT_EQ(::truncate(dir.File("huge").c_str(), static_cast<off_t>(kMaxFileBytes) + 1), 0);
     const struct {
         std::string path;
         bool exists;
@@ -49,6 +52,7 @@ TEST(HostileFiles, OnlyAFileReadWholeReplacesTheLines) {
         // clang-format off
         {dir.File("one"), true, 1}, {dir.File("zero"), true, 0}, {dir.File("gone"), false, -1}, {dir.Path(), false, -1},
         {"", false, -1}, {dir.File("pipe"), true, -1}, {"/dev/zero", true, -1}, {"/proc/self/mem", true, -1},
+        {dir.File("huge"), true, -1},
         // clang-format on
     };
     for (const auto& c : cases) {
@@ -120,7 +124,7 @@ TEST(HostileFiles, WritesThatASignalCutsShortGoOnWhereTheyStopped) {
     ::sigaction(SIGALRM, &tick, &old);
     itimerval every{{0, 200}, {0, 200}}, off{};
     ::setitimer(ITIMER_REAL, &every, nullptr);
-    EXPECT_EQ(WriteFileSafely(pipe, bytes), std::nullopt);
+    EXPECT_EQ(WriteFileSafely(pipe, bytes, FileKinds::AnyKind), std::nullopt);
     ::setitimer(ITIMER_REAL, &off, nullptr);
     ::sigaction(SIGALRM, &old, nullptr);
     ::close(keepOpen);

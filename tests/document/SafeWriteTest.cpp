@@ -103,29 +103,40 @@ TEST(WriteFileSafely, AWriteBrokenOffHalfWayLeavesTheOldFileWhole) {
     ::close(0);
     test::TempFolder dir;
     EXPECT_EQ(WriteFileSafely(dir.File("anim.fsq"), kNew), std::nullopt);
-    EXPECT_EQ(WriteFileSafely("/dev/null", kNew), std::nullopt);
+    EXPECT_EQ(WriteFileSafely("/dev/null", kNew, FileKinds::AnyKind), std::nullopt);
     ::dup2(input, 0);
     ::close(input);
 }
 
-// In a folder holding anim.fsq, an empty folder "sub" and a link to itself
-// "loop", nothing changes; a device is written in place.
+// In a folder holding anim.fsq, an empty folder "sub", a link to itself
+// "loop" and a named pipe nobody reads, nothing changes and nothing waits. A
+// device is written in place where any kind of file is asked for, and
+// refused, as the pipe is, where only a plain file will do.
 TEST(WriteFileSafely, RefusesWhatCannotBeWrittenAndTouchesNothing) {
-    const std::pair<std::string, int> cases[] = {
-        {"sub", EISDIR}, {"nowhere/anim.fsq", ENOENT}, {"anim.fsq/x", ENOTDIR}, {"loop", ELOOP},
-        {"", ENOENT},    {"/dev/full", ENOSPC},        {"/dev/null", 0},
+    constexpr auto kAny = FileKinds::AnyKind, kPlain = FileKinds::PlainOnly;
+    const struct {
+        std::string target;
+        FileKinds kinds;
+        int error;
+    } cases[] = {
+        // clang-format off
+        {"sub", kAny, EISDIR}, {"nowhere/anim.fsq", kAny, ENOENT}, {"anim.fsq/x", kAny, ENOTDIR},
+        {"loop", kAny, ELOOP}, {"", kAny, ENOENT}, {"/dev/full", kAny, ENOSPC}, {"/dev/null", kAny, 0},
+        {"pipe", kAny, ENXIO}, {"pipe", kPlain, EINVAL}, {"/dev/null", kPlain, EINVAL},
+        // clang-format on
     };
-    for (const auto& [target, error] : cases) {
+    for (const auto& [target, kinds, error] : cases) {
         test::TempFolder dir;
         test::WriteBytes(dir.File("anim.fsq"), kOld);
         stdfs::create_directory(dir.File("sub"));
         stdfs::create_symlink("loop", dir.File("loop"));
+        ASSERT_EQ(::mkfifo(dir.File("pipe").c_str(), 0600), 0);
         errno = EIO;  // a stale error number from before must not fail a good save
-        EXPECT_EQ(WriteFileSafely(target.empty() || target[0] == '/' ? target : dir.File(target), kNew),
-                  Error(error))
-            << target;
+        const auto outcome =
+            WriteFileSafely(target.empty() || target[0] == '/' ? target : dir.File(target), kNew, kinds);
+        EXPECT_EQ(outcome.value_or(SaveError{}).number, error) << target;
         EXPECT_EQ(test::ReadBytes(dir.File("anim.fsq")), kOld) << target;
-        EXPECT_EQ(dir.Entries(), (std::vector<std::string>{"anim.fsq", "loop", "sub"})) << target;
+        EXPECT_EQ(dir.Entries(), (std::vector<std::string>{"anim.fsq", "loop", "pipe", "sub"})) << target;
         EXPECT_TRUE(stdfs::is_empty(dir.File("sub"))) << target;
     }
     EXPECT_TRUE(stdfs::is_character_file("/dev/null"));
