@@ -124,6 +124,8 @@ TEST(WindowsFiles, FoldersDevicesAndPipes) {
     }
     CloseHandle(server);
     EXPECT_EQ(WriteFileSafely(dir.Path(), kNew), SystemError(ERROR_ACCESS_DENIED));
+    EXPECT_EQ(WriteFileSafely(dir.File("nowhere/anim.fsq"), kNew), SystemError(ERROR_PATH_NOT_FOUND));
+    EXPECT_EQ(WriteFileSafely("", kNew), SystemError(ERROR_PATH_NOT_FOUND));
     EXPECT_EQ(WriteFileSafely("NUL", kNew, FileKinds::PlainOnly), SystemError(ERROR_INVALID_PARAMETER));
     EXPECT_EQ(WriteFileSafely("NUL", kNew, FileKinds::AnyKind), std::nullopt);
     EXPECT_TRUE(dir.Entries().empty());
