@@ -9,16 +9,18 @@ set(licences licences)
 
 # Qt: the libraries the programs link, the Windows platform and style, and the
 # SVG icon engine and image plugin for the toolbar's icons.
-get_target_property(fs_qtcore_dll Qt6::Core IMPORTED_LOCATION_RELEASE)
-get_filename_component(fs_qt_bin "${fs_qtcore_dll}" DIRECTORY)
-get_filename_component(fs_qt_prefix "${fs_qt_bin}" DIRECTORY)
-foreach(module Core Gui Widgets Svg)
-  install(FILES ${fs_qt_bin}/Qt6${module}.dll DESTINATION .)
-endforeach()
-foreach(plugin platforms/qwindows styles/qwindowsvistastyle iconengines/qsvgicon imageformats/qsvg)
-  get_filename_component(folder ${plugin} DIRECTORY)
-  install(FILES ${fs_qt_prefix}/plugins/${plugin}.dll DESTINATION ${folder})
-endforeach()
+if(FS_BUILD_UI)
+  get_target_property(fs_qtcore_dll Qt6::Core IMPORTED_LOCATION_RELEASE)
+  get_filename_component(fs_qt_bin "${fs_qtcore_dll}" DIRECTORY)
+  get_filename_component(fs_qt_prefix "${fs_qt_bin}" DIRECTORY)
+  foreach(module Core Gui Widgets Svg)
+    install(FILES ${fs_qt_bin}/Qt6${module}.dll DESTINATION .)
+  endforeach()
+  foreach(plugin platforms/qwindows styles/qwindowsvistastyle iconengines/qsvgicon imageformats/qsvg)
+    get_filename_component(folder ${plugin} DIRECTORY)
+    install(FILES ${fs_qt_prefix}/plugins/${plugin}.dll DESTINATION ${folder})
+  endforeach()
+endif()
 
 # The MinGW runtime the compiler links: the C++ library, GCC's support
 # library and the POSIX threads library, wherever this compiler keeps them.
@@ -36,8 +38,10 @@ endforeach()
 # exception, the MinGW-w64 runtime under its own permissive terms (Debian's
 # copyright files hold both); giflib under its MIT licence.
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION . RENAME LICENSE.txt)
-install(FILES ${fs_qt_prefix}/licences/qtbase/LGPL-3.0-only.txt DESTINATION ${licences} RENAME Qt-LGPL-3.txt)
-install(DIRECTORY ${fs_qt_prefix}/licences/ DESTINATION ${licences}/Qt)  # with its bundled libraries' terms
+if(FS_BUILD_UI)
+  install(FILES ${fs_qt_prefix}/licences/qtbase/LGPL-3.0-only.txt DESTINATION ${licences} RENAME Qt-LGPL-3.txt)
+  install(DIRECTORY ${fs_qt_prefix}/licences/ DESTINATION ${licences}/Qt)  # with its bundled libraries' terms
+endif()
 install(FILES /usr/share/doc/gcc-mingw-w64-base/copyright DESTINATION ${licences}
         RENAME GCC-runtime.txt)
 install(FILES /usr/share/doc/mingw-w64-common/copyright DESTINATION ${licences} RENAME MinGW-w64-runtime.txt)

@@ -4,7 +4,7 @@
 # from where the build took them, in the Wine prefix scripts/windows.sh made.
 cache="${FS_WINDOWS_CACHE:-$HOME/.cache/flickerscribe-windows}"
 qt="$(ls -d "$cache"/qt-* 2>/dev/null | head -n 1)"
-runtime="/usr/lib/gcc/x86_64-w64-mingw32/$(x86_64-w64-mingw32-gcc-posix -dumpversion | cut -d. -f1)-posix"
+runtime="$(dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name=libstdc++-6.dll)")"
 export WINEPREFIX="${WINEPREFIX:-$cache/wine}"
 export WINEDEBUG="${WINEDEBUG:--all}"
 export WINEDLLOVERRIDES="${WINEDLLOVERRIDES:-winemenubuilder.exe=d;mscoree,mshtml=}"

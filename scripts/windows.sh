@@ -148,8 +148,7 @@ if [ ! -f "$WINEPREFIX/.complete" ]; then
   wineserver -w
   touch "$WINEPREFIX/.complete"
 fi
-mingw_runtime=("/usr/lib/gcc/$mingw/$($mingw-gcc-posix -dumpversion | cut -d. -f1)-posix"
-               "/usr/$mingw/lib")
+mingw_runtime=("$(dirname "$($mingw-g++-posix -print-file-name=libstdc++-6.dll)")" "/usr/$mingw/lib")
 # Linux paths for Wine's DLL search, semicolon-separated.
 windows_dll_path() { local IFS=';'; echo "$*"; }
 

@@ -21,7 +21,7 @@ struct SaveError {
 // Replaces the content of the file at `path` by `bytes` without ever losing
 // the old file: the bytes go to a new file in the same folder, are flushed to
 // disk, and only then take the old file's place in one rename (on Windows,
-// ReplaceFileW or MoveFileExW). A symbolic link is followed to the file it
+// MoveFileExW, written through). A symbolic link is followed to the file it
 // names, so the link stays a link. A file that already exists keeps its
 // permission bits (and owner, where allowed) or, on Windows, its attributes; a
 // file that can't be opened for writing is refused as it would be by a plain

@@ -1,6 +1,6 @@
 // The core's files on Windows: wide-character names (never the ANSI code
-// page), a save that flushes a file beside the target and puts it in place in
-// one step, and reads that take only what the caller accepts.
+// page), a save that flushes a file beside the target and moves it into place
+// in one step, and reads that take only what the caller accepts.
 #include "document/platform/Files.h"
 
 #ifndef WIN32_LEAN_AND_MEAN
@@ -73,6 +73,10 @@ private:
 };
 
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+// What a saved file keeps of the old one's attributes (read-only files are
+// refused before).
+constexpr DWORD kKeptAttributes =
+    FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
 
 // Writes all bytes; with a fault only the first ones, then fails. 0 or the error.
 DWORD WriteAll(HANDLE h, std::string_view bytes, const std::optional<WriteFault>& fault) {
@@ -196,9 +200,15 @@ std::optional<SaveError> ReplaceFileContent(const std::string& path, std::string
     const auto wide = Widen(path);
     if (!wide) return ErrorOf(ERROR_NO_UNICODE_TRANSLATION);
 
-    // Opened for writing as a plain write would open it: a folder, a read-only
-    // file or one that another program holds without sharing is refused here,
-    // before anything is written.
+    // A read-only file is refused as a plain write would refuse it (checked
+    // here, since an administrator's open would go through all the same).
+    const DWORD oldAttributes = GetFileAttributesW(wide->c_str());
+    if (oldAttributes != INVALID_FILE_ATTRIBUTES && (oldAttributes & FILE_ATTRIBUTE_READONLY) &&
+        !(oldAttributes & FILE_ATTRIBUTE_DIRECTORY))
+        return ErrorOf(ERROR_ACCESS_DENIED);
+    // Opened for writing as a plain write would open it: a folder or a file
+    // that another program holds without sharing is refused here, before
+    // anything is written.
     bool exists = false;
     {
         Handle old(CreateFileW(wide->c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
@@ -223,13 +233,15 @@ std::optional<SaveError> ReplaceFileContent(const std::string& path, std::string
     if (const DWORD error = WriteAll(temp.Get(), bytes, fault)) return ErrorOf(error);
     if (!FlushFileBuffers(temp.Get())) return ErrorOf(GetLastError());
     if (const DWORD error = temp.Close()) return ErrorOf(error);
-    // ReplaceFileW gives the new file the old one's attributes, security and
-    // creation time; a file made meanwhile is replaced all the same.
+    // MoveFileExW rather than ReplaceFileW: both refuse a file that another
+    // program holds without sharing its deletion, but ReplaceFileW (Wine's at
+    // least) may leave a file of its own behind when it does. The new file
+    // takes the old one's attributes (hidden, archive); its permissions are
+    // the folder's, as for any new file there.
+    if (exists && oldAttributes != INVALID_FILE_ATTRIBUTES)
+        SetFileAttributesW(temp.Path().c_str(), oldAttributes & kKeptAttributes);
     const bool placed =
-        (exists && ReplaceFileW(wide->c_str(), temp.Path().c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS,
-                                nullptr, nullptr)) ||
-        ((!exists || GetLastError() == ERROR_FILE_NOT_FOUND) &&
-         MoveFileExW(temp.Path().c_str(), wide->c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
+        MoveFileExW(temp.Path().c_str(), wide->c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
     if (!placed) return ErrorOf(GetLastError());
     temp.Keep();
     return std::nullopt;
