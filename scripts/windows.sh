@@ -328,9 +328,10 @@ unset DISPLAY
 # The command-line companion: the README's example, byte for byte as on Linux,
 # and a name outside ASCII given as UTF-8.
 say "building the Linux command-line companion for the comparison"
-run linux-configure.log cmake --preset default
-run linux-build.log cmake --build --preset default --target flickerscribe-cli
-linux_cli="$repo/build/default/src/cli/flickerscribe-cli"
+run linux-configure.log cmake -G Ninja -S "$repo" -B "$build/linux-cli" -DCMAKE_BUILD_TYPE=Release \
+  -DFS_BUILD_UI=OFF -DFS_BUILD_TESTS=OFF -DFS_BUILD_BENCH=OFF
+run linux-build.log cmake --build "$build/linux-cli" --target flickerscribe-cli
+linux_cli="$build/linux-cli/src/cli/flickerscribe-cli"
 compare="$build/cli-compare"
 rm -rf "$compare" && mkdir -p "$compare/linux" "$compare/windows"
 example=(effects --name Quillon --tag '^4[QZT]' --effect "Wave 2" --effect Bounce --param1 1 --output q.fsq)
