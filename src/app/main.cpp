@@ -19,6 +19,7 @@ int main(int argc, char** argv) {
     window.show();
     // A project file named on the command line (as the desktop starts the
     // program for an .fsq file) is opened as by Open.
-    if (const QStringList args = QApplication::arguments(); args.size() > 1) window.OpenAnimationFile(args.at(1));
+    if (const QStringList args = QApplication::arguments(); args.size() > 1)
+        window.OpenAnimationFile(args.at(1));
     return QApplication::exec();
 }

@@ -61,10 +61,11 @@ std::wstring ReadRegistryString(const std::wstring& valueName, const std::wstrin
     return std::wstring(text);
 }
 
-void WriteRegistryString(const std::wstring& valueName, const std::wstring& value, const std::wstring& keyName) {
+void WriteRegistryString(const std::wstring& valueName, const std::wstring& value,
+                         const std::wstring& keyName) {
     OpenKey key;
-    if (RegCreateKeyExW(HKEY_CURRENT_USER, keyName.c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_SET_VALUE,
-                        nullptr, key.Out(), nullptr) != ERROR_SUCCESS)
+    if (RegCreateKeyExW(HKEY_CURRENT_USER, keyName.c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE,
+                        KEY_SET_VALUE, nullptr, key.Out(), nullptr) != ERROR_SUCCESS)
         return;
     // The characters only, without a terminating zero.
     RegSetValueExW(key.Get(), valueName.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(value.c_str()),

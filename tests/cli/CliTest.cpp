@@ -49,8 +49,8 @@ CliResult RunCli(const TempFolder& dir, const std::vector<std::string>& args, co
     SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
     const auto open = [&](const char* name, bool output) {
         return CreateFileW(FsPath(dir.File(name)).wstring().c_str(), output ? GENERIC_WRITE : GENERIC_READ,
-                           FILE_SHARE_READ | FILE_SHARE_WRITE, &inherited, output ? CREATE_ALWAYS : OPEN_EXISTING,
-                           FILE_ATTRIBUTE_NORMAL, nullptr);
+                           FILE_SHARE_READ | FILE_SHARE_WRITE, &inherited,
+                           output ? CREATE_ALWAYS : OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     };
     STARTUPINFOW start{};
     start.cb = sizeof start;

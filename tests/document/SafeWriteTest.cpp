@@ -134,7 +134,8 @@ TEST(WriteFileSafely, AWriteBrokenOffHalfWayLeavesTheOldFileWhole) {
 // refused, as the pipe is, where only a plain file will do.
 TEST(WriteFileSafely, RefusesWhatCannotBeWrittenAndTouchesNothing) {
 #ifdef _WIN32
-    GTEST_SKIP() << "named pipes in the file system, symbolic links and /dev: Windows' own in WindowsFilesTest";
+    GTEST_SKIP()
+        << "named pipes in the file system, symbolic links and /dev: Windows' own in WindowsFilesTest";
 #else
     constexpr auto kAny = FileKinds::AnyKind, kPlain = FileKinds::PlainOnly;
     const struct {

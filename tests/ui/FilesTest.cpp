@@ -82,8 +82,8 @@ TEST_F(Files, UnreadableFilesAreNotFoundAndLongOnesCut) {
 #ifdef _WIN32
     // A device, and a file another program holds open without sharing it.
     const QString unreadable[] = {gone, folder.path(), u"NUL"_s, locked};
-    const HANDLE holder = CreateFileW(reinterpret_cast<const wchar_t*>(locked.utf16()), GENERIC_READ, 0, nullptr,
-                                      OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    const HANDLE holder = CreateFileW(reinterpret_cast<const wchar_t*>(locked.utf16()), GENERIC_READ, 0,
+                                      nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     ASSERT_NE(holder, INVALID_HANDLE_VALUE);
 #else
     const QString pipe = PathOf(u"pipe"_s);

@@ -26,16 +26,16 @@ std::optional<std::wstring> Widen(const std::string& utf8) {
                                          static_cast<int>(utf8.size()), nullptr, 0);
     if (size <= 0) return std::nullopt;
     std::wstring wide(static_cast<std::size_t>(size), L'\0');
-    MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, utf8.data(), static_cast<int>(utf8.size()), wide.data(),
-                        size);
+    MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, utf8.data(), static_cast<int>(utf8.size()),
+                        wide.data(), size);
     std::replace(wide.begin(), wide.end(), L'/', L'\\');
     return wide;
 }
 
 std::string Narrow(std::wstring_view wide) {
     if (wide.empty()) return {};
-    const int size =
-        WideCharToMultiByte(CP_UTF8, 0, wide.data(), static_cast<int>(wide.size()), nullptr, 0, nullptr, nullptr);
+    const int size = WideCharToMultiByte(CP_UTF8, 0, wide.data(), static_cast<int>(wide.size()), nullptr, 0,
+                                         nullptr, nullptr);
     std::string utf8(static_cast<std::size_t>(std::max(size, 0)), '\0');
     WideCharToMultiByte(CP_UTF8, 0, wide.data(), static_cast<int>(wide.size()), utf8.data(), size, nullptr,
                         nullptr);
@@ -75,8 +75,8 @@ private:
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 // What a saved file keeps of the old one's attributes (read-only files are
 // refused before).
-constexpr DWORD kKeptAttributes =
-    FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
+constexpr DWORD kKeptAttributes = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE |
+                                  FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
 
 // Writes all bytes; with a fault only the first ones, then fails. 0 or the error.
 DWORD WriteAll(HANDLE h, std::string_view bytes, const std::optional<WriteFault>& fault) {
@@ -107,8 +107,8 @@ public:
         for (int attempt = 0; attempt < 100; ++attempt) {
             wchar_t suffix[32];
             std::swprintf(suffix, 32, L".saving-%08lx",
-                          static_cast<unsigned long>((GetTickCount64() * 2654435761u) ^ GetCurrentProcessId() ^
-                                                     (++counter << 20)));
+                          static_cast<unsigned long>((GetTickCount64() * 2654435761u) ^
+                                                     GetCurrentProcessId() ^ (++counter << 20)));
             path_ = folder + L"." + base + suffix;
             h_.Reset(CreateFileW(path_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL,
                                  nullptr));
@@ -150,7 +150,8 @@ std::string ErrorText(int number) {
         static_cast<DWORD>(number), 0, reinterpret_cast<wchar_t*>(&buffer), 0, nullptr);
     std::wstring text(buffer != nullptr ? buffer : L"", length);
     LocalFree(buffer);
-    while (!text.empty() && (text.back() == L'\n' || text.back() == L'\r' || text.back() == L' ')) text.pop_back();
+    while (!text.empty() && (text.back() == L'\n' || text.back() == L'\r' || text.back() == L' '))
+        text.pop_back();
     if (text.empty()) return "Error " + std::to_string(number);
     return Narrow(text);
 }
@@ -159,16 +160,16 @@ bool CanOpenForReading(const std::string& path) {
     const auto wide = Widen(path);
     if (!wide || wide->empty()) return false;
     // Without FILE_FLAG_BACKUP_SEMANTICS a folder doesn't open.
-    const Handle h(
-        CreateFileW(wide->c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    const Handle h(CreateFileW(wide->c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING,
+                               FILE_ATTRIBUTE_NORMAL, nullptr));
     return h.Valid();
 }
 
 std::optional<std::string> ReadWholeFile(const std::string& path, FileKinds kinds) {
     const auto wide = Widen(path);
     if (!wide || wide->empty()) return std::nullopt;
-    const Handle h(
-        CreateFileW(wide->c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    const Handle h(CreateFileW(wide->c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING,
+                               FILE_ATTRIBUTE_NORMAL, nullptr));
     if (!h.Valid()) return std::nullopt;  // also a folder
     const bool disk = GetFileType(h.Get()) == FILE_TYPE_DISK;
     if (!disk && kinds == FileKinds::PlainOnly) return std::nullopt;  // a device (CON, NUL) or a pipe
