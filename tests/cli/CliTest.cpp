@@ -24,21 +24,10 @@ struct CliResult {
 };
 
 #ifdef _WIN32
-// An argument as the C runtime and CommandLineToArgvW read it back: quoted,
-// with a backslash before each quote and doubled backslashes before those.
+// An argument as CommandLineToArgvW reads it back; the tests' arguments hold
+// no quotes and end in no backslash.
 std::wstring Quoted(const std::wstring& arg) {
-    std::wstring quoted = L"\"";
-    std::size_t backslashes = 0;
-    for (const wchar_t c : arg) {
-        if (c == L'\\') {
-            ++backslashes;
-            continue;
-        }
-        quoted.append(c == L'"' ? 2 * backslashes + 1 : backslashes, L'\\');
-        backslashes = 0;
-        quoted += c;
-    }
-    return quoted.append(2 * backslashes, L'\\') + L"\"";
+    return L"\"" + arg + L"\"";
 }
 
 // Runs the program in `dir` with the file "stdin" there on standard input,
