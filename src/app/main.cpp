@@ -4,6 +4,7 @@
 #include "settings/UserSettingsStore.h"
 #include "ui/MainWindow.h"
 #include "ui/QtDialogs.h"
+#include "ui/TerminationSignals.h"
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
@@ -12,10 +13,11 @@ int main(int argc, char** argv) {
         QStringLiteral("%1.%2.%3").arg(FS_VERSION_MAJOR).arg(FS_VERSION_MINOR).arg(FS_VERSION_PATCH));
     flickerscribe::ui::QtDialogs dialogs;
     const auto store = flickerscribe::settings::OpenUserSettingsStore();
-    // The last animation is kept in the user's data folder between runs.
-    const QString kept = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
-                         QStringLiteral("/last-animation.fsq");
-    flickerscribe::ui::MainWindow window(dialogs, *store, kept);
+    // Each run keeps its animation in the user's data folder.
+    flickerscribe::ui::MainWindow window(dialogs, *store,
+                                         QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    // Ended by a signal, the program ends as by Exit, keeping the animation.
+    flickerscribe::ui::EndOnTerminationSignals(&window, [&window] { window.Exit(); });
     window.show();
     // A project file named on the command line (as the desktop starts the
     // program for an .fsq file) is opened as by Open.

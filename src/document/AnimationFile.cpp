@@ -1,5 +1,7 @@
 #include "document/AnimationFile.h"
 
+#include <algorithm>
+
 #include "document/TextFile.h"
 #include "document/platform/Files.h"
 
@@ -50,6 +52,23 @@ LoadStatus LoadAnimationFile(const std::string& path, AnimationScript& script) {
     // The whole file first: the old animation goes only for one read to its end.
     const auto data = ReadFileBytes(path);
     if (!data) return LoadStatus::ReadFailed;
+    return LoadAnimationBytes(*data, script);
+}
+
+bool IsWholeAnimationFile(std::string_view data) {
+    if (!data.starts_with(kAnimationMagic) || !data.ends_with(kLineEnd)) return false;
+    data.remove_prefix(kAnimationMagic.size());
+    std::size_t lines = 0;
+    for (std::size_t at = data.find(kLineEnd); at != std::string_view::npos; at = data.find(kLineEnd, at + 2))
+        ++lines;
+    // Every CR ends a line, and the magic line's end is the first of them.
+    return data.starts_with(kLineEnd) && (lines - 1) % 3 == 0 &&
+           static_cast<std::size_t>(std::count(data.begin(), data.end(), '\r')) == lines;
+}
+
+LoadStatus LoadWholeAnimationFile(const std::string& path, AnimationScript& script) {
+    const auto data = ReadFileBytes(path);
+    if (!data || !IsWholeAnimationFile(*data)) return LoadStatus::ReadFailed;
     return LoadAnimationBytes(*data, script);
 }
 

@@ -37,6 +37,13 @@ LoadStatus LoadAnimationBytes(std::string_view data, AnimationScript& script);
 // as it was and gives ReadFailed.
 LoadStatus LoadAnimationFile(const std::string& path, AnimationScript& script);
 
+// Like LoadAnimationFile, but only for a file as the program writes it, whole:
+// the magic line, then complete records, every line ended by CR LF. A file
+// cut short, or of other bytes, gives ReadFailed and leaves the script alone.
+// For the animations the program keeps for itself.
+LoadStatus LoadWholeAnimationFile(const std::string& path, AnimationScript& script);
+bool IsWholeAnimationFile(std::string_view data);
+
 // The project file of a script: the magic line, then Text, Time and Action of
 // each line, every line ended by CR LF.
 std::string AnimationFileBytes(const AnimationScript& script);

@@ -20,7 +20,8 @@ public:
     PackedLines() = default;
     explicit PackedLines(const std::vector<AnimationLine>& lines) {
         std::size_t size = 0;
-        for (const AnimationLine& line : lines) size += line.Text.size() + line.Time.size() + line.Action.size();
+        for (const AnimationLine& line : lines)
+            size += line.Text.size() + line.Time.size() + line.Action.size();
         bytes_.reserve(size);
         ends_.reserve(lines.size() * 3);
         for (const AnimationLine& line : lines) {
@@ -125,7 +126,10 @@ namespace steps {
 class LineStep : public AnimationHistory::Step {
 public:
     LineStep(const QString& name, AnimationScript& script, int index, AnimationLine line, bool remove)
-        : Step(name, script, script.SelectedIndex()), index_(index), line_(std::move(line)), remove_(remove) {}
+        : Step(name, script, script.SelectedIndex()),
+          index_(index),
+          line_(std::move(line)),
+          remove_(remove) {}
 
     std::size_t Bytes() const override { return BytesOf(line_); }
 
@@ -232,7 +236,8 @@ private:
 
 }  // namespace steps
 
-AnimationHistory::AnimationHistory(AnimationScript& script, QObject* parent) : QObject(parent), script_(script) {
+AnimationHistory::AnimationHistory(AnimationScript& script, QObject* parent)
+    : QObject(parent), script_(script) {
     stack_.setUndoLimit(kMaxSteps);
 }
 
@@ -317,7 +322,8 @@ void AnimationHistory::SetText(const QString& name, int index, std::string text,
 
 void AnimationHistory::SetTime(const QString& name, int index, std::string time) {
     if (index < 1 || index > script_.Count() || script_.LineAt(index).Time == time) return;
-    Push(new steps::FieldStep(name, script_, index, steps::FieldStep::Field::Time, std::move(time), std::nullopt));
+    Push(new steps::FieldStep(name, script_, index, steps::FieldStep::Field::Time, std::move(time),
+                              std::nullopt));
 }
 
 bool AnimationHistory::AppendLines(const QString& name, std::vector<AnimationLine> lines) {
@@ -336,7 +342,9 @@ void AnimationHistory::KeepReplaced(const QString& name, const std::vector<Anima
 
 void AnimationHistory::Trim() {
     std::size_t bytes = KeptBytes();
-    for (int i = 0; i < stack_.count() && bytes > kMaxBytes; ++i) {
+    // The step Undo would take stays, however large: New over a huge list can
+    // always be taken back.
+    for (int i = 0; i < stack_.index() - 1 && bytes > kMaxBytes; ++i) {
         auto* step = const_cast<Step*>(StepAt(i));
         if (step->Dropped()) continue;
         bytes -= step->Bytes();

@@ -17,7 +17,7 @@ namespace flickerscribe::ui {
 // back and Redo does again, each restoring the lines and the selected line.
 // Built on QUndoStack; the steps call the core's operations. The history
 // holds at most kMaxSteps steps and kMaxBytes of kept lines: past either, the
-// oldest steps go. Selection alone is no step, and a change that changes
+// oldest steps go, but never the newest step. Selection alone is no step, and a change that changes
 // nothing makes none.
 class AnimationHistory : public QObject {
     Q_OBJECT

@@ -83,5 +83,4 @@ void EditTimeDialog::CheckTime() {
     if (!IsNumberText(FromQString(timeBox_->text()))) timeBox_->setText(u"20"_s);
 }
 
-
 }  // namespace flickerscribe::ui

@@ -73,8 +73,8 @@ bool IsLineShortcut(const QKeyEvent* event) {
 
 }  // namespace
 
-MainWindow::MainWindow(Dialogs& dialogs, settings::SettingsStore& store, QString keptAnimation, QWidget* parent)
-    : QMainWindow(parent), dialogs_(dialogs), store_(store), keptAnimation_(std::move(keptAnimation)) {
+MainWindow::MainWindow(Dialogs& dialogs, settings::SettingsStore& store, QString keptFolder, QWidget* parent)
+    : QMainWindow(parent), dialogs_(dialogs), store_(store), kept_(std::move(keptFolder)) {
     setObjectName(names::kWindow);
     setWindowTitle(u"Flickerscribe - by [QZT]Quillon"_s);
     setWindowIcon(AppIcon());
@@ -90,16 +90,17 @@ MainWindow::MainWindow(Dialogs& dialogs, settings::SettingsStore& store, QString
     playTimer_->setInterval(100);
     connect(playTimer_, &QTimer::timeout, this, [this] { ShowNextFrame(); });
 
-    // The last animation is kept 30 seconds after the last change, at the end
-    // of the program, and when the desktop session ends.
+    // The animation is kept at most 30 seconds after the first change that
+    // its file doesn't hold yet, however the work goes on meanwhile; at the
+    // end of the program; and when the desktop session ends.
     keepTimer_ = new QTimer(this);
     keepTimer_->setObjectName(names::kKeepTimer);
     keepTimer_->setSingleShot(true);
     keepTimer_->setInterval(30'000);
     connect(keepTimer_, &QTimer::timeout, this, [this] { KeepAnimation(); });
     connect(&history_, &AnimationHistory::Changed, this, [this] {
-        kept_ = false;
-        keepTimer_->start();
+        keptCurrent_ = false;
+        if (!keepTimer_->isActive()) keepTimer_->start();
         UpdateUndoActions();
     });
     connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { KeepAnimation(); });
@@ -142,6 +143,9 @@ void MainWindow::BuildMenus() {
             [this] { ImportScript(); });
     reopenAction_ = AddEntry(file, names::kReopenEntry, u"Reopen last animation"_s);
     connect(reopenAction_, &QAction::triggered, this, [this] { ReopenLastAnimation(); });
+    keptMenu_ = file->addMenu(u"Kept animations"_s);
+    keptMenu_->setObjectName(names::kKeptMenu);
+    connect(keptMenu_, &QMenu::aboutToShow, this, [this] { FillKeptMenu(); });
     connect(file, &QMenu::aboutToShow, this, [this] { UpdateReopenAction(); });
     AddSeparator(file, names::kFileSeparator1);
     AddEntry(file, names::kSaveEntry, u"Save"_s)->setEnabled(false);
@@ -155,7 +159,8 @@ void MainWindow::BuildMenus() {
     undoAction_ = AddEntry(edit, names::kUndoEntry, u"Undo"_s, QKeySequence(Qt::CTRL | Qt::Key_Z));
     connect(undoAction_, &QAction::triggered, this, [this] { Undo(); });
     redoAction_ = AddEntry(edit, names::kRedoEntry, u"Redo"_s, QKeySequence(Qt::CTRL | Qt::Key_Y));
-    redoAction_->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
+    redoAction_->setShortcuts(
+        {QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
     connect(redoAction_, &QAction::triggered, this, [this] { Redo(); });
     AddSeparator(edit, names::kEditSeparator0);
     connect(AddEntry(edit, names::kCutEntry, u"Cut"_s, QKeySequence(Qt::CTRL | Qt::Key_X)),
@@ -290,6 +295,7 @@ void MainWindow::BuildControls() {
     preview_ = std::make_unique<RichPane>(paneEdit_);
     connect(paneEdit_, &QTextEdit::textChanged, this, [this] { OnPaneEdited(); });
     paneEdit_->installEventFilter(this);
+    paneEdit_->viewport()->installEventFilter(this);
 
     lineList_ = new LineListView(client_);
     lineList_->setObjectName(names::kLineList);
@@ -357,6 +363,14 @@ QAction* MainWindow::ToolbarAction(const QString& key) const {
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    const bool inPane = watched == paneEdit_ || watched == paneEdit_->viewport();
+    if (inPane && paneShows_ == PaneShows::Frame && !Playing() &&
+        (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress ||
+         event->type() == QEvent::DragEnter)) {
+        // A frame left by playback gives way to the selected line before the
+        // user's click, key or drop reaches the pane.
+        SetPreview();
+    }
     if (watched == client_ && event->type() == QEvent::Resize) {
         LayOutControls();
     } else if (watched == paneEdit_ || watched == lineList_) {
@@ -427,7 +441,7 @@ void MainWindow::LoadSettings() {
     // Only the Text column can be edited in place, by a click on the line
     // that is already selected, and only when the setting is on.
     lineList_->setEditTriggers(settings_.editInPlace ? QAbstractItemView::SelectedClicked
-                                                  : QAbstractItemView::NoEditTriggers);
+                                                     : QAbstractItemView::NoEditTriggers);
 }
 
 void MainWindow::RunToolbarCommand(const QString& key) {

@@ -10,8 +10,11 @@
 #include "settings/Settings.h"
 #include "ui/AnimationHistory.h"
 #include "ui/Dialogs.h"
+#include "ui/KeptAnimations.h"
 
 class QAction;
+class QLabel;
+class QMenu;
 class QPushButton;
 class QTextEdit;
 class QTimer;
@@ -41,9 +44,8 @@ class MainWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    // `keptAnimation` is the file that keeps the last animation between runs
-    // (none when empty).
-    MainWindow(Dialogs& dialogs, settings::SettingsStore& store, QString keptAnimation = {},
+    // `keptFolder` is where runs keep their animations (none when empty).
+    MainWindow(Dialogs& dialogs, settings::SettingsStore& store, QString keptFolder = {},
                QWidget* parent = nullptr);
     ~MainWindow() override;
 
@@ -121,11 +123,14 @@ public:
     // --- undo, redo and the kept animation (MainWindow_History.cpp)
     void Undo();
     void Redo();
-    // Writes the animation to the kept file, when there are lines and it
-    // changed since the last time; a failure goes to standard error.
+    // Writes the animation to this run's kept file, when there are lines and
+    // the file doesn't hold them yet. A failure shows in the status bar and is
+    // tried again by the timer and at the end, never in a message box.
     void KeepAnimation();
-    // Loads the kept file like Open.
+    // Loads the newest animation that another run kept, like Open.
     void ReopenLastAnimation();
+    // Loads a kept animation like Open.
+    void OpenKeptAnimation(const QString& path);
 
     // --- other windows (MainWindow_Windows.cpp)
     void ShowWizard();
@@ -148,6 +153,8 @@ private:
     // and no playback runs; their captions name the step.
     void UpdateUndoActions();
     void UpdateReopenAction();
+    void FillKeptMenu();
+    void ShowKeepProblem(const std::optional<SaveError>& error);
     // Replaces the list by what `load` reads from `path`, as one step; a file
     // that can't be read gets `notFound` as a stop message titled `title`, and
     // a file cut at the line limit the limit's message.
@@ -160,9 +167,11 @@ private:
     settings::SettingsStore& store_;
     AnimationScript script_;
     AnimationHistory history_{script_};
-    QString keptAnimation_;
-    bool kept_ = true;  // the kept file holds the animation of the moment
+    KeptAnimations kept_;
+    bool keptCurrent_ = true;  // this run's kept file holds the animation of the moment
     QTimer* keepTimer_ = nullptr;
+    QMenu* keptMenu_ = nullptr;
+    QLabel* keepProblem_ = nullptr;
     QAction* undoAction_ = nullptr;
     QAction* redoAction_ = nullptr;
     QAction* reopenAction_ = nullptr;

@@ -17,6 +17,8 @@ inline const QString kColourStrip = QStringLiteral("picColors");
 inline const QString kPlayTimer = QStringLiteral("timAni");
 inline const QString kToolbar = QStringLiteral("tlbMain");
 inline const QString kKeepTimer = QStringLiteral("timKeep");
+// Shown in the status bar while the animation can't be kept.
+inline const QString kKeepProblem = QStringLiteral("lblKeepProblem");
 
 // The menus and their entries; separators are named too.
 inline const QString kFileMenu = QStringLiteral("mnuFile");
@@ -24,6 +26,7 @@ inline const QString kNewEntry = QStringLiteral("mnuFileNew");
 inline const QString kOpenEntry = QStringLiteral("mnuFileOpen");
 inline const QString kImportEntry = QStringLiteral("mnuFileImport");
 inline const QString kReopenEntry = QStringLiteral("mnuFileReopen");
+inline const QString kKeptMenu = QStringLiteral("mnuFileKept");
 inline const QString kFileSeparator1 = QStringLiteral("mnuFileLine");
 inline const QString kSaveEntry = QStringLiteral("mnuFileSave");
 inline const QString kSaveAsEntry = QStringLiteral("mnuFileSaveAs");

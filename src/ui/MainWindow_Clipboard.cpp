@@ -45,7 +45,8 @@ void MainWindow::PasteLine() {
     // The new line goes behind the selected one, which stays selected; into
     // an empty list it goes as the first line, and is selected.
     const int index = script_.Count() > 0 ? script_.SelectedIndex() + 1 : 1;
-    if (!history_.InsertLine(u"Paste"_s, index, AnimationLine{FromQString(FirstLine(*clipboard)), "15", "[none]"})) {
+    if (!history_.InsertLine(u"Paste"_s, index,
+                             AnimationLine{FromQString(FirstLine(*clipboard)), "15", "[none]"})) {
         ShowLineLimitMessage(dialogs_, this);
         return;
     }

@@ -27,8 +27,9 @@ void MainWindow::WritePaneToLine(const QString& stepName, bool typing) {
     // Every change of the pane goes back to the selected line as coded text,
     // with a code only where the colour changes (white counting as the colour
     // before the first character). The program's own drawing, and playback,
-    // reach no line; with an empty list there is no line to reach.
-    if (!previewBusy_ && script_.Count() >= 1) {
+    // reach no line, and neither does a frame that playback left in the pane;
+    // with an empty list there is no line to reach.
+    if (!previewBusy_ && paneShows_ != PaneShows::Frame && script_.Count() >= 1) {
         shownText_ = EncodeColouredText(pane, kWhite);
         paneShows_ = PaneShows::Line;
         writingFromPane_ = true;
@@ -47,6 +48,11 @@ void MainWindow::WritePaneToLine(const QString& stepName, bool typing) {
 
 void MainWindow::PaintSelection(int index) {
     Pane& pane = *preview_;
+    // A frame of playback is no line to paint: the pane shows the line again.
+    if (paneShows_ == PaneShows::Frame) {
+        if (!Playing()) SetPreview();
+        return;
+    }
     // An empty pane takes no colour: a new text can't start with one.
     if (pane.Text().empty()) return;
     const bool stretch = pane.SelLength() > 0;

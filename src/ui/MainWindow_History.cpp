@@ -1,12 +1,16 @@
 #include <QAction>
 #include <QCloseEvent>
-#include <QDir>
-#include <QFileInfo>
+#include <QLabel>
+#include <QMenu>
+#include <QStatusBar>
 #include <QTimer>
+#include <algorithm>
 
 #include "document/AnimationFile.h"
 #include "ui/FileCommands.h"
+#include "ui/LineLimit.h"
 #include "ui/MainWindow.h"
+#include "ui/MainWindowNames.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -14,6 +18,8 @@ using namespace Qt::Literals::StringLiterals;
 // between runs of the program.
 
 namespace flickerscribe::ui {
+
+namespace names = main_window_names;
 
 void MainWindow::Undo() {
     if (!Playing()) history_.Undo();
@@ -34,31 +40,66 @@ void MainWindow::UpdateUndoActions() {
 }
 
 void MainWindow::UpdateReopenAction() {
-    reopenAction_->setEnabled(!keptAnimation_.isEmpty() && QFileInfo(keptAnimation_).isFile());
+    const QStringList files = kept_.Files();
+    reopenAction_->setEnabled(std::any_of(files.begin(), files.end(),
+                                          [this](const QString& file) { return file != kept_.OwnFile(); }));
+    keptMenu_->setEnabled(!files.isEmpty());
+}
+
+void MainWindow::FillKeptMenu() {
+    keptMenu_->clear();
+    for (const KeptAnimations::Entry& entry : kept_.Entries()) {
+        connect(keptMenu_->addAction(EntryCaption(entry)), &QAction::triggered, this,
+                [this, path = entry.path] { OpenKeptAnimation(path); });
+    }
+    if (keptMenu_->isEmpty()) keptMenu_->addAction(u"None can be read"_s)->setEnabled(false);
 }
 
 void MainWindow::KeepAnimation() {
     keepTimer_->stop();
-    if (kept_ || keptAnimation_.isEmpty() || script_.Count() == 0) return;
-    kept_ = true;
-    const QString folder = QFileInfo(keptAnimation_).absolutePath();
-    std::optional<SaveError> error;
-    if (!QDir().mkpath(folder)) {
-        error = SaveError{EACCES, "the folder can't be made"};
-    } else {
-        error = SaveAnimationFile(NativePath(keptAnimation_), script_);
-    }
-    // Never a message box: this runs at the end of the program too.
-    if (error) {
-        qWarning("Flickerscribe: the last animation could not be kept in %s: %s (%d)",
-                 qUtf8Printable(keptAnimation_), error->text.c_str(), error->number);
-    }
+    if (keptCurrent_ || !kept_.Enabled() || script_.Count() == 0) return;
+    const auto error = kept_.Keep(script_);
+    keptCurrent_ = !error;
+    // Tried again in 30 seconds, and at the end of the program.
+    if (error) keepTimer_->start();
+    ShowKeepProblem(error);
     UpdateReopenAction();
 }
 
+// Never a message box: keeping runs at the end of the program too.
+void MainWindow::ShowKeepProblem(const std::optional<SaveError>& error) {
+    if (!error) {
+        if (keepProblem_ != nullptr) statusBar()->hide();
+        return;
+    }
+    qWarning("Flickerscribe: the animation could not be kept in %s: %s (%d)", qUtf8Printable(kept_.OwnFile()),
+             error->text.c_str(), error->number);
+    if (keepProblem_ == nullptr) {
+        keepProblem_ = new QLabel(this);
+        keepProblem_->setObjectName(names::kKeepProblem);
+        statusBar()->addWidget(keepProblem_, 1);
+    }
+    keepProblem_->setText(u"Your work could not be kept (%1); trying again in 30 seconds."_s.arg(
+        QString::fromLocal8Bit(error->text)));
+    statusBar()->show();
+}
+
 void MainWindow::ReopenLastAnimation() {
-    LoadIntoList(u"Reopen last animation"_s, keptAnimation_, LoadAnimationFile,
-                 u"File not found!\n"_s + keptAnimation_, u"Error"_s);
+    // The newest that another run kept and that can be read whole.
+    for (const QString& path : kept_.Files()) {
+        if (path == kept_.OwnFile()) continue;
+        const LoadStatus status = history_.ReplaceLines(
+            u"Reopen last animation"_s,
+            [&](AnimationScript& script) { return LoadWholeAnimationFile(NativePath(path), script); });
+        if (status == LoadStatus::Truncated) ShowLineLimitMessage(dialogs_, this);
+        if (status != LoadStatus::ReadFailed) return;
+    }
+    dialogs_.Message(this, u"File not found!"_s, u"Error"_s, MsgIcon::Critical, MsgButtons::Ok);
+}
+
+void MainWindow::OpenKeptAnimation(const QString& path) {
+    LoadIntoList(u"Open kept animation"_s, path, LoadWholeAnimationFile, u"File not found!\n"_s + path,
+                 u"Error"_s);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -75,10 +75,12 @@ void MainWindow::CopyLines(int mode) {
                               lines[static_cast<std::size_t>(script_.SelectedIndex() - 1)]);
             break;
         case 3:
-            copies.assign(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(std::min(lines.size(), room + 1)));
+            copies.assign(lines.begin(),
+                          lines.begin() + static_cast<std::ptrdiff_t>(std::min(lines.size(), room + 1)));
             break;
         case 4:
-            copies.assign(lines.rbegin(), lines.rbegin() + static_cast<std::ptrdiff_t>(std::min(lines.size(), room + 1)));
+            copies.assign(lines.rbegin(),
+                          lines.rbegin() + static_cast<std::ptrdiff_t>(std::min(lines.size(), room + 1)));
             break;
         default:
             return;

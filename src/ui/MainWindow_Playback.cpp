@@ -45,6 +45,10 @@ void MainWindow::TogglePlayback() {
         previewBusy_ = false;
         playTimer_->stop();
         UpdateUndoActions();
+        // The last frame stays in the pane, but it is no line's text: the pane
+        // takes no edit until it shows the selected line again, which the
+        // user's next click, key or colour in the pane brings.
+        if (paneShows_ == PaneShows::Frame) preview_->SetLocked(true);
     }
 }
 

@@ -11,8 +11,8 @@
 #include <QTreeWidget>
 
 #include "document/AnimationScript.h"
-#include "ui/AnimationHistory.h"
 #include "settings/Settings.h"
+#include "ui/AnimationHistory.h"
 #include "ui/ColourNameEditor.h"
 #include "ui/DialogWindow.h"
 #include "ui/Dialogs.h"

@@ -16,7 +16,6 @@ class QRadioButton;
 class QTreeWidget;
 class QTreeWidgetItem;
 
-
 namespace flickerscribe::settings {
 struct Settings;
 }

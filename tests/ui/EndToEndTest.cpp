@@ -10,7 +10,11 @@ namespace {
 class EndToEnd : public MainWindowTest {
 protected:
     void SetUp() override {
-        keptAnimation = PathOf(u"kept/last-animation.fsq"_s);
+        keptFolder = PathOf(u"kept"_s);
+        // What an earlier run kept.
+        ASSERT_TRUE(QDir().mkpath(keptFolder));
+        WriteBytes(PathOf(u"kept/kept-earlier.fsq"_s), "#v050#\r\nearlier\r\n15\r\n[none]\r\n");
+        SetAge(PathOf(u"kept/kept-earlier.fsq"_s), 60);
         MainWindowTest::SetUp();
         window->resize(640, 480);
         Show();
@@ -140,7 +144,12 @@ TEST_F(EndToEnd, OneSessionGivesEveryCommand) {
     Give(u"btnnew"_s);
     emit Named<QMenu>(u"mnuFile"_s)->aboutToShow();
     Give(u"mnuFileReopen"_s);
-    EXPECT_EQ(Script().Count(), 2);
+    EXPECT_EQ(Lines(), TextTimes{"earlier/15"}) << "the earlier run's";
+    emit Named<QMenu>(u"mnuFileKept"_s)->aboutToShow();
+    const QList<QAction*> kept = Named<QMenu>(u"mnuFileKept"_s)->actions();
+    ASSERT_EQ(kept.size(), 2);
+    Change([&] { kept.front()->trigger(); });
+    EXPECT_EQ(Script().Count(), 2) << "this run's, the newest";
 
     // Generate, saved from its window.
     Give(u"btngenerate"_s);
@@ -155,7 +164,7 @@ TEST_F(EndToEnd, OneSessionGivesEveryCommand) {
                                        u"frmOptions"_s, u"frmHelp"_s, u"frmAbout"_s}));
     Give(u"mnuFileExit"_s);
     EXPECT_FALSE(window->isVisible());
-    EXPECT_EQ(ReadBytes(keptAnimation), "#v050#\r\n^8one\r\n15\r\n[none]\r\n")
+    EXPECT_EQ(ReadBytes(KeptFiles().value(0)), "#v050#\r\n^8one\r\n15\r\n[none]\r\n")
         << "Simple Edit's, kept at the end";
     EXPECT_EQ(QStringList((offered - given).values()).join(u", "_s), QString()) << "never given";
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);

@@ -14,6 +14,7 @@
 
 #include "MainWindowFixture.h"
 #include "document/SafeWrite.h"
+#include "document/TextFile.h"
 #include "ui/ScriptWindow.h"
 
 namespace flickerscribe::ui::testing_support {
@@ -74,14 +75,17 @@ TEST_F(Files, EachDialogOpensInItsFolderAndCancelChangesNothing) {
 
 // Whatever can't be read to its end as a plain file leaves the animation as
 // it was and gets "File not found!": a pipe with no writer must not hold the
-// window, and an I/O error half way must not cost the lines. A file of more
-// lines than an animation holds gives the first ones, and says so.
+// window, and an I/O error half way or a file larger than the memory allows
+// must not cost the lines. A file of more lines than an animation holds gives
+// the first ones, and says so.
 TEST_F(Files, UnreadableFilesAreNotFoundAndLongOnesCut) {
-    const QString locked = PathOf(u"locked"_s), gone = PathOf(u"gone"_s);
+    const QString locked = PathOf(u"locked"_s), gone = PathOf(u"gone"_s), huge = PathOf(u"huge"_s);
+    QFile sparse(huge);  // takes no disk
+    ASSERT_TRUE(sparse.open(QIODevice::WriteOnly) && sparse.resize(qint64(kMaxFileBytes) + 1));
     WriteBytes(locked, "#v050#\r\nx\r\n15\r\n[none]\r\n");
 #ifdef _WIN32
     // A device, and a file another program holds open without sharing it.
-    const QString unreadable[] = {gone, folder.path(), u"NUL"_s, locked};
+    const QString unreadable[] = {gone, folder.path(), u"NUL"_s, huge, locked};
     const HANDLE holder = CreateFileW(reinterpret_cast<const wchar_t*>(locked.utf16()), GENERIC_READ, 0,
                                       nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     ASSERT_NE(holder, INVALID_HANDLE_VALUE);
@@ -90,7 +94,7 @@ TEST_F(Files, UnreadableFilesAreNotFoundAndLongOnesCut) {
     ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     QFile::setPermissions(locked, QFileDevice::WriteOwner);
     const bool root = ::geteuid() == 0;  // root reads every file
-    const QString unreadable[] = {gone, folder.path(), pipe, u"/proc/self/mem"_s, root ? gone : locked};
+    const QString unreadable[] = {gone, folder.path(), pipe, u"/proc/self/mem"_s, huge, root ? gone : locked};
 #endif
     for (const char* command : {"Open", "Import"}) {
         for (const QString& path : unreadable) {
@@ -148,6 +152,21 @@ TEST_F(Files, SavesReplaceAFileOnlyWhenAskedAndKeepItWhenTheDiskIsFull) {
         EXPECT_EQ(dialogs.Asked().last(), u"Error [stop]: Error saving script!\n%1\n%2"_s.arg(kDiskFull).arg(
                                               QString::fromStdString(SystemError(kDiskFull).text)));
         EXPECT_EQ(ReadBytes(path), "old");
+
+        // A named pipe (a device on Windows) is no file to save into: refused
+        // at once, never waited on.
+#ifdef _WIN32
+        const QString pipe = u"NUL"_s,
+                      refusal = u"%1\n%2"_s.arg(ERROR_INVALID_PARAMETER)
+                                    .arg(QString::fromStdString(SystemError(ERROR_INVALID_PARAMETER).text));
+#else
+        const QString pipe = PathOf(u"pipe"_s), refusal = u"%1\nNot a regular file"_s.arg(EINVAL);
+        ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+#endif
+        dialogs.QueueMessageAnswer(MsgAnswer::Yes);
+        Run(command, {pipe});
+        EXPECT_EQ(dialogs.Asked().last(), u"Error [stop]: Error saving script!\n"_s + refusal);
+        QFile::remove(pipe);
     }
 }
 

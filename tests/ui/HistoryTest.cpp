@@ -1,7 +1,10 @@
 // Undo and Redo of every change, and the last animation kept between runs.
 
+#include <csignal>
+
 #include "MainWindowFixture.h"
 #include "ui/AnimationHistory.h"
+#include "ui/TerminationSignals.h"
 
 namespace flickerscribe::ui::testing_support {
 namespace {
@@ -9,7 +12,7 @@ namespace {
 class History : public MainWindowTest {
 public:
     void SetUp() override {
-        keptAnimation = PathOf(u"kept/last-animation.fsq"_s);
+        keptFolder = PathOf(u"kept"_s);
         MainWindowTest::SetUp();
     }
     // Ctrl and a key in the list, with the window active again after a dialog.
@@ -108,6 +111,17 @@ TEST(AnimationHistoryLimits, TheOldestStepsGoFirst) {
     history.Redo();
     EXPECT_EQ(script.Count(), kMaxLines);
 
+    // A step larger than the whole cap stays while it is the newest: New over
+    // a huge list can be taken back.
+    const std::vector<AnimationLine> huge(kMaxLines, AnimationLine{std::string(2100, 'h'), "15", "[none]"});
+    history.ReplaceLines(u"Open"_s, [&](AnimationScript& s) { s.ExchangeLines(huge, 1); });
+    history.ReplaceLines(u"New"_s, [](AnimationScript& s) { s.ClearLines(); });
+    ASSERT_TRUE(history.CanUndo());
+    history.Undo();
+    EXPECT_EQ(script.Count(), kMaxLines);
+    history.Redo();
+    EXPECT_EQ(script.Count(), 0);
+
     // A removed line is kept whole, its time too.
     AnimationScript one;
     AnimationHistory kept(one);
@@ -117,37 +131,127 @@ TEST(AnimationHistoryLimits, TheOldestStepsGoFirst) {
     EXPECT_LT(kept.KeptBytes(), std::size_t{2} << 20);
 }
 
-// --- the last animation kept
+// --- the animations kept
 
-TEST_F(History, TheAnimationIsKeptAtCloseAndAfterAChangeAndReopensAsOneStep) {
+// What a run keeps, a later run reopens: the newest of another run, as one
+// step. A run that changed nothing keeps nothing; two runs at once each keep
+// their own, and the menu lists every one that can be read whole, newest first.
+TEST_F(History, EachRunKeepsItsOwnAnimationAndALaterRunGetsThemBack) {
     Show();
     Trigger(u"btnadd"_s);
     window->close();
-    EXPECT_EQ(ReadBytes(keptAnimation), "#v050#\r\nText\r\n15\r\n[none]\r\n");
+    ASSERT_EQ(KeptFiles().size(), 1);
+    EXPECT_EQ(ReadBytes(KeptFiles()[0]), "#v050#\r\nText\r\n15\r\n[none]\r\n");
+
+    MakeWindow();
+    window->close();
+    EXPECT_EQ(KeptFiles().size(), 1) << "a run that changed nothing";
+
+    // Two at once; the first is kept last. Garbage and a file cut short are no
+    // kept animations.
+    MakeWindow();
+    auto other = std::make_unique<MainWindow>(dialogs, store, keptFolder);
+    EXPECT_EQ(Script().Count(), 0) << "the program starts empty";
+    WriteBytes(PathOf(u"kept/kept-garbage.fsq"_s), "\x01\x02 no animation");
+    WriteBytes(PathOf(u"kept/kept-cut.fsq"_s), "#v050#\r\nA\r\n15\r\n[none]\r\nB\r\n15\r\n");
+    other->Script().AppendLine("^1Two & more", "15", "[none]");
+    other->Script().AppendLine("x", "15", "[none]");
+    other->History().SetTime(u"Edit time"_s, 1, "20");
+    other->close();
+    Choose("mnuFile", "mnuFileReopen");
+    EXPECT_EQ(Lines(), TextTimes({"^1Two & more/20", "x/15"})) << "the newest, the other program's";
+    window->close();
+    EXPECT_EQ(KeptFiles().size(), 5);
 
     MakeWindow();
     Show();
-    EXPECT_EQ(Script().Count(), 0) << "the program starts empty";
-    Named<QTimer>(u"timKeep"_s)->setInterval(10);
-    Choose("mnuFile", "mnuFileReopen");
-    Trigger(u"btncopylast"_s);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return ReadBytes(keptAnimation).size() > 30; }));
-    EXPECT_EQ(ReadBytes(keptAnimation), "#v050#\r\nText\r\n15\r\n[none]\r\nText\r\n15\r\n[none]\r\n");
+    emit Named<QMenu>(u"mnuFile"_s)->aboutToShow();
+    emit Named<QMenu>(u"mnuFileKept"_s)->aboutToShow();
+    QStringList captions;
+    for (QAction* entry : Named<QMenu>(u"mnuFileKept"_s)->actions())
+        captions << entry->text().section(u" - "_s, 1);
+    EXPECT_EQ(captions,
+              (QStringList{u"2 lines - Two && more"_s, u"2 lines - Two && more"_s, u"1 line - Text"_s}));
+    Named<QMenu>(u"mnuFileKept"_s)->actions().back()->trigger();
+    EXPECT_EQ(Lines(), TextTimes{"Text/15"});
     Press(Qt::Key_Z);
-    Press(Qt::Key_Z);
-    EXPECT_EQ(Script().Count(), 0) << "the reopen was one step";
+    EXPECT_EQ(Script().Count(), 0) << "one step";
     EXPECT_TRUE(dialogs.Asked().empty());
 }
 
-TEST_F(History, AKeptFileThatCantBeWrittenIsNoMessage) {
-    WriteBytes(PathOf(u"kept"_s), "a file where the folder should be");
+// Work that goes on without a pause is kept all the same, at most the
+// timer's interval after the first change the file doesn't hold.
+TEST_F(History, WorkWithoutAPauseIsKeptInTime) {
+    Named<QTimer>(u"timKeep"_s)->setInterval(100);
+    Start({"a/15"});
+    int changes = 0;
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            Trigger(u"btncopylast"_s);
+            ++changes;
+            return !KeptFiles().isEmpty();
+        },
+        3000));
+    EXPECT_LT(changes, 250);
+}
+
+// Only the last runs' animations stay; this run's is one of them.
+TEST_F(History, TheFolderHoldsTheLastTenRuns) {
+    ASSERT_TRUE(QDir().mkpath(keptFolder));
+    for (int run = 1; run <= 12; ++run) {
+        const QString path = PathOf(u"kept/kept-old-%1.fsq"_s.arg(run, 2, 10, QChar(u'0')));
+        WriteBytes(path, "#v050#\r\n");
+        SetAge(path, 100 - run);
+    }
+    Trigger(u"btnadd"_s);
+    window->KeepAnimation();
+    const QStringList files = KeptFiles();
+    ASSERT_EQ(files.size(), 10);
+    EXPECT_TRUE(files.front().contains(u"kept-2"_s)) << "this run's, named by its date";
+    EXPECT_TRUE(files.back().endsWith(u"kept-old-04.fsq"_s));
+}
+
+// A file that can't be written is said in the window, never in a message box,
+// and tried again by the timer and at the end.
+TEST_F(History, AKeptFileThatCantBeWrittenIsSaidAndTriedAgain) {
+    WriteBytes(keptFolder, "a file where the folder should be");
     MakeWindow();
     Show();
+    Named<QTimer>(u"timKeep"_s)->setInterval(50);
     Trigger(u"btnadd"_s);
+    auto* problem = window->findChild<QLabel*>(u"lblKeepProblem"_s);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return problem = window->findChild<QLabel*>(u"lblKeepProblem"_s); }));
+    EXPECT_TRUE(problem->isVisible());
+    EXPECT_TRUE(problem->text().startsWith(u"Your work could not be kept"_s))
+        << problem->text().toStdString();
+    QFile::remove(keptFolder);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return KeptFiles().size() == 1; }));
+    EXPECT_FALSE(problem->isVisible());
+
+    // Failing at the end too, it is tried again while the program still runs.
+    Trigger(u"btnadd"_s);
+    QDir(keptFolder).removeRecursively();
+    WriteBytes(keptFolder, "in the way again");
     window->close();
-    EXPECT_EQ(ReadBytes(keptAnimation), "<no file>");
+    EXPECT_TRUE(problem->text().startsWith(u"Your work could not be kept"_s));
+    QFile::remove(keptFolder);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return KeptFiles().size() == 1; }));
+    EXPECT_EQ(ReadBytes(KeptFiles()[0]), "#v050#\r\nText\r\n15\r\n[none]\r\nText\r\n15\r\n[none]\r\n");
     EXPECT_TRUE(dialogs.Calls().empty());
-    EXPECT_FALSE(Named(u"mnuFileReopen"_s)->isEnabled());
+}
+
+// Ended by a signal (a shutdown, a logout), the program keeps the animation.
+TEST_F(History, ASignalToEndKeepsTheAnimation) {
+    for (const int signal : {SIGTERM, SIGHUP}) {
+        MakeWindow();
+        EndOnTerminationSignals(window.get(), [this] { window->Exit(); });
+        Show();
+        Trigger(u"btnadd"_s);
+        const qsizetype before = KeptFiles().size();
+        ::raise(signal);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return KeptFiles().size() == before + 1; })) << signal;
+        EXPECT_FALSE(window->isVisible());
+    }
 }
 
 }  // namespace

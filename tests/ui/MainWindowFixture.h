@@ -45,6 +45,14 @@ inline void WriteBytes(const QString& path, const std::string& bytes) {
     ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes.data(), qint64(bytes.size())) >= 0);
 }
 
+// Makes a file look written `seconds` ago.
+inline void SetAge(const QString& path, int seconds) {
+    QFile file(path);
+    ASSERT_TRUE(
+        file.open(QIODevice::ReadWrite) &&
+        file.setFileTime(QDateTime::currentDateTime().addSecs(-seconds), QFileDevice::FileModificationTime));
+}
+
 // A fresh main window for each test, with scripted dialogs, a settings store
 // in memory (a first run unless the test fills `store` and makes the window
 // anew) and a folder of the test's own. Public, so that table rows can use it.
@@ -57,7 +65,7 @@ public:
 
     void MakeWindow() {
         window.reset();
-        window = std::make_unique<MainWindow>(dialogs, store, keptAnimation);
+        window = std::make_unique<MainWindow>(dialogs, store, keptFolder);
     }
     AnimationScript& Script() { return window->Script(); }
 
@@ -103,7 +111,14 @@ public:
     QTemporaryDir folder;
     ScriptedDialogs dialogs;
     settings::MemorySettingsStore store;
-    QString keptAnimation;  // none unless a test says
+    // The files in keptFolder, newest first.
+    QStringList KeptFiles() const {
+        QStringList paths;
+        for (const QFileInfo& file : QDir(keptFolder).entryInfoList(QDir::Files, QDir::Time))
+            paths << file.filePath();
+        return paths;
+    }
+    QString keptFolder;  // none unless a test says
     std::unique_ptr<MainWindow> window;
 };
 

@@ -319,5 +319,45 @@ TEST_F(MainWindowCase, AStopForgetsThePlaceAndAnEmptiedListEndsPlayback) {
     EXPECT_EQ(PaneText(), "only") << "a single line plays too";
 }
 
+// The last frame of playback stays in the pane, but it is no line's text:
+// whether playback ran to its end or was stopped, the user's click, key or
+// colour brings the selected line back first, and typing edits that line.
+TEST_F(MainWindowCase, AfterPlaybackThePaneEditsTheSelectedLineNotTheFrame) {
+    Show();
+    Trigger(u"mnuEditShowColors"_s);
+    for (const bool stopped : {false, true}) {
+        for (const char* gesture : {"click", "key", "colour"}) {
+            const std::string shown = std::string(gesture) + (stopped ? " after Stop" : " at the end");
+            Trigger(u"btnnew"_s);
+            Start({"one/15", "two/15", "^3three/15"}, 2);
+            window->PaneEdit()->setFocus();
+            Trigger(u"btnpreview"_s);
+            window->ShowNextFrame();
+            if (stopped) {
+                Trigger(u"btnpreview"_s);
+            } else {
+                window->ShowNextFrame();
+                window->ShowNextFrame();
+            }
+            ASSERT_FALSE(window->Playing()) << shown;
+            EXPECT_EQ(PaneText(), stopped ? "one" : "three") << shown << ": the frame stays";
+            if (gesture == std::string("click")) {
+                QTest::mouseClick(window->PaneEdit()->viewport(), Qt::LeftButton);
+            } else if (gesture == std::string("colour")) {
+                window->PreviewPane().SetSelStart(0);
+                window->PreviewPane().SetSelLength(2);
+                QTest::mouseClick(Named<QPushButton>(u"cmdColor_0"_s), Qt::LeftButton);
+                EXPECT_EQ(Lines()[1], "two/15") << shown;
+                window->PaneEdit()->setFocus();
+            }
+            QTest::keyClicks(window->PaneEdit(), u"x"_s);
+            std::string text = Script().LineAt(2).Text;
+            EXPECT_EQ(text.size(), 4u) << shown << ": " << text;
+            EXPECT_EQ(std::erase(text, 'x'), 1u) << shown;
+            EXPECT_EQ(text, "two") << shown;
+        }
+    }
+}
+
 }  // namespace
 }  // namespace flickerscribe::ui::testing_support
