@@ -7,16 +7,22 @@
 # Qt looks for them beside the program.
 set(licences licences)
 
-# Qt: the libraries the programs link, the Windows platform and style, and the
-# SVG icon engine and image plugin for the toolbar's icons.
+# Qt: the libraries the programs link, the Windows platform and style, and,
+# where Qt has its SVG module, the SVG icon engine and image plugin.
 if(FS_BUILD_UI)
   get_target_property(fs_qtcore_dll Qt6::Core IMPORTED_LOCATION_RELEASE)
   get_filename_component(fs_qt_bin "${fs_qtcore_dll}" DIRECTORY)
   get_filename_component(fs_qt_prefix "${fs_qt_bin}" DIRECTORY)
-  foreach(module Core Gui Widgets Svg)
+  set(modules Core Gui Widgets)
+  set(plugins platforms/qwindows styles/qwindowsvistastyle)
+  if(TARGET Qt6::Svg)
+    list(APPEND modules Svg)
+    list(APPEND plugins iconengines/qsvgicon imageformats/qsvg)
+  endif()
+  foreach(module ${modules})
     install(FILES ${fs_qt_bin}/Qt6${module}.dll DESTINATION .)
   endforeach()
-  foreach(plugin platforms/qwindows styles/qwindowsvistastyle iconengines/qsvgicon imageformats/qsvg)
+  foreach(plugin ${plugins})
     get_filename_component(folder ${plugin} DIRECTORY)
     install(FILES ${fs_qt_prefix}/plugins/${plugin}.dll DESTINATION ${folder})
   endforeach()

@@ -43,7 +43,7 @@ packages=(cmake ninja-build g++ pkg-config dpkg-dev xz-utils
           qt6-base-dev qt6-base-dev-tools qt6-svg-dev qt6-qpa-plugins
           libgtest-dev libgmock-dev
           g++-mingw-w64-x86-64-posix gcc-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64
-          wine64 wine nsis zip unzip xvfb xauth x11-utils xdotool imagemagick
+          wine64 wine nsis zip unzip xvfb xauth x11-utils xdotool imagemagick librsvg2-bin
           fonts-dejavu-core)
 missing=()
 for p in "${packages[@]}"; do
@@ -79,11 +79,12 @@ ensure_deb_src() {
 fetch_source() {
   local pkg=$1 version=${2:-} dir="$cache/src/$1"
   mkdir -p "$dir"
-  if ! ls "$dir"/*.dsc >/dev/null 2>&1; then
+  if ! ls "$dir"/*.orig.tar.* >/dev/null 2>&1; then
     ensure_deb_src
     (cd "$dir" && { [ -n "$version" ] && apt-get source --download-only -qq "$pkg=$version" >&2; } ||
-                  apt-get source --download-only -qq "$pkg" >&2)
+                  apt-get source --download-only -qq "$pkg" >&2) || true
   fi
+  ls "$dir"/*.orig.tar.* >/dev/null 2>&1 || { echo "windows.sh: no source of $pkg" >&2; return 1; }
   echo "$dir"
 }
 
@@ -194,6 +195,9 @@ fi
 # At the host Qt's version, so that the host's moc, rcc and uic serve. The +dfsg
 # source leaves out the Windows tablet headers (wintab), so tablet events are off;
 # OpenGL stays at its default (dynamic), which the Windows platform plugin needs.
+# Qt SVG is built too when Debian's archive has its source tarball (the mirror
+# here serves qt6-svg's .dsc but not its .orig.tar.xz); without it the program's
+# icons are drawn to PNG at build time (src/ui/CMakeLists.txt).
 qt_version="$(dpkg-query -W -f='${source:Version}' libqt6core6)"
 qt_upstream="${qt_version%%+*}"
 qt_prefix="$cache/qt-$qt_upstream"
@@ -202,15 +206,15 @@ qt_features=(-DFEATURE_sql=OFF -DFEATURE_network=OFF -DFEATURE_dbus=OFF
              -DFEATURE_tabletevent=OFF)
 host_qt=(-DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake)
 
-# build_qt_module SOURCE-PACKAGE NAME CONFIGURE...: unpacks, configures, builds
+# build_qt_module SOURCE-PACKAGE NAME VERSION CONFIGURE...: unpacks, configures, builds
 # and installs one Qt module into the cache. A build broken off (a machine
 # switched off) goes on where it stopped.
 build_qt_module() {
-  local pkg=$1 name=$2; shift 2
+  local pkg=$1 name=$2 version=$3; shift 3
   local dir="$cache/build/$name"
   if [ ! -f "$dir/build/build.ninja" ]; then
     local srcdir tarball src
-    srcdir="$(fetch_source "$pkg" "$qt_version")"
+    srcdir="$(fetch_source "$pkg" "$version")"
     tarball="$(ls "$srcdir"/*.orig.tar.xz | head -n 1)"
     rm -rf "$dir" && mkdir -p "$dir"
     say "unpacking $(basename "$tarball")"
@@ -233,9 +237,16 @@ build_qt_module() {
 
 if [ ! -f "$qt_prefix/.complete" ]; then
   qt_started=$SECONDS
-  build_qt_module qt6-base qtbase cmake -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
-    -DBUILD_SHARED_LIBS=ON "${qt_features[@]}"
-  build_qt_module qt6-svg qtsvg "$qt_prefix/bin/qt-cmake"
+  [ -f "$qt_prefix/.qtbase-complete" ] ||
+    build_qt_module qt6-base qtbase "$qt_version" cmake -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
+      -DBUILD_SHARED_LIBS=ON "${qt_features[@]}"
+  touch "$qt_prefix/.qtbase-complete"
+  svg_version="$(dpkg-query -W -f='${source:Version}' libqt6svg6)"
+  if (fetch_source qt6-svg "$svg_version" >/dev/null 2>&1); then
+    build_qt_module qt6-svg qtsvg "$svg_version" "$qt_prefix/bin/qt-cmake"
+  else
+    say "no source of qt6-svg in Debian's archive here: Qt for Windows without SVG"
+  fi
   echo "$qt_version $((SECONDS - qt_started))s" >"$qt_prefix/.complete"
   say "Qt $qt_upstream for Windows built in $(((SECONDS - qt_started) / 60)) minutes"
 fi
