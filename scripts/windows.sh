@@ -317,15 +317,20 @@ if [ -n "$window" ]; then
   import -window root "$shots/main-window.png"
   geometry="$(xdotool getwindowgeometry "$window" | sed -n 's/.*Position: \([0-9]*\),\([0-9]*\).*/\1 \2/p')"
   read -r wx wy <<<"$geometry"
-  shot_dialog() {  # shot_dialog NAME X Y: clicks the toolbar at X,Y of the main window, shoots, closes
+  # shot_dialog NAME X Y: clicks the toolbar at X,Y of the main window (where
+  # the button is drawn in the main window's screenshot), shoots, and presses
+  # Escape.
+  shot_dialog() {
     xdotool mousemove $((wx + $2)) $((wy + $3)) click 1
     sleep 3
     import -window root "$shots/$1.png"
     xdotool key Escape
     sleep 1
   }
-  shot_dialog wizard "${FS_WIZARD_X:-330}" "${FS_TOOLBAR_Y:-50}"
-  shot_dialog script-window "${FS_GENERATE_X:-390}" "${FS_TOOLBAR_Y:-50}"
+  shot_dialog wizard "${FS_WIZARD_X:-306}" "${FS_TOOLBAR_Y:-45}"
+  xdotool key Return  # Escape asks whether to leave the wizard; Yes has the focus
+  sleep 1
+  shot_dialog script-window "${FS_GENERATE_X:-404}" "${FS_TOOLBAR_Y:-45}"
   say "screenshots: $(cd "$shots" && echo *.png)"
 else
   echo "windows.sh: the main window did not show under Wine" >&2

@@ -174,6 +174,11 @@ TEST(About, ShowsNameVersionAndMakerInColourAndTheAddressesWhole) {
     EXPECT_GE(label->contentsRect().height(), 2 * label->fontMetrics().lineSpacing());
     // Over the addresses an etched line, grey over white; below them OK,
     // inside the window.
+#ifdef _WIN32
+    // Under Wine, Qt's offscreen platform finds no fonts: boxes for glyphs
+    // widen the text, and the unwrapped pane scrolls over its grey.
+    GTEST_SKIP() << "the look is checked on Linux and in the screenshots under Wine";
+#endif
     const QImage shot = window.grab().toImage();
     const QWidget* pane = window.findChild<QTextEdit*>();
     EXPECT_EQ(shot.pixelColor(pane->geometry().bottomRight() - QPoint(4, 4)), QColor(128, 128, 128))
@@ -290,6 +295,9 @@ TEST(RichPane, BehavesAsThePaneInMemory) {
 // The wizard's pictures are painted in code; a change to them shows here. When
 // the art is changed on purpose, look at the new pictures and take their sums.
 TEST(WizardArt, ThePicturesLookAsApproved) {
+#ifdef _WIN32
+    GTEST_SKIP() << "the sums are of pictures whose text Linux's font rasterizer drew";
+#endif
     const auto sum = [](const QPixmap& picture) {
         const QImage image = picture.toImage().convertToFormat(QImage::Format_ARGB32);
         return QCryptographicHash::hash(QByteArrayView(image.constBits(), image.sizeInBytes()),
