@@ -321,15 +321,17 @@ if [ -n "$window" ]; then
   # the button is drawn in the main window's screenshot), shoots, and presses
   # Escape.
   shot_dialog() {
-    xdotool mousemove $((wx + $2)) $((wy + $3)) click 1
-    sleep 3
+    xdotool mousemove $((wx + $2)) $((wy + $3))
+    sleep 1  # the button takes a click once the pointer is over it
+    xdotool click 1
+    sleep 4
     import -window root "$shots/$1.png"
     xdotool key Escape
     sleep 1
   }
   shot_dialog wizard "${FS_WIZARD_X:-306}" "${FS_TOOLBAR_Y:-45}"
   xdotool key Return  # Escape asks whether to leave the wizard; Yes has the focus
-  sleep 1
+  sleep 2
   shot_dialog script-window "${FS_GENERATE_X:-404}" "${FS_TOOLBAR_Y:-45}"
   say "screenshots: $(cd "$shots" && echo *.png)"
 else
