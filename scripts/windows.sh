@@ -10,8 +10,9 @@
 #
 # The builds of Qt, giflib and GoogleTest for Windows are kept in
 # $FS_WINDOWS_CACHE (default ~/.cache/flickerscribe-windows) and reused; each is
-# rebuilt only when its completion mark is missing. A first Qt build takes about
-# 45 minutes on two cores.
+# rebuilt only when its completion mark is missing. A first Qt build takes 45 to
+# 75 minutes on two cores (run it with "prepare" in the background and go on
+# working); a later run takes minutes.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 repo=$PWD
