@@ -324,6 +324,10 @@ if [ -n "$window" ]; then
   shot_dialog() {
     xdotool mousemove $((wx + $2)) $((wy + $3))
     sleep 1  # the button takes a click once the pointer is over it
+    # Without a window manager the first click may only give the main window
+    # the focus back; a second one lands on the opened window's picture or text.
+    xdotool click 1
+    sleep 1
     xdotool click 1
     sleep 4
     import -window root "$shots/$1.png"
