@@ -25,7 +25,14 @@ function(fs_add_test name)
     target_link_libraries(${name} PRIVATE GTest::gmock_main)
   endif()
   target_link_libraries(${name} PRIVATE ${ARG_LIBS} GTest::gmock fs_warnings)
+  # Cross compiled, the tests are listed when ctest runs (through the
+  # emulator, Wine), so that building needs no Wine.
+  if(CMAKE_CROSSCOMPILING)
+    set(mode PRE_TEST)
+  else()
+    set(mode POST_BUILD)
+  endif()
   gtest_discover_tests(${name}
     PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;FS_TEST=1"
-    DISCOVERY_TIMEOUT 60)
+    DISCOVERY_TIMEOUT 60 DISCOVERY_MODE ${mode})
 endfunction()

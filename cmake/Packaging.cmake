@@ -1,5 +1,6 @@
 # The Debian package: `cpack` in a release build directory makes
-# flickerscribe_<version>_<arch>.deb from the install rules.
+# flickerscribe_<version>_<arch>.deb from the install rules. A Windows build
+# makes the zip and the setup program instead (WindowsPackage.cmake).
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME flickerscribe)
 set(CPACK_PACKAGE_VENDOR "Flickerscribe developers")
@@ -62,4 +63,7 @@ if(UNIX AND NOT APPLE)
   install(FILES ${doc}/copyright ${doc}/changelog.gz DESTINATION ${CMAKE_INSTALL_DOCDIR})
 endif()
 
+if(WIN32)
+  include(${PROJECT_SOURCE_DIR}/cmake/WindowsPackage.cmake)
+endif()
 include(CPack)

@@ -19,5 +19,9 @@ int main(int argc, char** argv) {
     // Ended by a signal, the program ends as by Exit, keeping the animation.
     flickerscribe::ui::EndOnTerminationSignals(&window, [&window] { window.Exit(); });
     window.show();
+    // A project file named on the command line (as the desktop starts the
+    // program for an .fsq file) is opened as by Open.
+    if (const QStringList args = QApplication::arguments(); args.size() > 1)
+        window.OpenAnimationFile(args.at(1));
     return QApplication::exec();
 }

@@ -1,7 +1,5 @@
 #include "cli/Terminal.h"
 
-#include <unistd.h>
-
 #include "cli/Args.h"
 #include "document/Cp1252.h"
 #include "document/SafeWrite.h"
@@ -32,16 +30,13 @@ std::string NotUtf8(std::string_view argument) {
     return std::string(argument) + " is no valid UTF-8 text";
 }
 
-bool IsTerminal(std::FILE* stream) {
-    return ::isatty(::fileno(stream)) == 1;
-}
-
 bool WriteText(std::FILE* stream, std::string_view text) {
-    if (IsTerminal(stream)) return WriteNative(stream, Cp1252ToUtf8(text));
-    return WriteNative(stream, text);
+    if (IsTerminal(stream)) return WriteToTerminal(stream, Cp1252ToUtf8(text));
+    return std::fwrite(text.data(), 1, text.size(), stream) == text.size();
 }
 
 bool WriteNative(std::FILE* stream, std::string_view text) {
+    if (IsTerminal(stream)) return WriteToTerminal(stream, text);
     return std::fwrite(text.data(), 1, text.size(), stream) == text.size();
 }
 

@@ -5,10 +5,13 @@
 #include <string>
 #include <string_view>
 
+#include "cli/Console.h"
+
 // What goes in and out of the command-line program. The program holds text in
 // Windows-1252, one byte a character; a terminal speaks UTF-8. Text arguments
 // are converted on the way in, and text for a terminal on the way out, while
-// files and pipes get the bytes as they are. Paths are never converted.
+// files and pipes get the bytes as they are. Paths are never converted: they
+// stay as the command line gave them (UTF-8 on Windows, see Console.h).
 namespace flickerscribe::cli {
 
 // A text argument (a name, a coded text) as the program holds it, on one
@@ -16,8 +19,6 @@ namespace flickerscribe::cli {
 std::optional<std::string> TextArgument(std::string_view utf8);
 // The usage error for a text argument that is no valid UTF-8.
 std::string NotUtf8(std::string_view argument);
-
-bool IsTerminal(std::FILE* stream);
 
 // Writes program text: as UTF-8 to a terminal, as bytes to anything else.
 // False when the write failed.

@@ -5,6 +5,7 @@
 
 #include "cli/Args.h"
 #include "cli/Commands.h"
+#include "cli/Console.h"
 #include "cli/Terminal.h"
 
 namespace flickerscribe::cli {
@@ -71,5 +72,5 @@ int Dispatch(const std::vector<std::string>& args) {
 }  // namespace flickerscribe::cli
 
 int main(int argc, char** argv) {
-    return flickerscribe::cli::Dispatch(std::vector<std::string>(argv + 1, argv + argc));
+    return flickerscribe::cli::Dispatch(flickerscribe::cli::ProgramArguments(argc, argv));
 }

@@ -1,12 +1,9 @@
 #include "document/AnimationFile.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
 
 #include "document/TextFile.h"
+#include "document/platform/Files.h"
 
 namespace flickerscribe {
 namespace {
@@ -18,14 +15,7 @@ constexpr std::string_view kNoAction = "[none]";
 }  // namespace
 
 bool FileExists(const std::string& path) {
-    if (path.empty()) return false;
-    // O_NONBLOCK: a named pipe with no writer must not hold the program.
-    const int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    if (fd < 0) return false;
-    struct stat st {};
-    const bool file = ::fstat(fd, &st) == 0 && !S_ISDIR(st.st_mode);
-    ::close(fd);
-    return file;
+    return platform::CanOpenForReading(path);
 }
 
 LoadStatus LoadAnimationBytes(std::string_view data, AnimationScript& script) {

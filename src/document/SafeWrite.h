@@ -9,7 +9,8 @@
 
 namespace flickerscribe {
 
-// Why a file could not be written: the system's error number and its text.
+// Why a file could not be written: the system's error number (errno, or a
+// Windows error code) and its text, in UTF-8.
 struct SaveError {
     int number = 0;
     std::string text;
@@ -19,9 +20,10 @@ struct SaveError {
 
 // Replaces the content of the file at `path` by `bytes` without ever losing
 // the old file: the bytes go to a new file in the same folder, are flushed to
-// disk, and only then take the old file's place in one rename. A symbolic link
-// is followed to the file it names, so the link stays a link. A file that
-// already exists keeps its permission bits (and owner, where allowed); a
+// disk, and only then take the old file's place in one rename (on Windows,
+// MoveFileExW, written through). A symbolic link is followed to the file it
+// names, so the link stays a link. A file that already exists keeps its
+// permission bits (and owner, where allowed) or, on Windows, its attributes; a
 // file that can't be opened for writing is refused as it would be by a plain
 // write. On any failure the temporary file is removed, the old file is left
 // whole, and the error is returned; nullopt means the file was written.
@@ -31,6 +33,10 @@ struct SaveError {
 // refuses a named pipe that nobody reads rather than waiting for a reader.
 std::optional<SaveError> WriteFileSafely(const std::string& path, std::string_view bytes,
                                          FileKinds kinds = FileKinds::PlainOnly);
+
+// The error of that number with the system's text for it (strerror on Linux,
+// FormatMessage on Windows), as a failed save reports it. Texts are UTF-8.
+SaveError SystemError(int number);
 
 // For tests: lets a write break off half way, the way a full disk would.
 namespace write_seam {

@@ -4,13 +4,17 @@
 
 namespace flickerscribe::settings {
 
+RegistryStore::RegistryStore() : keyName_(win32::kSettingsKey) {}
+
+RegistryStore::RegistryStore(QString keyName) : keyName_(keyName.toStdWString()) {}
+
 QString RegistryStore::ReadValue(const QString& valueName, const QString& defaultValue) const {
     return QString::fromStdWString(
-        win32::ReadRegistryString(valueName.toStdWString(), defaultValue.toStdWString()));
+        win32::ReadRegistryString(valueName.toStdWString(), defaultValue.toStdWString(), keyName_));
 }
 
 void RegistryStore::WriteValue(const QString& valueName, const QString& value) {
-    win32::WriteRegistryString(valueName.toStdWString(), value.toStdWString());
+    win32::WriteRegistryString(valueName.toStdWString(), value.toStdWString(), keyName_);
 }
 
 }  // namespace flickerscribe::settings

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "settings/SettingsStore.h"
 
 namespace flickerscribe::settings {
@@ -10,8 +12,15 @@ namespace flickerscribe::settings {
 // themselves are in Win32Registry.
 class RegistryStore : public SettingsStore {
 public:
+    RegistryStore();
+    // Another key under HKEY_CURRENT_USER, for tests.
+    explicit RegistryStore(QString keyName);
+
     QString ReadValue(const QString& valueName, const QString& defaultValue = {}) const override;
     void WriteValue(const QString& valueName, const QString& value) override;
+
+private:
+    std::wstring keyName_;
 };
 
 }  // namespace flickerscribe::settings

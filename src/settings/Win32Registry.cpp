@@ -33,10 +33,11 @@ private:
 
 }  // namespace
 
-std::wstring ReadRegistryString(const std::wstring& valueName, const std::wstring& defaultValue) {
+std::wstring ReadRegistryString(const std::wstring& valueName, const std::wstring& defaultValue,
+                                const std::wstring& keyName) {
     // Opening, unlike creating, leaves a missing key missing.
     OpenKey key;
-    if (RegOpenKeyExW(HKEY_CURRENT_USER, kSettingsKey, 0, KEY_QUERY_VALUE, key.Out()) != ERROR_SUCCESS)
+    if (RegOpenKeyExW(HKEY_CURRENT_USER, keyName.c_str(), 0, KEY_QUERY_VALUE, key.Out()) != ERROR_SUCCESS)
         return defaultValue;
 
     DWORD type = 0;
@@ -60,10 +61,11 @@ std::wstring ReadRegistryString(const std::wstring& valueName, const std::wstrin
     return std::wstring(text);
 }
 
-void WriteRegistryString(const std::wstring& valueName, const std::wstring& value) {
+void WriteRegistryString(const std::wstring& valueName, const std::wstring& value,
+                         const std::wstring& keyName) {
     OpenKey key;
-    if (RegCreateKeyExW(HKEY_CURRENT_USER, kSettingsKey, 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_SET_VALUE,
-                        nullptr, key.Out(), nullptr) != ERROR_SUCCESS)
+    if (RegCreateKeyExW(HKEY_CURRENT_USER, keyName.c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE,
+                        KEY_SET_VALUE, nullptr, key.Out(), nullptr) != ERROR_SUCCESS)
         return;
     // The characters only, without a terminating zero.
     RegSetValueExW(key.Get(), valueName.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(value.c_str()),

@@ -1,7 +1,5 @@
 #include "ui/FileCommands.h"
 
-#include <QFile>
-
 #include "document/AnimationFile.h"
 #include "ui/Dialogs.h"
 
@@ -9,8 +7,10 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace flickerscribe::ui {
 
+// The core takes UTF-8 paths: on Windows it opens them by their wide-character
+// names, elsewhere UTF-8 is the file system's own encoding (as Qt takes it).
 std::string NativePath(const QString& path) {
-    return QFile::encodeName(path).toStdString();
+    return path.toStdString();
 }
 
 std::optional<std::string> ChooseSavePath(Dialogs& dialogs, QWidget* parent, FileDialogState& dialog,
@@ -36,7 +36,7 @@ std::optional<std::string> ChooseSavePath(Dialogs& dialogs, QWidget* parent, Fil
 
 void ShowSaveError(Dialogs& dialogs, QWidget* parent, const SaveError& error) {
     const QString text = u"Error saving script!\n%1\n%2"_s.arg(QString::number(error.number),
-                                                               QString::fromLocal8Bit(error.text));
+                                                               QString::fromStdString(error.text));
     dialogs.Message(parent, text, u"Error"_s, MsgIcon::Critical, MsgButtons::Ok);
 }
 

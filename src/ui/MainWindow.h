@@ -108,6 +108,9 @@ public:
 
     // --- files (MainWindow_Files.cpp)
     void OpenAnimation();
+    // Open of a file named without the dialog: the one the program was
+    // started with (a project file opened from the desktop).
+    void OpenAnimationFile(const QString& path);
     void SaveAnimationAs();
     void ImportScript();
     void GenerateScript();

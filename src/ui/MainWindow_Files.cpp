@@ -24,9 +24,11 @@ void MainWindow::OpenAnimation() {
     fileDialog_.filter = AnimationFilter();
     if (!settings_.openFolder.isEmpty()) fileDialog_.initialFolder = settings_.openFolder;
     if (!dialogs_.ShowOpen(this, fileDialog_)) return;
+    OpenAnimationFile(fileDialog_.fileName);
+}
 
-    LoadIntoList(tr("Open"), fileDialog_.fileName, LoadAnimationFile,
-                 tr("File not found!\n") + fileDialog_.fileName, tr("Error"));
+void MainWindow::OpenAnimationFile(const QString& path) {
+    LoadIntoList(tr("Open"), path, LoadAnimationFile, tr("File not found!\n") + path, tr("Error"));
 }
 
 // The whole file is read before the list is touched: a file that can't be

@@ -2,12 +2,14 @@
 // can't be read, pipes, devices, an I/O error, a read-only file met by an
 // ordinary user, signals. Each ends in the routine's own result, never in a
 // crash or a half-written file.
-#include <fcntl.h>
 #include <gtest/gtest.h>
+#ifndef _WIN32
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/time.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#endif
 
 #include <cerrno>
 #include <csignal>
@@ -23,13 +25,6 @@
 namespace flickerscribe {
 namespace {
 
-std::string RandomBytes(std::size_t size, unsigned seed) {
-    std::mt19937 gen(seed);
-    std::string bytes(size, '\0');
-    for (char& c : bytes) c = static_cast<char>(gen() & 0xFF);
-    return bytes;
-}
-
 // Only a plain file read to its end replaces the lines, in one reset for the
 // view; anything else (/proc/self/mem opens, but reading it is an I/O error;
 // a file larger than the program reads) leaves them alone, even for the view.
@@ -39,11 +34,13 @@ TEST(HostileFiles, OnlyAFileReadWholeReplacesTheLines) {
     test::WriteBytes(dir.File("zero"), "");
     test::WriteBytes(dir.File("gone"), "#v050#\r\n");
     ASSERT_TRUE(FileExists(dir.File("gone")));
-    std::remove(dir.File("gone").c_str());
+    std::filesystem::remove(test::FsPath(dir.File("gone")));
+#ifndef _WIN32
     ASSERT_EQ(::mkfifo(dir.File("pipe").c_str(), 0600), 0);
+#endif
     // More than the program reads, but sparse: no disk is taken.
     test::WriteBytes(dir.File("huge"), "#v050#\r\n");
-    ASSERT_EQ(::truncate(dir.File("huge").c_str(), static_cast<off_t>(kMaxFileBytes) + 1), 0);
+    std::filesystem::resize_file(test::FsPath(dir.File("huge")), kMaxFileBytes + 1);
     const struct {
         std::string path;
         bool exists;
@@ -51,8 +48,12 @@ TEST(HostileFiles, OnlyAFileReadWholeReplacesTheLines) {
     } cases[] = {
         // clang-format off
         {dir.File("one"), true, 1}, {dir.File("zero"), true, 0}, {dir.File("gone"), false, -1}, {dir.Path(), false, -1},
-        {"", false, -1}, {dir.File("pipe"), true, -1}, {"/dev/zero", true, -1}, {"/proc/self/mem", true, -1},
-        {dir.File("huge"), true, -1},
+        {"", false, -1}, {dir.File("huge"), true, -1},
+#ifdef _WIN32
+        {"NUL", true, -1},  // a device
+#else
+        {dir.File("pipe"), true, -1}, {"/dev/zero", true, -1}, {"/proc/self/mem", true, -1},
+#endif
         // clang-format on
     };
     for (const auto& c : cases) {
@@ -67,6 +68,23 @@ TEST(HostileFiles, OnlyAFileReadWholeReplacesTheLines) {
             EXPECT_EQ(view.log, c.lines < 0 ? "" : c.lines ? "[R R] s1" : "[R R] s0") << c.path;
         }
     }
+}
+
+#ifdef _WIN32
+// Windows' counterparts (the read-only attribute, a file another program
+// holds) are in WindowsFilesTest.cpp.
+TEST(HostileFiles, AnOrdinaryUserCantWriteAReadOnlyFileNorReadAnUnreadableOne) {
+    GTEST_SKIP() << "POSIX permission bits and users: Windows files have neither";
+}
+TEST(HostileFiles, WritesThatASignalCutsShortGoOnWhereTheyStopped) {
+    GTEST_SKIP() << "Windows has no signals that cut a write short, and no named pipes in the file system";
+}
+#else
+std::string RandomBytes(std::size_t size, unsigned seed) {
+    std::mt19937 gen(seed);
+    std::string bytes(size, '\0');
+    for (char& c : bytes) c = static_cast<char>(gen() & 0xFF);
+    return bytes;
 }
 
 const std::string kOldFile = "#v050#\r\nold\r\n15\r\n[none]\r\n";
@@ -132,6 +150,7 @@ TEST(HostileFiles, WritesThatASignalCutsShortGoOnWhereTheyStopped) {
     ASSERT_EQ(::waitpid(child, &status, 0), child);
     EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "the reader got other bytes";
 }
+#endif
 
 }  // namespace
 }  // namespace flickerscribe

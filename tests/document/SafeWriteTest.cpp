@@ -1,9 +1,15 @@
 #include <gtest/gtest.h>
+#ifdef _WIN32
+#ifndef WIN32_LEAN_AND_MEAN
+#define WIN32_LEAN_AND_MEAN
+#endif
+#include <windows.h>
+#else
 #include <sys/stat.h>
 #include <unistd.h>
+#endif
 
 #include <cerrno>
-#include <cstring>
 #include <filesystem>
 
 #include "TempFolder.h"
@@ -14,16 +20,10 @@ namespace {
 
 namespace stdfs = std::filesystem;
 
-struct stat StatOf(const std::string& path) {
-    struct stat st {};
-    ::stat(path.c_str(), &st);
-    return st;
-}
-
 // The outcome of a save: nullopt for 0, else the error of that number.
 std::optional<SaveError> Error(int number) {
     if (number == 0) return std::nullopt;
-    return SaveError{number, std::strerror(number)};
+    return SystemError(number);
 }
 
 const std::string kOld = "old content\r\n";
@@ -32,6 +32,14 @@ const std::string kNew = "the new content, longer than the old one\r\n";
 // A new file gets what the umask leaves; a replaced one keeps its mode and
 // its owner (only root can give a file away; anyone else keeps it anyway).
 TEST(WriteFileSafely, KeepsPermissionsAndOwner) {
+#ifdef _WIN32
+    GTEST_SKIP() << "Windows files have no mode bits and owner (the read-only attribute: WindowsFilesTest)";
+#else
+    const auto StatOf = [](const std::string& path) {
+        struct stat st {};
+        ::stat(path.c_str(), &st);
+        return st;
+    };
     test::TempFolder dir;
     const mode_t mask = ::umask(027);
     const auto error = WriteFileSafely(dir.File("new.cfg"), kNew);
@@ -51,9 +59,13 @@ TEST(WriteFileSafely, KeepsPermissionsAndOwner) {
         EXPECT_EQ(test::ReadBytes(path), "x");
     }
     EXPECT_EQ(dir.Entries(), (std::vector<std::string>{"anim.fsq", "new.cfg"}));
+#endif
 }
 
 TEST(WriteFileSafely, WritesThroughSymbolicLinksAndKeepsThem) {
+#ifdef _WIN32
+    GTEST_SKIP() << "symbolic links on Windows need a privilege that users don't have";
+#else
     const struct {
         std::string target;  // of link.fsq; "/" for the absolute path of real/anim.fsq
         bool chain, exists;  // saved through outer.fsq, a link to link.fsq; the file the link names exists
@@ -79,10 +91,16 @@ TEST(WriteFileSafely, WritesThroughSymbolicLinksAndKeepsThem) {
         // No temporary file is left: the links, real/ and the file are all there is.
         EXPECT_EQ(dir.Entries().size() + dir.Entries("real").size(), 3u + c.chain) << c.target;
     }
+#endif
 }
 
 TEST(WriteFileSafely, AWriteBrokenOffHalfWayLeavesTheOldFileWhole) {
+#ifdef _WIN32
+    const std::pair<std::size_t, int> cases[] = {
+        {0, ERROR_DISK_FULL}, {kNew.size() / 2, ERROR_HANDLE_DISK_FULL}, {kNew.size(), ERROR_WRITE_FAULT}};
+#else
     const std::pair<std::size_t, int> cases[] = {{0, ENOSPC}, {kNew.size() / 2, EDQUOT}, {kNew.size(), EIO}};
+#endif
     for (const bool oldFile : {true, false}) {
         for (const auto& [after, error] : cases) {
             test::TempFolder dir;
@@ -96,8 +114,9 @@ TEST(WriteFileSafely, AWriteBrokenOffHalfWayLeavesTheOldFileWhole) {
             EXPECT_EQ(test::ReadBytes(path), kNew);
         }
     }
-    write_seam::FailNextWriteAfter(0, EIO);
+    write_seam::FailNextWriteAfter(0, cases[0].second);
     write_seam::Reset();
+#ifndef _WIN32
     // Started without standard input, the program gets descriptor 0 for a file.
     const int input = ::dup(0);
     ::close(0);
@@ -106,6 +125,7 @@ TEST(WriteFileSafely, AWriteBrokenOffHalfWayLeavesTheOldFileWhole) {
     EXPECT_EQ(WriteFileSafely("/dev/null", kNew, FileKinds::AnyKind), std::nullopt);
     ::dup2(input, 0);
     ::close(input);
+#endif
 }
 
 // In a folder holding anim.fsq, an empty folder "sub", a link to itself
@@ -113,6 +133,10 @@ TEST(WriteFileSafely, AWriteBrokenOffHalfWayLeavesTheOldFileWhole) {
 // device is written in place where any kind of file is asked for, and
 // refused, as the pipe is, where only a plain file will do.
 TEST(WriteFileSafely, RefusesWhatCannotBeWrittenAndTouchesNothing) {
+#ifdef _WIN32
+    GTEST_SKIP()
+        << "named pipes in the file system, symbolic links and /dev: Windows' own in WindowsFilesTest";
+#else
     constexpr auto kAny = FileKinds::AnyKind, kPlain = FileKinds::PlainOnly;
     const struct {
         std::string target;
@@ -140,6 +164,7 @@ TEST(WriteFileSafely, RefusesWhatCannotBeWrittenAndTouchesNothing) {
         EXPECT_TRUE(stdfs::is_empty(dir.File("sub"))) << target;
     }
     EXPECT_TRUE(stdfs::is_character_file("/dev/null"));
+#endif
 }
 
 }  // namespace

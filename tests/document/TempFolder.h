@@ -1,12 +1,12 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -21,18 +21,34 @@ inline void PrintTo(const SaveError& e, std::ostream* os) {
 
 namespace flickerscribe::test {
 
+// The program's paths are UTF-8 (see document/platform/Files.h); these are
+// the same paths as the standard library takes them.
+inline std::filesystem::path FsPath(const std::string& utf8) {
+    return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
+}
+inline std::string Utf8(const std::filesystem::path& path) {
+    const std::u8string text = path.u8string();
+    return std::string(text.begin(), text.end());
+}
+
 // A fresh folder under the system's temporary folder, removed with all it
-// holds (write permission given back first) when the test ends.
+// holds (write permission given back first) when the test ends. Paths in it
+// use '/' on every system.
 class TempFolder {
 public:
-    TempFolder() : path_((std::filesystem::temp_directory_path() / "fs-test-XXXXXX").string()) {
-        if (::mkdtemp(path_.data()) == nullptr) path_.clear();
+    TempFolder() {
+        std::random_device random;
+        const auto base = std::filesystem::temp_directory_path();
+        for (int attempt = 0; attempt < 100 && path_.empty(); ++attempt) {
+            const auto candidate = base / ("fs-test-" + std::to_string(random()));
+            if (std::filesystem::create_directory(candidate)) path_ = Utf8(candidate.generic_u8string());
+        }
     }
     ~TempFolder() {
         std::error_code ec;
-        std::filesystem::permissions(path_, std::filesystem::perms::owner_all,
+        std::filesystem::permissions(FsPath(path_), std::filesystem::perms::owner_all,
                                      std::filesystem::perm_options::add, ec);
-        std::filesystem::remove_all(path_, ec);
+        std::filesystem::remove_all(FsPath(path_), ec);
     }
     TempFolder(const TempFolder&) = delete;
     TempFolder& operator=(const TempFolder&) = delete;
@@ -42,8 +58,8 @@ public:
     // Names of the entries of this folder, or of a folder in it, sorted.
     std::vector<std::string> Entries(const std::string& folder = "") const {
         std::vector<std::string> names;
-        for (const auto& e : std::filesystem::directory_iterator(File(folder)))
-            names.push_back(e.path().filename());
+        for (const auto& e : std::filesystem::directory_iterator(FsPath(File(folder))))
+            names.push_back(Utf8(e.path().filename()));
         std::sort(names.begin(), names.end());
         return names;
     }
@@ -53,11 +69,11 @@ private:
 };
 
 inline void WriteBytes(const std::string& path, const std::string& bytes) {
-    std::ofstream(path, std::ios::binary) << bytes;
+    std::ofstream(FsPath(path), std::ios::binary) << bytes;
 }
 
 inline std::string ReadBytes(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
+    std::ifstream in(FsPath(path), std::ios::binary);
     return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
 }
 

@@ -303,6 +303,9 @@ TEST(RichPane, BehavesAsThePaneInMemory) {
 // The wizard's pictures are painted in code; a change to them shows here. When
 // the art is changed on purpose, look at the new pictures and take their sums.
 TEST(WizardArt, ThePicturesLookAsApproved) {
+#ifdef _WIN32
+    GTEST_SKIP() << "the sums are of pictures whose text Linux's font rasterizer drew";
+#endif
     const auto sum = [](const QPixmap& picture) {
         const QImage image = picture.toImage().convertToFormat(QImage::Format_ARGB32);
         return QCryptographicHash::hash(QByteArrayView(image.constBits(), image.sizeInBytes()),

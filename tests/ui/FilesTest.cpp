@@ -1,9 +1,16 @@
 // The commands through the file dialogs: Open, Save As, Import, and the
 // generated script's window with its Save; with files that can't be read or
 // written.
+#include <cerrno>
+#ifdef _WIN32
+#ifndef WIN32_LEAN_AND_MEAN
+#define WIN32_LEAN_AND_MEAN
+#endif
+#include <windows.h>
+#else
 #include <sys/stat.h>
-
-#include <cstring>
+#include <unistd.h>
+#endif
 
 #include "MainWindowFixture.h"
 #include "document/SafeWrite.h"
@@ -12,6 +19,12 @@
 
 namespace flickerscribe::ui::testing_support {
 namespace {
+
+#ifdef _WIN32
+constexpr int kDiskFull = ERROR_DISK_FULL;
+#else
+constexpr int kDiskFull = ENOSPC;
+#endif
 
 class Files : public MainWindowTest {
 public:
@@ -66,17 +79,25 @@ TEST_F(Files, EachDialogOpensInItsFolderAndCancelChangesNothing) {
 // must not cost the lines. A file of more lines than an animation holds gives
 // the first ones, and says so.
 TEST_F(Files, UnreadableFilesAreNotFoundAndLongOnesCut) {
-    const QString pipe = PathOf(u"pipe"_s), locked = PathOf(u"locked"_s), gone = PathOf(u"gone"_s),
-                  huge = PathOf(u"huge"_s);
-    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    const QString locked = PathOf(u"locked"_s), gone = PathOf(u"gone"_s), huge = PathOf(u"huge"_s);
     QFile sparse(huge);  // takes no disk
     ASSERT_TRUE(sparse.open(QIODevice::WriteOnly) && sparse.resize(qint64(kMaxFileBytes) + 1));
     WriteBytes(locked, "#v050#\r\nx\r\n15\r\n[none]\r\n");
+#ifdef _WIN32
+    // A device, and a file another program holds open without sharing it.
+    const QString unreadable[] = {gone, folder.path(), u"NUL"_s, huge, locked};
+    const HANDLE holder = CreateFileW(reinterpret_cast<const wchar_t*>(locked.utf16()), GENERIC_READ, 0,
+                                      nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    ASSERT_NE(holder, INVALID_HANDLE_VALUE);
+#else
+    const QString pipe = PathOf(u"pipe"_s);
+    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     QFile::setPermissions(locked, QFileDevice::WriteOwner);
     const bool root = ::geteuid() == 0;  // root reads every file
+    const QString unreadable[] = {gone, folder.path(), pipe, u"/proc/self/mem"_s, huge, root ? gone : locked};
+#endif
     for (const char* command : {"Open", "Import"}) {
-        for (const QString& path :
-             {gone, folder.path(), pipe, u"/proc/self/mem"_s, huge, root ? gone : locked}) {
+        for (const QString& path : unreadable) {
             Trigger(u"btnnew"_s);
             Start({"a/15"});
             Run(command, {path});
@@ -93,6 +114,9 @@ TEST_F(Files, UnreadableFilesAreNotFoundAndLongOnesCut) {
         EXPECT_EQ(Script().Count(), kMaxLines);
         EXPECT_TRUE(dialogs.Asked().last().startsWith(u"Line limit reached"_s));
     }
+#ifdef _WIN32
+    CloseHandle(holder);
+#endif
 }
 
 // Over a file, only Yes replaces it; No shows the dialog again with the name
@@ -123,19 +147,25 @@ TEST_F(Files, SavesReplaceAFileOnlyWhenAskedAndKeepItWhenTheDiskIsFull) {
         }
         WriteBytes(path, "old");
         dialogs.QueueMessageAnswer(MsgAnswer::Yes);
-        write_seam::FailNextWriteAfter(3, ENOSPC);
+        write_seam::FailNextWriteAfter(3, kDiskFull);
         Run(command, {path});
-        EXPECT_EQ(dialogs.Asked().last(), u"Error [stop]: Error saving script!\n%1\n%2"_s.arg(ENOSPC).arg(
-                                              QString::fromLocal8Bit(std::strerror(ENOSPC))));
+        EXPECT_EQ(dialogs.Asked().last(), u"Error [stop]: Error saving script!\n%1\n%2"_s.arg(kDiskFull).arg(
+                                              QString::fromStdString(SystemError(kDiskFull).text)));
         EXPECT_EQ(ReadBytes(path), "old");
 
-        // A named pipe is no file to save into: refused at once, never waited on.
-        const QString pipe = PathOf(u"pipe"_s);
+        // A named pipe (a device on Windows) is no file to save into: refused
+        // at once, never waited on.
+#ifdef _WIN32
+        const QString pipe = u"NUL"_s,
+                      refusal = u"%1\n%2"_s.arg(ERROR_INVALID_PARAMETER)
+                                    .arg(QString::fromStdString(SystemError(ERROR_INVALID_PARAMETER).text));
+#else
+        const QString pipe = PathOf(u"pipe"_s), refusal = u"%1\nNot a regular file"_s.arg(EINVAL);
         ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+#endif
         dialogs.QueueMessageAnswer(MsgAnswer::Yes);
         Run(command, {pipe});
-        EXPECT_EQ(dialogs.Asked().last(),
-                  u"Error [stop]: Error saving script!\n%1\nNot a regular file"_s.arg(EINVAL));
+        EXPECT_EQ(dialogs.Asked().last(), u"Error [stop]: Error saving script!\n"_s + refusal);
         QFile::remove(pipe);
     }
 }
