@@ -7,14 +7,15 @@
 # Qt looks for them beside the program.
 set(licences licences)
 
-# Qt: the libraries the programs link, the Windows platform and style, and,
-# where Qt has its SVG module, the SVG icon engine and image plugin.
+# Qt: the libraries the programs link, the Windows platform and style, the
+# offscreen platform (flickerscribe-cli draws its pictures there), and, where
+# Qt has its SVG module, the SVG icon engine and image plugin.
 if(FS_BUILD_UI)
   get_target_property(fs_qtcore_dll Qt6::Core IMPORTED_LOCATION_RELEASE)
   get_filename_component(fs_qt_bin "${fs_qtcore_dll}" DIRECTORY)
   get_filename_component(fs_qt_prefix "${fs_qt_bin}" DIRECTORY)
   set(modules Core Gui Widgets)
-  set(plugins platforms/qwindows styles/qwindowsvistastyle)
+  set(plugins platforms/qwindows platforms/qoffscreen styles/qwindowsvistastyle)
   if(TARGET Qt6::Svg)
     list(APPEND modules Svg)
     list(APPEND plugins iconengines/qsvgicon imageformats/qsvg)
