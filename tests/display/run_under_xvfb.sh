@@ -40,7 +40,10 @@ trap finish EXIT
 export HOME="$work" XDG_CONFIG_HOME="$work/config" XDG_RUNTIME_DIR="$work/run"
 mkdir -m 700 -p "$XDG_RUNTIME_DIR"
 export QT_QPA_PLATFORM=xcb
-"$program" -platform xcb >"$work/program.log" 2>&1 &
+# It opens the project file named on its command line, and keeps that
+# animation when it closes.
+printf '#v050#\r\n^1Hi\r\n15\r\n[none]\r\n' >"$work/start.fsq"
+"$program" -platform xcb "$work/start.fsq" >"$work/program.log" 2>&1 &
 pid=$!
 
 # Wait up to 30 s for the main window to be mapped.
@@ -83,6 +86,9 @@ if [ "$status" -ne 0 ]; then
   echo "the program ended with status $status:"; cat "$work/program.log"; exit 1
 fi
 echo "closed; the program ended with status 0"
+kept=("$HOME"/.local/share/Flickerscribe/kept-*.fsq)
+cmp -s "$kept" "$work/start.fsq" || { echo "the file named on the command line was not opened and kept"; exit 1; }
+echo "the file named on the command line was opened, and kept at the end"
 
 # Asked to end by a signal (a shutdown, a logout), it ends as by Exit: by
 # itself, with status 0, not killed by the signal.
