@@ -12,7 +12,7 @@
 #include "GuiBenchSupport.h"
 #include "document/AnimationFile.h"
 #include "settings/Settings.h"
-#include "ui/ScriptWindow.h"
+#include "ui/dialogs/ScriptWindow.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <QApplication>
 #include <string>
 
-#include "ui/LineListView.h"
+#include "ui/widgets/LineListView.h"
 
 namespace flickerscribe::bench {
 

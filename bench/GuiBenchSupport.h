@@ -8,8 +8,8 @@
 
 #include "document/AnimationScript.h"
 #include "settings/SettingsStore.h"
-#include "ui/MainWindow.h"
-#include "ui/QtDialogs.h"
+#include "ui/main/MainWindow.h"
+#include "ui/common/QtDialogs.h"
 
 namespace flickerscribe::bench {
 

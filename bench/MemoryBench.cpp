@@ -17,9 +17,9 @@
 #include "document/AnimationFile.h"
 #include "document/AnimationScript.h"
 #include "settings/SettingsStore.h"
-#include "ui/Dialogs.h"
-#include "ui/LineListView.h"
-#include "ui/MainWindow.h"
+#include "ui/common/Dialogs.h"
+#include "ui/widgets/LineListView.h"
+#include "ui/main/MainWindow.h"
 
 namespace {
 

@@ -6,7 +6,7 @@ cd "$(dirname "$0")/.."
 preset="${1:-default}"
 
 packages=(cmake ninja-build g++ pkg-config
-          qt6-base-dev qt6-svg-dev libqt6svg6 qt6-qpa-plugins libgif-dev
+          qt6-base-dev qt6-svg-dev libqt6svg6 qt6-qpa-plugins qt6-l10n-tools qt6-tools-dev libgif-dev
           libgtest-dev libgmock-dev libbenchmark-dev
           xvfb xauth x11-utils imagemagick fonts-dejavu-core fonts-liberation
           g++-mingw-w64-x86-64 desktop-file-utils appstream groff-base lintian

@@ -10,16 +10,16 @@
 #include <memory>
 
 #include "MemorySettingsStore.h"
-#include "ui/AboutDialog.h"
-#include "ui/ColourNameEditor.h"
-#include "ui/EditTimeDialog.h"
-#include "ui/HelpDialog.h"
-#include "ui/MainWindow.h"
-#include "ui/OptionsDialog.h"
-#include "ui/QtDialogs.h"
-#include "ui/ScriptWindow.h"
-#include "ui/SimpleEditWindow.h"
-#include "ui/WizardDialog.h"
+#include "ui/dialogs/AboutDialog.h"
+#include "ui/dialogs/ColourNameEditor.h"
+#include "ui/dialogs/EditTimeDialog.h"
+#include "ui/dialogs/HelpDialog.h"
+#include "ui/main/MainWindow.h"
+#include "ui/dialogs/OptionsDialog.h"
+#include "ui/common/QtDialogs.h"
+#include "ui/dialogs/ScriptWindow.h"
+#include "ui/dialogs/SimpleEditWindow.h"
+#include "ui/wizard/WizardDialog.h"
 
 using namespace flickerscribe;
 using namespace Qt::Literals::StringLiterals;

@@ -2,10 +2,10 @@
 #include <QStandardPaths>
 
 #include "settings/UserSettingsStore.h"
-#include "ui/MainWindow.h"
-#include "ui/ProgramInfo.h"
-#include "ui/QtDialogs.h"
-#include "ui/TerminationSignals.h"
+#include "ui/main/MainWindow.h"
+#include "ui/common/ProgramInfo.h"
+#include "ui/common/QtDialogs.h"
+#include "ui/common/TerminationSignals.h"
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);

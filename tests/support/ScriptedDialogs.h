@@ -7,7 +7,7 @@
 #include <optional>
 #include <vector>
 
-#include "ui/Dialogs.h"
+#include "ui/common/Dialogs.h"
 
 namespace flickerscribe::ui {
 

@@ -8,10 +8,10 @@
 #include "MainWindowFixture.h"
 #include "MemoryPane.h"
 #include "colour/Palette.h"
-#include "ui/AboutDialog.h"
-#include "ui/QtDialogs.h"
-#include "ui/RichPane.h"
-#include "ui/WizardArt.h"
+#include "ui/dialogs/AboutDialog.h"
+#include "ui/common/QtDialogs.h"
+#include "ui/widgets/RichPane.h"
+#include "ui/wizard/WizardArt.h"
 
 namespace flickerscribe::ui::testing_support {
 namespace {

@@ -2,7 +2,7 @@
 // toolbar and the drop-down, each change taken back by Ctrl+Z and done again by
 // Ctrl+Y. Under scripts/test.sh asan it shows that no command leaks.
 #include "MainWindowFixture.h"
-#include "ui/ScriptWindow.h"
+#include "ui/dialogs/ScriptWindow.h"
 
 namespace flickerscribe::ui::testing_support {
 namespace {

@@ -15,7 +15,7 @@
 #include "MainWindowFixture.h"
 #include "document/SafeWrite.h"
 #include "document/TextFile.h"
-#include "ui/ScriptWindow.h"
+#include "ui/dialogs/ScriptWindow.h"
 
 namespace flickerscribe::ui::testing_support {
 namespace {

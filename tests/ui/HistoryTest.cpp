@@ -3,8 +3,8 @@
 #include <csignal>
 
 #include "MainWindowFixture.h"
-#include "ui/AnimationHistory.h"
-#include "ui/TerminationSignals.h"
+#include "ui/common/AnimationHistory.h"
+#include "ui/common/TerminationSignals.h"
 
 namespace flickerscribe::ui::testing_support {
 namespace {

@@ -13,14 +13,14 @@
 #include "MemorySettingsStore.h"
 #include "ScriptedDialogs.h"
 #include "colour/ColouredText.h"
-#include "ui/ColourNameEditor.h"
-#include "ui/EditTimeDialog.h"
-#include "ui/HelpDialog.h"
-#include "ui/LineListView.h"
-#include "ui/MainWindow.h"
-#include "ui/OptionsDialog.h"
-#include "ui/SimpleEditWindow.h"
-#include "ui/WizardDialog.h"
+#include "ui/dialogs/ColourNameEditor.h"
+#include "ui/dialogs/EditTimeDialog.h"
+#include "ui/dialogs/HelpDialog.h"
+#include "ui/widgets/LineListView.h"
+#include "ui/main/MainWindow.h"
+#include "ui/dialogs/OptionsDialog.h"
+#include "ui/dialogs/SimpleEditWindow.h"
+#include "ui/wizard/WizardDialog.h"
 
 // Failed checks show texts as text.
 inline void PrintTo(const QString& text, std::ostream* os) {

@@ -1,0 +1,96 @@
+#include <QSignalBlocker>
+#include <QTextEdit>
+#include <string>
+
+#include "colour/ColouredText.h"
+#include "colour/Palette.h"
+#include "ui/dialogs/EditTimeDialog.h"
+#include "ui/widgets/LineListView.h"
+#include "ui/main/MainWindow.h"
+#include "ui/widgets/RichPane.h"
+#include "ui/common/TextConv.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+// Editing the selected line: in the coloured pane with the colour strip, by
+// keys in the list, and its time in the Edit dialog.
+
+namespace flickerscribe::ui {
+
+void MainWindow::OnPaneEdited() {
+    WritePaneToLine(tr("Typing"), true);
+}
+
+void MainWindow::WritePaneToLine(const QString& stepName, bool typing) {
+    Pane& pane = *preview_;
+    const int caret = pane.SelStart();
+    // Every change of the pane goes back to the selected line as coded text,
+    // with a code only where the colour changes (white counting as the colour
+    // before the first character). The program's own drawing, and playback,
+    // reach no line, and neither does a frame that playback left in the pane;
+    // with an empty list there is no line to reach.
+    if (!previewBusy_ && paneShows_ != PaneShows::Frame && script_.Count() >= 1) {
+        shownText_ = EncodeColouredText(pane, kWhite);
+        paneShows_ = PaneShows::Line;
+        writingFromPane_ = true;
+        history_.SetText(stepName, script_.SelectedIndex(), shownText_, typing);
+        writingFromPane_ = false;
+    }
+    // The caret stays where it was, and a selection ends at its start. The
+    // walk above doesn't move the caret, so this only matters after a colour
+    // was set on a selected stretch; leaving an unmoved caret alone keeps a
+    // colour chosen for the next typed character.
+    if (pane.SelStart() != caret || pane.SelLength() != 0) {
+        pane.SetSelStart(caret);
+        pane.SetSelLength(0);
+    }
+}
+
+void MainWindow::PaintSelection(int index) {
+    Pane& pane = *preview_;
+    // A frame of playback is no line to paint: the pane shows the line again.
+    if (paneShows_ == PaneShows::Frame) {
+        if (!Playing()) SetPreview();
+        return;
+    }
+    // An empty pane takes no colour: a new text can't start with one.
+    if (pane.Text().empty()) return;
+    const bool stretch = pane.SelLength() > 0;
+    {
+        // Whether or not the widget reports a change of colour alone, the line
+        // hears of it exactly once, below.
+        const QSignalBlocker quiet(paneEdit_);
+        pane.SetSelColour(ColourFromDigit(std::string(1, static_cast<char>('1' + index))));
+    }
+    // With nothing selected no character changed: the colour waits for what
+    // is typed next, and typing writes the line. A coloured stretch is a step
+    // of its own.
+    if (stretch) WritePaneToLine(tr("Colour"), false);
+}
+
+void MainWindow::OnPaneKeyPress(int key, Qt::KeyboardModifiers modifiers) {
+    (void)modifiers;
+    // The Ctrl key alone takes the focus to the list, so that every Ctrl
+    // combination begun in the pane works on lines, not on characters.
+    if (key == Qt::Key_Control) lineList_->setFocus();
+}
+
+void MainWindow::OnListKeyPress(int key, Qt::KeyboardModifiers modifiers) {
+    (void)modifiers;  // Shift+Delete and Ctrl+Delete remove as well
+    // The list has already moved its selection for this key, so the pane
+    // shows the line an arrow key led to.
+    if (key == Qt::Key_Delete) RemoveSelectedLine();
+    SetPreview();
+}
+
+void MainWindow::EditSelectedLine() {
+    if (script_.Count() > 0) {
+        EditTimeDialog window(this);
+        if (window.exec() == QDialog::Accepted)
+            history_.SetTime(tr("Edit time"), script_.SelectedIndex(), FromQString(window.time()));
+    } else {
+        dialogs_.Message(this, tr("No items to edit"), tr("Edit"), MsgIcon::Exclamation, MsgButtons::Ok);
+    }
+}
+
+}  // namespace flickerscribe::ui

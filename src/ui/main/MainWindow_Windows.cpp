@@ -1,0 +1,53 @@
+#include "ui/dialogs/AboutDialog.h"
+#include "ui/dialogs/ColourNameEditor.h"
+#include "ui/dialogs/HelpDialog.h"
+#include "ui/main/MainWindow.h"
+#include "ui/dialogs/OptionsDialog.h"
+#include "ui/dialogs/SimpleEditWindow.h"
+#include "ui/wizard/WizardDialog.h"
+
+// The other windows, opened from the menus and the toolbar. The wizard is
+// the only one shown beside the main window; all others are modal.
+
+namespace flickerscribe::ui {
+
+void MainWindow::ShowWizard() {
+    // One wizard at a time: while it is open, the command only brings it forward.
+    if (wizard_) {
+        wizard_->raise();
+        wizard_->activateWindow();
+        return;
+    }
+    auto* wizard = new WizardDialog(history_, dialogs_, settings_, this);
+    wizard->setAttribute(Qt::WA_DeleteOnClose);
+    wizard_ = wizard;
+    wizard->show();
+}
+
+void MainWindow::ShowColourNameEditor() {
+    ColourNameEditor window(dialogs_, this);
+    window.exec();
+}
+
+void MainWindow::ShowSimpleEdit() {
+    SimpleEditWindow window(history_, dialogs_, this);
+    window.exec();
+}
+
+void MainWindow::ShowOptions() {
+    OptionsDialog window(
+        store_, dialogs_, [this] { LoadSettings(); }, this);
+    window.exec();
+}
+
+void MainWindow::ShowHelp() {
+    HelpDialog window(dialogs_, this);
+    window.exec();
+}
+
+void MainWindow::ShowAbout() {
+    AboutDialog window(this);
+    window.exec();
+}
+
+}  // namespace flickerscribe::ui

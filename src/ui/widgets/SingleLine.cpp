@@ -1,0 +1,44 @@
+#include "ui/widgets/SingleLine.h"
+
+#include <QLineEdit>
+#include <QValidator>
+#include <limits>
+
+namespace flickerscribe::ui {
+namespace {
+
+// Rewrites what the box is about to hold; QLineEdit takes the rewritten text.
+class OneLineValidator : public QValidator {
+public:
+    using QValidator::QValidator;
+
+    State validate(QString& input, int& position) const override {
+        const qsizetype before = input.size();
+        input = OnOneLine(std::move(input));
+        // A CR LF became one blank: the caret moves back with the text.
+        position = static_cast<int>(std::max<qsizetype>(0, position - (before - input.size())));
+        return Acceptable;
+    }
+};
+
+bool IsBreak(QChar c) {
+    return c == u'\r' || c == u'\n' || c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
+}
+
+}  // namespace
+
+QString OnOneLine(QString text) {
+    if (!std::any_of(text.cbegin(), text.cend(), IsBreak)) return text;
+    text.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
+    for (QChar& c : text) {
+        if (IsBreak(c)) c = u' ';
+    }
+    return text;
+}
+
+void KeepOnOneLine(QLineEdit* box) {
+    box->setMaxLength(std::numeric_limits<int>::max());
+    box->setValidator(new OneLineValidator(box));
+}
+
+}  // namespace flickerscribe::ui
