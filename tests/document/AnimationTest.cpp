@@ -117,11 +117,14 @@ TEST(Cp1252, EveryByteSurvivesTheRoundTrip) {
 // no stray continuation byte.
 TEST(Cp1252, WhatIsNoUtf8OrHasNoFormBecomesAQuestionMark) {
     const std::pair<std::string, std::u32string> valid[] = {
-        {"", U""}, {"a\r\n", U"a\r\n"}, {"\xC2\x80\xDF\xBF", U"\u0080\u07FF"},
-        {"\xE0\xA0\x80\xEF\xBF\xBF", U"\u0800\uFFFF"}, {"\xF0\x90\x80\x80\xF4\x8F\xBF\xBF", U"\U00010000\U0010FFFF"},
+        {"", U""},
+        {"a\r\n", U"a\r\n"},
+        {"\xC2\x80\xDF\xBF", U"\u0080\u07FF"},
+        {"\xE0\xA0\x80\xEF\xBF\xBF", U"\u0800\uFFFF"},
+        {"\xF0\x90\x80\x80\xF4\x8F\xBF\xBF", U"\U00010000\U0010FFFF"},
     };
     for (const auto& [utf8, decoded] : valid) EXPECT_EQ(DecodeUtf8(utf8), decoded) << utf8;
-    EXPECT_EQ(Utf8ToCp1252("\xC2\x80\xE4\xB8\xAD\xF0\x9F\x98\x80"), "???") << "valid, but not in the code page";
+    EXPECT_EQ(Utf8ToCp1252("\xC2\x80\xE4\xB8\xAD\xF0\x9F\x98\x80"), "???") << "not in the code page";
     const std::pair<const char*, const char*> invalid[] = {
         // clang-format off
         {"\x80", "?"}, {"a\xBF", "a?"}, {"\xC0\x80", "??"}, {"\xC1\xBF", "??"}, {"\xE0\x80\x8D", "???"},
