@@ -137,8 +137,6 @@ TEST(EffectRun, RowsChainThroughTheRewrittenNameAndTag) {
         const char* frames;
     } cases[] = {
         // clang-format off
-        {"^1Ka", "^4[QZT]", false, {{"Wave 2"}, {"Bounce", "1"}, {"Wave 2"}},
-         "^4[QZT]^1K|^4[QZT]^1Ka|[QZT]Ka|K[QZT]a|Ka[QZT]|K[QZT]a|[QZT]Ka|^4[QZT]^1Ka|^4[QZT]^1K|[QZT]K|[QZT]Ka"},
         {"Ka", "[QZT]", true, {{"Wave 2"}, {"Bounce", "1"}, {"Wave 2"}},
          "K^0[QZT]|Ka^0[QZT]|Ka[QZT]|K[QZT]a|[QZT]Ka|K[QZT]a|Ka[QZT]|Ka^0[QZT]|K^0[QZT]|K^0[QZT]|Ka^0[QZT]"},
         {"^1Ka", "", false, {{"Bounce", "0"}, {"Wave forward"}, {"Wave two"}, {"Wave forward"}}, "^1K| ^1a|^1K| ^1a"},

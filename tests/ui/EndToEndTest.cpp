@@ -168,8 +168,10 @@ TEST_F(EndToEnd, OneSessionGivesEveryCommand) {
         Give(name);
     EXPECT_EQ(modalsSeen, (QStringList{u"frmEdit"_s, u"frmScript"_s, u"frmColorEditor"_s, u"frmSimpleEdit"_s,
                                        u"frmOptions"_s, u"frmHelp"_s, u"frmAbout"_s}));
+    const auto calls = dialogs.Calls().size();
     Give(u"mnuFileExit"_s);
     EXPECT_FALSE(window->isVisible());
+    EXPECT_EQ(dialogs.Calls().size(), calls) << "Exit asks nothing, not even over unsaved work";
     EXPECT_EQ(ReadBytes(KeptFiles().value(0)), "#v050#\r\n^8one\r\n15\r\n[none]\r\n")
         << "Simple Edit's, kept at the end";
     EXPECT_EQ(QStringList((offered - given).values()).join(u", "_s), QString()) << "never given";
