@@ -2,7 +2,9 @@
 // progress dialog's Cancel, and against the command line's bytes.
 #include "MainWindowFixture.h"
 #include "document/AnimationFile.h"
+#include "document/SafeWrite.h"
 #include "effects/EffectRun.h"
+#include "ui/common/FileCommands.h"
 
 namespace flickerscribe::ui::testing_support {
 namespace {
@@ -19,10 +21,14 @@ TEST_F(PictureExport, SaysWhatStopsIt) {
         dialogs.QueueSave(path);
         Key(Qt::Key_E, Qt::ControlModifier);
     }
+    // The system's own error number and text, as any save of that path gets.
+    const SaveError missing =
+        WriteFileSafely(NativePath(PathOf(u"missing/x.gif"_s)), "").value_or(SaveError{});
     EXPECT_EQ(dialogs.Asked(),
               (QStringList{u"Export animated picture [warning]: There is no animation to export!"_s,
                            u"save Export animated picture"_s, u"save Export animated picture"_s,
-                           u"Error [stop]: Error saving script!\n2\nNo such file or directory"_s}));
+                           u"Error [stop]: Error saving script!\n%1\n%2"_s.arg(missing.number)
+                               .arg(QString::fromLocal8Bit(missing.text))}));
 }
 
 // The README's example: the save dialog opens in the settings' save folder,
