@@ -8,6 +8,14 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   target_compile_options(fs_warnings INTERFACE -Wno-restrict)
 endif()
 
+# <windows.h> without its rarely used parts and without the min and max macros
+# that clash with the standard library's: for every Windows source, and for
+# the checks that compile them here with MinGW.
+set(FS_WINDOWS_DEFINES -DWIN32_LEAN_AND_MEAN -DNOMINMAX)
+if(WIN32)
+  add_compile_definitions(WIN32_LEAN_AND_MEAN NOMINMAX)
+endif()
+
 if(FS_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=all)
   add_link_options(-fsanitize=address,undefined)

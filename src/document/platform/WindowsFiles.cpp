@@ -3,12 +3,6 @@
 // in one step, and reads that take only what the caller accepts.
 #include "document/platform/Files.h"
 
-#ifndef WIN32_LEAN_AND_MEAN
-#define WIN32_LEAN_AND_MEAN
-#endif
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
 #include <windows.h>
 
 #include <algorithm>
