@@ -1,9 +1,8 @@
 #include <fcntl.h>
 #include <io.h>
+#include <windows.h>
 
 #include "cli/Console.h"
-
-#include <windows.h>
 // After windows.h, which it needs.
 #include <shellapi.h>
 

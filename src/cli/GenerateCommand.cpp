@@ -11,12 +11,9 @@ namespace {
 // The script text of an animation file, ended by CR LF as a saved script is.
 int RunGenerate(const ParsedArgs& args) {
     const std::string& input = args.Positionals().front();
-    const auto data = ReadInput(input);
-    if (!data) return CannotRead(input);
-
     AnimationScript script;
-    const bool cut = LoadAnimationBytes(*data, script) == LoadStatus::Truncated;
-    if (cut) LineLimitReached();
+    bool cut = false;
+    if (!ReadAnimationInput(input, script, cut)) return kExitFileError;
 
     std::string text =
         BuildScriptText(script, [](const std::string& message) { WriteText(stderr, message + "\n"); });

@@ -46,11 +46,9 @@ int RunPicture(const ParsedArgs& args) {
         return UsageError(kPictureSyntax, "a picture is no text for the terminal: give --output FILE");
 
     const std::string& input = args.Positionals().front();
-    const auto data = ReadInput(input);
-    if (!data) return CannotRead(input);
     AnimationScript script;
-    const bool cut = LoadAnimationBytes(*data, script) == LoadStatus::Truncated;
-    if (cut) LineLimitReached();
+    bool cut = false;
+    if (!ReadAnimationInput(input, script, cut)) return kExitFileError;
     if (script.Count() == 0) {
         Complain("there is no animation to draw in " + input);
         return kExitFileError;

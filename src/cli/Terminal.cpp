@@ -1,6 +1,7 @@
 #include "cli/Terminal.h"
 
 #include "cli/Args.h"
+#include "document/AnimationFile.h"
 #include "document/Cp1252.h"
 #include "document/SafeWrite.h"
 #include "document/TextFile.h"
@@ -60,6 +61,17 @@ std::optional<std::string> ReadInput(const std::string& path) {
     }
     if (std::ferror(stdin)) return std::nullopt;
     return data;
+}
+
+bool ReadAnimationInput(const std::string& path, AnimationScript& script, bool& cut) {
+    const auto data = ReadInput(path);
+    if (!data) {
+        CannotRead(path);
+        return false;
+    }
+    cut = LoadAnimationBytes(*data, script) == LoadStatus::Truncated;
+    if (cut) LineLimitReached();
+    return true;
 }
 
 int CannotRead(const std::string& path) {

@@ -12,6 +12,10 @@
 // are converted on the way in, and text for a terminal on the way out, while
 // files and pipes get the bytes as they are. Paths are never converted: they
 // stay as the command line gave them (UTF-8 on Windows, see Console.h).
+namespace flickerscribe {
+class AnimationScript;
+}
+
 namespace flickerscribe::cli {
 
 // A text argument (a name, a coded text) as the program holds it, on one
@@ -34,6 +38,11 @@ void Complain(std::string_view message);
 // The whole content of an input: standard input for "-", else the file.
 // nullopt when it can't be read.
 std::optional<std::string> ReadInput(const std::string& path);
+
+// Reads an animation (a .fsq or a plain list) from INPUT into `script`,
+// reporting an input that can't be read and a cut at the line limit. False
+// when it couldn't be read; `cut` tells whether the line limit cut it.
+bool ReadAnimationInput(const std::string& path, AnimationScript& script, bool& cut);
 
 // Reports an input that can't be read; gives kExitFileError.
 int CannotRead(const std::string& path);

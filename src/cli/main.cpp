@@ -14,11 +14,7 @@ namespace {
 // Every command of the program, in the order the overview lists them. A new
 // command is one line here and one declaration in Commands.h.
 const Command* const kCommands[] = {
-    &kGenerateCommand,
-    &kImportCommand,
-    &kRenderCommand,
-    &kEffectsCommand,
-    &kPictureCommand,
+    &kGenerateCommand, &kImportCommand, &kRenderCommand, &kEffectsCommand, &kPictureCommand,
 };
 
 std::string Overview() {
