@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "colour/ColouredText.h"
 #include "MemoryPane.h"
+#include "colour/ColouredText.h"
 
 namespace {
 

@@ -22,23 +22,23 @@ using flickerscribe::AnimationScript;
 class ChosenFile : public flickerscribe::ui::Dialogs {
 public:
     explicit ChosenFile(QString path) : path_(std::move(path)) {}
-    flickerscribe::ui::MsgAnswer Message(QWidget*, const QString&, const QString&, flickerscribe::ui::MsgIcon,
+    flickerscribe::ui::MsgAnswer message(QWidget*, const QString&, const QString&, flickerscribe::ui::MsgIcon,
                                          flickerscribe::ui::MsgButtons) override {
         return flickerscribe::ui::MsgAnswer::Ok;
     }
-    std::optional<QString> InputBox(QWidget*, const QString&, const QString&, const QString&) override {
+    std::optional<QString> inputBox(QWidget*, const QString&, const QString&, const QString&) override {
         return std::nullopt;
     }
-    bool ShowOpen(QWidget*, flickerscribe::ui::FileDialogState& state) override {
+    bool showOpen(QWidget*, flickerscribe::ui::FileDialogState& state) override {
         state.fileName = path_;
         return true;
     }
-    bool ShowSave(QWidget* parent, flickerscribe::ui::FileDialogState& state) override {
-        return ShowOpen(parent, state);
+    bool showSave(QWidget* parent, flickerscribe::ui::FileDialogState& state) override {
+        return showOpen(parent, state);
     }
-    QString BrowseForFolder(QWidget*, const QString&) override { return {}; }
-    void SetClipboardText(const QString&) override {}
-    std::optional<QString> ClipboardText() override { return QString(); }
+    QString browseForFolder(QWidget*, const QString&) override { return {}; }
+    void setClipboardText(const QString&) override {}
+    std::optional<QString> clipboardText() override { return QString(); }
 
 private:
     QString path_;
@@ -76,10 +76,10 @@ void BM_OpenAFullFileIntoTheShownList(benchmark::State& state) {
     ChosenFile dialogs(path);
     flickerscribe::bench::ShownWindow shown(0, &dialogs);
     for (auto _ : state) {
-        shown.window.OpenAnimation();
+        shown.window.openAnimation();
         shown.PaintList();
     }
-    if (shown.window.Script().Count() != flickerscribe::kMaxLines)
+    if (shown.window.script().Count() != flickerscribe::kMaxLines)
         state.SkipWithError("the file didn't load whole");
     state.SetItemsProcessed(state.iterations() * flickerscribe::kMaxLines);
 }

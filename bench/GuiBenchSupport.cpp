@@ -17,13 +17,13 @@ void FillNames(AnimationScript& script, int lines) {
 
 ShownWindow::ShownWindow(int lines, ui::Dialogs* dialogs)
     : window(dialogs != nullptr ? *dialogs : qtDialogs, store) {
-    FillNames(window.Script(), lines);
+    FillNames(window.script(), lines);
     window.show();
     QCoreApplication::processEvents();
 }
 
 void ShownWindow::PaintList() {
-    window.LineList()->viewport()->repaint();
+    window.lineList()->viewport()->repaint();
 }
 
 }  // namespace flickerscribe::bench

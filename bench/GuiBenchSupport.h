@@ -8,15 +8,15 @@
 
 #include "document/AnimationScript.h"
 #include "settings/SettingsStore.h"
-#include "ui/main/MainWindow.h"
 #include "ui/common/QtDialogs.h"
+#include "ui/main/MainWindow.h"
 
 namespace flickerscribe::bench {
 
 class NoSettings : public settings::SettingsStore {
 public:
-    QString ReadValue(const QString&, const QString& defaultValue) const override { return defaultValue; }
-    void WriteValue(const QString&, const QString&) override {}
+    QString readValue(const QString&, const QString& defaultValue) const override { return defaultValue; }
+    void writeValue(const QString&, const QString&) override {}
 };
 
 // Appends `lines` names with a few colours each, in one reset.

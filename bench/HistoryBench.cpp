@@ -16,7 +16,7 @@ using flickerscribe::bench::ShownWindow;
 
 // A wizard run that fills the list: "Bounce" twelve times over a name.
 void FillByTheWizard(ShownWindow& shown) {
-    shown.window.History().ReplaceLines(QStringLiteral("Wizard"), [](AnimationScript& script) {
+    shown.window.history().replaceLines(QStringLiteral("Wizard"), [](AnimationScript& script) {
         return flickerscribe::RunEffectList(script, "Quillon", "[Q]", false, {{"Bounce", "12", "0"}},
                                             [](const std::string&, const std::string&) { return true; });
     });
@@ -25,12 +25,13 @@ void FillByTheWizard(ShownWindow& shown) {
 void BM_UndoWizardRun(benchmark::State& state) {
     ShownWindow shown(3);
     FillByTheWizard(shown);
-    if (shown.window.Script().Count() != flickerscribe::kMaxLines) state.SkipWithError("the run didn't fill the list");
+    if (shown.window.script().Count() != flickerscribe::kMaxLines)
+        state.SkipWithError("the run didn't fill the list");
     for (auto _ : state) {
-        shown.window.Undo();
+        shown.window.undo();
         shown.PaintList();
         state.PauseTiming();
-        shown.window.Redo();
+        shown.window.redo();
         QCoreApplication::processEvents();
         state.ResumeTiming();
     }
@@ -42,13 +43,13 @@ void BM_RedoWizardRun(benchmark::State& state) {
     FillByTheWizard(shown);
     for (auto _ : state) {
         state.PauseTiming();
-        shown.window.Undo();
+        shown.window.undo();
         QCoreApplication::processEvents();
         state.ResumeTiming();
-        shown.window.Redo();
+        shown.window.redo();
         shown.PaintList();
     }
-    if (shown.window.Script().Count() != flickerscribe::kMaxLines) state.SkipWithError("redo lost lines");
+    if (shown.window.script().Count() != flickerscribe::kMaxLines) state.SkipWithError("redo lost lines");
 }
 BENCHMARK(BM_RedoWizardRun)->Unit(benchmark::kMillisecond);
 

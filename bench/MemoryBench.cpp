@@ -18,36 +18,36 @@
 #include "document/AnimationScript.h"
 #include "settings/SettingsStore.h"
 #include "ui/common/Dialogs.h"
-#include "ui/widgets/LineListView.h"
 #include "ui/main/MainWindow.h"
+#include "ui/widgets/LineListView.h"
 
 namespace {
 
 class NoSettings : public flickerscribe::settings::SettingsStore {
 public:
-    QString ReadValue(const QString&, const QString& defaultValue) const override { return defaultValue; }
-    void WriteValue(const QString&, const QString&) override {}
+    QString readValue(const QString&, const QString& defaultValue) const override { return defaultValue; }
+    void writeValue(const QString&, const QString&) override {}
 };
 
 // Dialogs whose open dialog chooses one file; nothing else is asked.
 class OpenOneFile : public flickerscribe::ui::Dialogs {
 public:
     explicit OpenOneFile(QString path) : path_(std::move(path)) {}
-    flickerscribe::ui::MsgAnswer Message(QWidget*, const QString&, const QString&, flickerscribe::ui::MsgIcon,
+    flickerscribe::ui::MsgAnswer message(QWidget*, const QString&, const QString&, flickerscribe::ui::MsgIcon,
                                          flickerscribe::ui::MsgButtons) override {
         return flickerscribe::ui::MsgAnswer::Ok;
     }
-    std::optional<QString> InputBox(QWidget*, const QString&, const QString&, const QString&) override {
+    std::optional<QString> inputBox(QWidget*, const QString&, const QString&, const QString&) override {
         return std::nullopt;
     }
-    bool ShowOpen(QWidget*, flickerscribe::ui::FileDialogState& state) override {
+    bool showOpen(QWidget*, flickerscribe::ui::FileDialogState& state) override {
         state.fileName = path_;
         return true;
     }
-    bool ShowSave(QWidget*, flickerscribe::ui::FileDialogState&) override { return false; }
-    QString BrowseForFolder(QWidget*, const QString&) override { return {}; }
-    void SetClipboardText(const QString&) override {}
-    std::optional<QString> ClipboardText() override { return QString(); }
+    bool showSave(QWidget*, flickerscribe::ui::FileDialogState&) override { return false; }
+    QString browseForFolder(QWidget*, const QString&) override { return {}; }
+    void setClipboardText(const QString&) override {}
+    std::optional<QString> clipboardText() override { return QString(); }
 
 private:
     QString path_;
@@ -84,11 +84,11 @@ void BM_ResidentWithFullAnimationShown(benchmark::State& state) {
         window.resize(800, 600);
         window.show();
         if (!QTest::qWaitForWindowExposed(&window)) state.SkipWithError("the window never showed");
-        window.OpenAnimation();
-        if (window.Script().Count() != flickerscribe::kMaxLines) state.SkipWithError("not all lines");
+        window.openAnimation();
+        if (window.script().Count() != flickerscribe::kMaxLines) state.SkipWithError("not all lines");
         // Down to the last line, drawn in the pane, and a full paint.
-        window.Script().SelectLine(window.Script().Count());
-        window.ShowClickedLine(window.Script().Count());
+        window.script().SelectLine(window.script().Count());
+        window.showClickedLine(window.script().Count());
         window.repaint();
         QApplication::processEvents();
         benchmark::DoNotOptimize(window.grab());
@@ -125,13 +125,13 @@ void BM_ResidentAfterAHundredReplacements(benchmark::State& state) {
         if (!QTest::qWaitForWindowExposed(&window)) state.SkipWithError("the window never showed");
         for (int i = 0; i <= 100; ++i) {
             // Every other line changes, so that each Open replaces something.
-            if (i > 0) window.History().SetText(QStringLiteral("Edit"), 1, std::to_string(i));
-            window.OpenAnimation();
+            if (i > 0) window.history().setText(QStringLiteral("Edit"), 1, std::to_string(i));
+            window.openAnimation();
             QApplication::processEvents();
         }
         window.repaint();
-        state.counters["Steps"] = window.History().UndoableSteps();
-        state.counters["Kept_MB"] = static_cast<double>(window.History().KeptBytes()) / (1024 * 1024);
+        state.counters["Steps"] = window.history().undoableSteps();
+        state.counters["Kept_MB"] = static_cast<double>(window.history().keptBytes()) / (1024 * 1024);
         state.counters["VmRSS_MB"] = StatusKb("VmRSS") / 1024;
         state.counters["VmHWM_MB"] = StatusKb("VmHWM") / 1024;
     }

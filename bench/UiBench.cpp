@@ -29,7 +29,7 @@ std::string EveryCharacterItsColour(int length) {
 
 void BM_ListResetAndFirstPaint(benchmark::State& state) {
     ShownWindow shown;
-    AnimationScript& script = shown.window.Script();
+    AnimationScript& script = shown.window.script();
     const int lines = static_cast<int>(state.range(0));
     for (auto _ : state) {
         {
@@ -47,8 +47,8 @@ void BM_RenderName(benchmark::State& state) {
     ShownWindow shown;
     const std::string name = EveryCharacterItsColour(64);
     for (auto _ : state) {
-        flickerscribe::RenderCodedText(name, shown.window.PreviewPane());
-        shown.window.PaneEdit()->viewport()->repaint();
+        flickerscribe::RenderCodedText(name, shown.window.previewPane());
+        shown.window.paneEdit()->viewport()->repaint();
     }
 }
 BENCHMARK(BM_RenderName)->Unit(benchmark::kMicrosecond);
@@ -57,18 +57,18 @@ void BM_RenderLongestTextToFirstPaint(benchmark::State& state) {
     ShownWindow shown;
     const std::string text = EveryCharacterItsColour(32767);
     for (auto _ : state) {
-        flickerscribe::RenderCodedText(text, shown.window.PreviewPane());
-        shown.window.PaneEdit()->viewport()->repaint();
+        flickerscribe::RenderCodedText(text, shown.window.previewPane());
+        shown.window.paneEdit()->viewport()->repaint();
     }
 }
 BENCHMARK(BM_RenderLongestTextToFirstPaint)->Unit(benchmark::kMillisecond);
 
 void BM_EncodeLongestText(benchmark::State& state) {
     ShownWindow shown;
-    flickerscribe::RenderCodedText(EveryCharacterItsColour(32767), shown.window.PreviewPane());
+    flickerscribe::RenderCodedText(EveryCharacterItsColour(32767), shown.window.previewPane());
     for (auto _ : state) {
         benchmark::DoNotOptimize(
-            flickerscribe::EncodeColouredText(shown.window.PreviewPane(), flickerscribe::kWhite));
+            flickerscribe::EncodeColouredText(shown.window.previewPane(), flickerscribe::kWhite));
     }
 }
 BENCHMARK(BM_EncodeLongestText)->Unit(benchmark::kMillisecond);

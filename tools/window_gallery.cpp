@@ -10,15 +10,15 @@
 #include <memory>
 
 #include "MemorySettingsStore.h"
+#include "ui/common/QtDialogs.h"
 #include "ui/dialogs/AboutDialog.h"
 #include "ui/dialogs/ColourNameEditor.h"
 #include "ui/dialogs/EditTimeDialog.h"
 #include "ui/dialogs/HelpDialog.h"
-#include "ui/main/MainWindow.h"
 #include "ui/dialogs/OptionsDialog.h"
-#include "ui/common/QtDialogs.h"
 #include "ui/dialogs/ScriptWindow.h"
 #include "ui/dialogs/SimpleEditWindow.h"
+#include "ui/main/MainWindow.h"
 #include "ui/wizard/WizardDialog.h"
 
 using namespace flickerscribe;
@@ -31,8 +31,8 @@ int main(int argc, char** argv) {
     QDir().mkpath(folder.path());
     ui::QtDialogs dialogs;
     settings::MemorySettingsStore store;
-    store.WriteValue(u"Name"_s, u"^1Fl^7ick^4er"_s);
-    store.WriteValue(u"Clantag"_s, u"^3[QZT]"_s);
+    store.writeValue(u"Name"_s, u"^1Fl^7ick^4er"_s);
+    store.writeValue(u"Clantag"_s, u"^3[QZT]"_s);
 
     const auto shoot = [&](QWidget& window, const QString& name) {
         window.show();
@@ -43,24 +43,25 @@ int main(int argc, char** argv) {
 
     ui::MainWindow main(dialogs, store);
     for (const char* text : {"^1Fl^7ick^4er", "^2Sec^3ond", "third"})
-        main.Script().AppendLine(text, "15", "[none]");
-    main.Script().SelectLine(1);
-    main.SetPreview();
+        main.script().AppendLine(text, "15", "[none]");
+    main.script().SelectLine(1);
+    main.setPreview();
     shoot(main, u"main"_s);
-    main.ToggleColours();
+    main.toggleColours();
     shoot(main, u"main-colours"_s);
 
-    auto wizard = std::make_unique<ui::WizardDialog>(main.History(), dialogs, main.Settings());
+    auto wizard = std::make_unique<ui::WizardDialog>(main.history(), dialogs, main.Settings());
     for (const int page : wizard->pageIds()) {
         if (page > 1) wizard->next();
         shoot(*wizard, u"wizard-%1"_s.arg(page));
     }
     const std::vector<std::pair<QString, std::function<std::unique_ptr<QWidget>()>>> windows = {
-        {u"script"_s, [&] { return std::make_unique<ui::ScriptWindow>(main.Script(), dialogs, main.Settings()); }},
+        {u"script"_s,
+         [&] { return std::make_unique<ui::ScriptWindow>(main.script(), dialogs, main.Settings()); }},
         {u"edit"_s, [] { return std::make_unique<ui::EditTimeDialog>(); }},
         {u"options"_s, [&] { return std::make_unique<ui::OptionsDialog>(store, dialogs, [] {}); }},
         {u"colour-editor"_s, [&] { return std::make_unique<ui::ColourNameEditor>(dialogs); }},
-        {u"simple-edit"_s, [&] { return std::make_unique<ui::SimpleEditWindow>(main.History(), dialogs); }},
+        {u"simple-edit"_s, [&] { return std::make_unique<ui::SimpleEditWindow>(main.history(), dialogs); }},
         {u"help"_s, [&] { return std::make_unique<ui::HelpDialog>(dialogs); }},
         {u"about"_s, [] { return std::make_unique<ui::AboutDialog>(); }},
     };

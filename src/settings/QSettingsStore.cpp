@@ -13,7 +13,7 @@ QSettingsStore::QSettingsStore()
 
 QSettingsStore::QSettingsStore(QString filePath) : filePath_(std::move(filePath)) {}
 
-QString QSettingsStore::ReadValue(const QString& valueName, const QString& defaultValue) const {
+QString QSettingsStore::readValue(const QString& valueName, const QString& defaultValue) const {
     // Opening for reading neither creates the file nor its folder.
     const QSettings file(filePath_, QSettings::IniFormat);
     const QVariant value = file.value(valueName);
@@ -30,7 +30,7 @@ QString QSettingsStore::ReadValue(const QString& valueName, const QString& defau
     }
 }
 
-void QSettingsStore::WriteValue(const QString& valueName, const QString& value) {
+void QSettingsStore::writeValue(const QString& valueName, const QString& value) {
     QSettings file(filePath_, QSettings::IniFormat);
     file.setValue(valueName, value);
     file.sync();

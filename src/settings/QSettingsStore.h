@@ -14,10 +14,10 @@ public:
     // Another file, for tests.
     explicit QSettingsStore(QString filePath);
 
-    const QString& FilePath() const { return filePath_; }
+    const QString& filePath() const { return filePath_; }
 
-    QString ReadValue(const QString& valueName, const QString& defaultValue = {}) const override;
-    void WriteValue(const QString& valueName, const QString& value) override;
+    QString readValue(const QString& valueName, const QString& defaultValue = {}) const override;
+    void writeValue(const QString& valueName, const QString& value) override;
 
 private:
     QString filePath_;

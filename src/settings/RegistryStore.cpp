@@ -8,13 +8,13 @@ RegistryStore::RegistryStore() : keyName_(win32::kSettingsKey) {}
 
 RegistryStore::RegistryStore(QString keyName) : keyName_(keyName.toStdWString()) {}
 
-QString RegistryStore::ReadValue(const QString& valueName, const QString& defaultValue) const {
+QString RegistryStore::readValue(const QString& valueName, const QString& defaultValue) const {
     return QString::fromStdWString(
-        win32::ReadRegistryString(valueName.toStdWString(), defaultValue.toStdWString(), keyName_));
+        win32::readRegistryString(valueName.toStdWString(), defaultValue.toStdWString(), keyName_));
 }
 
-void RegistryStore::WriteValue(const QString& valueName, const QString& value) {
-    win32::WriteRegistryString(valueName.toStdWString(), value.toStdWString(), keyName_);
+void RegistryStore::writeValue(const QString& valueName, const QString& value) {
+    win32::writeRegistryString(valueName.toStdWString(), value.toStdWString(), keyName_);
 }
 
 }  // namespace flickerscribe::settings

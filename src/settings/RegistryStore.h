@@ -16,8 +16,8 @@ public:
     // Another key under HKEY_CURRENT_USER, for tests.
     explicit RegistryStore(QString keyName);
 
-    QString ReadValue(const QString& valueName, const QString& defaultValue = {}) const override;
-    void WriteValue(const QString& valueName, const QString& value) override;
+    QString readValue(const QString& valueName, const QString& defaultValue = {}) const override;
+    void writeValue(const QString& valueName, const QString& value) override;
 
 private:
     std::wstring keyName_;

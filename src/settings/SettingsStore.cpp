@@ -11,25 +11,25 @@ const QString kOff = QStringLiteral("0");
 
 }  // namespace
 
-Settings LoadSettings(const SettingsStore& store) {
+Settings loadSettings(const SettingsStore& store) {
     Settings settings;
-    settings.openFolder = store.ReadValue(value::kOpenFolder);
-    settings.saveFolder = store.ReadValue(value::kSaveFolder);
-    settings.name = store.ReadValue(value::kName);
-    settings.clanTag = store.ReadValue(value::kClanTag);
-    settings.reverse = store.ReadValue(value::kReverse) == kOn;
-    settings.editInPlace = store.ReadValue(value::kEditInPlace) == kOn;
+    settings.openFolder = store.readValue(value::kOpenFolder);
+    settings.saveFolder = store.readValue(value::kSaveFolder);
+    settings.name = store.readValue(value::kName);
+    settings.clanTag = store.readValue(value::kClanTag);
+    settings.reverse = store.readValue(value::kReverse) == kOn;
+    settings.editInPlace = store.readValue(value::kEditInPlace) == kOn;
     return settings;
 }
 
-void SaveSettings(SettingsStore& store, const Settings& settings) {
-    store.WriteValue(value::kEditInPlace, settings.editInPlace ? kOn : kOff);
-    store.WriteValue(value::kName, settings.name);
-    store.WriteValue(value::kClanTag, settings.clanTag);
-    store.WriteValue(value::kReverse, settings.reverse ? kOn : kOff);
-    store.WriteValue(value::kOpenFolder, settings.openFolder);
-    store.WriteValue(value::kSaveFolder, settings.saveFolder);
-    store.WriteValue(value::kGenerateFolder, settings.saveFolder);
+void saveSettings(SettingsStore& store, const Settings& settings) {
+    store.writeValue(value::kEditInPlace, settings.editInPlace ? kOn : kOff);
+    store.writeValue(value::kName, settings.name);
+    store.writeValue(value::kClanTag, settings.clanTag);
+    store.writeValue(value::kReverse, settings.reverse ? kOn : kOff);
+    store.writeValue(value::kOpenFolder, settings.openFolder);
+    store.writeValue(value::kSaveFolder, settings.saveFolder);
+    store.writeValue(value::kGenerateFolder, settings.saveFolder);
 }
 
 }  // namespace flickerscribe::settings

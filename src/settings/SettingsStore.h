@@ -14,10 +14,10 @@ public:
     virtual ~SettingsStore() = default;
     // The stored text, or `defaultValue` when the value can't be read. Reading
     // never creates the store.
-    virtual QString ReadValue(const QString& valueName, const QString& defaultValue = {}) const = 0;
+    virtual QString readValue(const QString& valueName, const QString& defaultValue = {}) const = 0;
     // Creates the store if needed and keeps the value exactly; an empty text is
     // stored as an empty value, not deleted.
-    virtual void WriteValue(const QString& valueName, const QString& value) = 0;
+    virtual void writeValue(const QString& valueName, const QString& value) = 0;
 };
 
 // The names of the values in the store, as they are on disk and in the
@@ -34,10 +34,10 @@ inline const QString kEditInPlace = QStringLiteral("EditItem");
 
 // The settings in memory, read from the store: texts unchanged, a flag true
 // only for the exact text "1".
-Settings LoadSettings(const SettingsStore& store);
+Settings loadSettings(const SettingsStore& store);
 
 // Writes all seven values, also those unchanged: flags as "1" or "0", and the
 // save folder a second time as GenerateDir.
-void SaveSettings(SettingsStore& store, const Settings& settings);
+void saveSettings(SettingsStore& store, const Settings& settings);
 
 }  // namespace flickerscribe::settings

@@ -8,7 +8,7 @@
 
 namespace flickerscribe::settings {
 
-std::unique_ptr<SettingsStore> OpenUserSettingsStore() {
+std::unique_ptr<SettingsStore> openUserSettingsStore() {
 #ifdef _WIN32
     return std::make_unique<RegistryStore>();
 #else

@@ -18,8 +18,8 @@ public:
     ~OpenKey() {
         if (key_ != nullptr) RegCloseKey(key_);
     }
-    HKEY* Out() { return &key_; }
-    HKEY Get() const { return key_; }
+    HKEY* out() { return &key_; }
+    HKEY get() const { return key_; }
 
 private:
     HKEY key_ = nullptr;
@@ -27,23 +27,23 @@ private:
 
 }  // namespace
 
-std::wstring ReadRegistryString(const std::wstring& valueName, const std::wstring& defaultValue,
+std::wstring readRegistryString(const std::wstring& valueName, const std::wstring& defaultValue,
                                 const std::wstring& keyName) {
     // Opening, unlike creating, leaves a missing key missing.
     OpenKey key;
-    if (RegOpenKeyExW(HKEY_CURRENT_USER, keyName.c_str(), 0, KEY_QUERY_VALUE, key.Out()) != ERROR_SUCCESS)
+    if (RegOpenKeyExW(HKEY_CURRENT_USER, keyName.c_str(), 0, KEY_QUERY_VALUE, key.out()) != ERROR_SUCCESS)
         return defaultValue;
 
     DWORD type = 0;
     DWORD size = 0;
-    if (RegQueryValueExW(key.Get(), valueName.c_str(), nullptr, &type, nullptr, &size) != ERROR_SUCCESS ||
+    if (RegQueryValueExW(key.get(), valueName.c_str(), nullptr, &type, nullptr, &size) != ERROR_SUCCESS ||
         type != REG_SZ)
         return defaultValue;
 
     // One spare character, so that an odd byte count still fits.
     std::vector<wchar_t> buffer(size / sizeof(wchar_t) + 1, L'\0');
     DWORD got = static_cast<DWORD>(buffer.size() * sizeof(wchar_t));
-    if (RegQueryValueExW(key.Get(), valueName.c_str(), nullptr, &type, reinterpret_cast<BYTE*>(buffer.data()),
+    if (RegQueryValueExW(key.get(), valueName.c_str(), nullptr, &type, reinterpret_cast<BYTE*>(buffer.data()),
                          &got) != ERROR_SUCCESS ||
         type != REG_SZ)
         return defaultValue;
@@ -55,14 +55,14 @@ std::wstring ReadRegistryString(const std::wstring& valueName, const std::wstrin
     return std::wstring(text);
 }
 
-void WriteRegistryString(const std::wstring& valueName, const std::wstring& value,
+void writeRegistryString(const std::wstring& valueName, const std::wstring& value,
                          const std::wstring& keyName) {
     OpenKey key;
     if (RegCreateKeyExW(HKEY_CURRENT_USER, keyName.c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE,
-                        KEY_SET_VALUE, nullptr, key.Out(), nullptr) != ERROR_SUCCESS)
+                        KEY_SET_VALUE, nullptr, key.out(), nullptr) != ERROR_SUCCESS)
         return;
     // The characters only, without a terminating zero.
-    RegSetValueExW(key.Get(), valueName.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(value.c_str()),
+    RegSetValueExW(key.get(), valueName.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(value.c_str()),
                    static_cast<DWORD>(value.size() * sizeof(wchar_t)));
 }
 

@@ -33,22 +33,22 @@ protected:
 // Written values come back exactly, in a later store too; the program's store
 // on Windows is this one.
 TEST_F(RegistryStoreTest, KeepsEveryTextExactly) {
-    EXPECT_NE(dynamic_cast<RegistryStore*>(OpenUserSettingsStore().get()), nullptr);
+    EXPECT_NE(dynamic_cast<RegistryStore*>(openUserSettingsStore().get()), nullptr);
     for (const QString& value : {QString(), u"  two  blanks  "_s, u"C:\\Users\\Zo\u00eb\\"_s,
                                  u"\u20ac\t%20"_s, QString(2000, u'x')}) {
-        Store().WriteValue(u"Name"_s, value);
-        Store().WriteValue(u"Other"_s, u"x"_s);
-        EXPECT_EQ(Store().ReadValue(u"Name"_s, u"default"_s), value) << value.size();
+        Store().writeValue(u"Name"_s, value);
+        Store().writeValue(u"Other"_s, u"x"_s);
+        EXPECT_EQ(Store().readValue(u"Name"_s, u"default"_s), value) << value.size();
     }
 }
 
 // A missing key or value gives the default, and reading creates nothing.
 TEST_F(RegistryStoreTest, AMissingKeyGivesTheDefaultAndStaysMissing) {
-    EXPECT_EQ(Store().ReadValue(u"OpenDir"_s, u"fallback"_s), u"fallback"_s);
-    EXPECT_FALSE(LoadSettings(Store()).reverse);
+    EXPECT_EQ(Store().readValue(u"OpenDir"_s, u"fallback"_s), u"fallback"_s);
+    EXPECT_FALSE(loadSettings(Store()).reverse);
     EXPECT_FALSE(KeyExists());
-    Store().WriteValue(u"Name"_s, u"Quillon"_s);
-    EXPECT_EQ(Store().ReadValue(u"Clantag"_s, u"fallback"_s), u"fallback"_s);
+    Store().writeValue(u"Name"_s, u"Quillon"_s);
+    EXPECT_EQ(Store().readValue(u"Clantag"_s, u"fallback"_s), u"fallback"_s);
 }
 
 // What other tools leave: a text with or without its terminating zero, flags
@@ -65,13 +65,13 @@ TEST_F(RegistryStoreTest, AFlagIsOnOnlyForTheText1) {
     };
     for (const auto& [bytes, read, flag] : texts) {
         SetRaw(REG_SZ, bytes.data(), static_cast<DWORD>(bytes.size() * sizeof(wchar_t)));
-        EXPECT_EQ(Store().ReadValue(u"Reverse"_s, u"default"_s), read) << read.toStdString();
-        EXPECT_EQ(LoadSettings(Store()).reverse, flag) << read.toStdString();
+        EXPECT_EQ(Store().readValue(u"Reverse"_s, u"default"_s), read) << read.toStdString();
+        EXPECT_EQ(loadSettings(Store()).reverse, flag) << read.toStdString();
     }
     const DWORD one = 1;
     SetRaw(REG_DWORD, &one, sizeof one);
-    EXPECT_EQ(Store().ReadValue(u"Reverse"_s, u"default"_s), u"default"_s);
-    EXPECT_FALSE(LoadSettings(Store()).reverse);
+    EXPECT_EQ(Store().readValue(u"Reverse"_s, u"default"_s), u"default"_s);
+    EXPECT_FALSE(loadSettings(Store()).reverse);
 }
 
 }  // namespace

@@ -22,18 +22,18 @@ TEST(QSettingsStore, KeepsEveryTextExactly) {
         u"@Variant(x)"_s, u"Zo\u00eb \u20ac\t%20"_s};
     {
         const QSettingsStore store(path);
-        EXPECT_EQ(store.ReadValue(u"Name"_s, u"fallback"_s), u"fallback"_s);
-        (void)LoadSettings(store);
+        EXPECT_EQ(store.readValue(u"Name"_s, u"fallback"_s), u"fallback"_s);
+        (void)loadSettings(store);
         EXPECT_FALSE(QFileInfo::exists(dir.filePath(u"sub"_s))) << "reading creates nothing";
     }
     for (const QString& value : values) {
-        QSettingsStore(path).WriteValue(u"Name"_s, value);
-        QSettingsStore(path).WriteValue(u"Other"_s, u"x"_s);
-        EXPECT_EQ(QSettingsStore(path).ReadValue(u"Name"_s, u"default"_s), value);
+        QSettingsStore(path).writeValue(u"Name"_s, value);
+        QSettingsStore(path).writeValue(u"Other"_s, u"x"_s);
+        EXPECT_EQ(QSettingsStore(path).readValue(u"Name"_s, u"default"_s), value);
     }
     // A value of another kind, such as a number, is none of ours.
     QSettings(path, QSettings::IniFormat).setValue(u"Reverse"_s, 1);
-    EXPECT_EQ(QSettingsStore(path).ReadValue(u"Reverse"_s, u"default"_s), u"default"_s);
+    EXPECT_EQ(QSettingsStore(path).readValue(u"Reverse"_s, u"default"_s), u"default"_s);
 }
 
 }  // namespace

@@ -12,12 +12,12 @@ namespace flickerscribe::settings {
 // the names written, in order.
 class MemorySettingsStore : public SettingsStore {
 public:
-    QString ReadValue(const QString& valueName, const QString& defaultValue = {}) const override {
+    QString readValue(const QString& valueName, const QString& defaultValue = {}) const override {
         const auto it = values_.constFind(valueName);
         return it == values_.constEnd() ? defaultValue : *it;
     }
 
-    void WriteValue(const QString& valueName, const QString& value) override {
+    void writeValue(const QString& valueName, const QString& value) override {
         values_.insert(valueName, value);
         writes_.append(valueName);
     }

@@ -58,32 +58,32 @@ public:
         return out;
     }
 
-    MsgAnswer Message(QWidget* parent, const QString& text, const QString& title, MsgIcon icon,
+    MsgAnswer message(QWidget* parent, const QString& text, const QString& title, MsgIcon icon,
                       MsgButtons buttons) override {
         calls_.push_back({DialogCall::Kind::Message, parent, title, text, icon, {}});
         if (buttons == MsgButtons::Ok && answers_.empty()) return MsgAnswer::Ok;
-        return Take(answers_, text, buttons == MsgButtons::YesNo ? MsgAnswer::No : MsgAnswer::Cancel);
+        return take(answers_, text, buttons == MsgButtons::YesNo ? MsgAnswer::No : MsgAnswer::Cancel);
     }
-    std::optional<QString> InputBox(QWidget* parent, const QString& prompt, const QString& title,
+    std::optional<QString> inputBox(QWidget* parent, const QString& prompt, const QString& title,
                                     const QString&) override {
         calls_.push_back({DialogCall::Kind::InputBox, parent, title, prompt, MsgIcon::None, {}});
-        return Take(inputs_, prompt, std::optional<QString>());
+        return take(inputs_, prompt, std::optional<QString>());
     }
-    bool ShowOpen(QWidget* parent, FileDialogState& state) override {
+    bool showOpen(QWidget* parent, FileDialogState& state) override {
         return AnswerFile(DialogCall::Kind::Open, parent, state, opens_);
     }
-    bool ShowSave(QWidget* parent, FileDialogState& state) override {
+    bool showSave(QWidget* parent, FileDialogState& state) override {
         return AnswerFile(DialogCall::Kind::Save, parent, state, saves_);
     }
-    QString BrowseForFolder(QWidget* parent, const QString& title) override {
+    QString browseForFolder(QWidget* parent, const QString& title) override {
         calls_.push_back({DialogCall::Kind::Folder, parent, title, {}, MsgIcon::None, {}});
-        return Take(folders_, title, QString());
+        return take(folders_, title, QString());
     }
-    void SetClipboardText(const QString& text) override {
+    void setClipboardText(const QString& text) override {
         calls_.push_back({DialogCall::Kind::SetClipboard, nullptr, {}, text, MsgIcon::None, {}});
         clipboard = text;
     }
-    std::optional<QString> ClipboardText() override {
+    std::optional<QString> clipboardText() override {
         calls_.push_back({DialogCall::Kind::GetClipboard, nullptr, {}, {}, MsgIcon::None, {}});
         return clipboardUnreadable ? std::nullopt : std::optional<QString>(clipboard);
     }
@@ -91,7 +91,7 @@ public:
 private:
     // The answer queued first, or `refusal` and a failed test when there is none.
     template <typename Answer>
-    static Answer Take(std::deque<Answer>& queue, const QString& about, Answer refusal) {
+    static Answer take(std::deque<Answer>& queue, const QString& about, Answer refusal) {
         if (queue.empty()) {
             ADD_FAILURE() << "nothing queued to answer: " << about.toStdString();
             return refusal;
@@ -103,7 +103,7 @@ private:
     bool AnswerFile(DialogCall::Kind kind, QWidget* parent, FileDialogState& state,
                     std::deque<std::optional<QString>>& queue) {
         calls_.push_back({kind, parent, state.title, {}, MsgIcon::None, state});
-        const std::optional<QString> path = Take(queue, state.title, std::optional<QString>());
+        const std::optional<QString> path = take(queue, state.title, std::optional<QString>());
         if (path) state.fileName = *path;
         return path.has_value();
     }

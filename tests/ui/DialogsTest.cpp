@@ -8,8 +8,8 @@
 #include "MainWindowFixture.h"
 #include "MemoryPane.h"
 #include "colour/Palette.h"
-#include "ui/dialogs/AboutDialog.h"
 #include "ui/common/QtDialogs.h"
+#include "ui/dialogs/AboutDialog.h"
 #include "ui/widgets/RichPane.h"
 #include "ui/wizard/WizardArt.h"
 
@@ -39,7 +39,7 @@ TEST_F(Dialog, OptionsShowTheStoreAndOkWritesAllSevenValues) {
     const QMap<QString, QString> stored = {{u"Name"_s, u"Quillon"_s},    {u"Clantag"_s, u"[QZT]"_s},
                                            {u"OpenDir"_s, u"/q/open"_s}, {u"SaveDir"_s, u"/q/save"_s},
                                            {u"Reverse"_s, u" 1"_s},      {u"EditItem"_s, u"1"_s}};
-    for (auto it = stored.begin(); it != stored.end(); ++it) store.WriteValue(it.key(), it.value());
+    for (auto it = stored.begin(); it != stored.end(); ++it) store.writeValue(it.key(), it.value());
     const auto written = store.Writes().size();
     Open(u"frmOptions"_s);
     const auto shown = [this] {
@@ -120,10 +120,10 @@ TEST_P(Painting, GivesThePaneAsCodedText) {
     EXPECT_TRUE(dialog->isVisible()) << "Enter in the pane presses no button";
     QTest::mouseClick(Child<QPushButton>(editor ? u"cmdClipboard"_s : u"cmdSave"_s), Qt::LeftButton);
     std::string lines;
-    for (const AnimationLine& line : Script().Lines())
+    for (const AnimationLine& line : script().Lines())
         lines += (lines.empty() ? "" : "|") + line.Text + "/" + line.Time;
     EXPECT_EQ(editor ? dialogs.clipboard.toStdString() : lines, c.result);
-    EXPECT_EQ(Script().SelectedIndex(), editor ? 2 : Script().Count() > 0 ? 1 : 0);
+    EXPECT_EQ(script().SelectedIndex(), editor ? 2 : script().Count() > 0 ? 1 : 0);
     EXPECT_EQ(dialogs.Calls().size(), editor ? 1u : 0u);
     QTest::keyClick(edit, Qt::Key_Escape);
     EXPECT_EQ(dialog->isVisible(), !editor) << "Escape would throw Simple Edit's pane away";
@@ -238,7 +238,7 @@ TEST(QtDialogs, TheRealFileDialogOpensAsAskedAndLeavesTheOverwriteQuestionToUs) 
             QTest::keyClick(name, Qt::Key_Return);
         });
         FileDialogState state{{}, u"Scripts (*.cfg);;All Files(*.*)"_s, asked.path(), {}};
-        EXPECT_TRUE(save ? QtDialogs().ShowSave(nullptr, state) : QtDialogs().ShowOpen(nullptr, state));
+        EXPECT_TRUE(save ? QtDialogs().showSave(nullptr, state) : QtDialogs().showOpen(nullptr, state));
         EXPECT_EQ(shown,
                   (save ? u"save "_s : u"open "_s) + asked.path() + u" Scripts (*.cfg)|All Files(*.*)"_s);
         EXPECT_EQ(QDir::fromNativeSeparators(state.fileName), asked.filePath(u"old.cfg"_s));
@@ -314,9 +314,9 @@ TEST(WizardArt, ThePicturesLookAsApproved) {
             .left(12)
             .toStdString();
     };
-    EXPECT_EQ(WizardSidePicture().deviceIndependentSize().toSize(), QSize(164, 313));
-    EXPECT_EQ(sum(WizardSidePicture()), "7a150c62383a");
-    EXPECT_EQ(sum(WizardBandPicture(2)) + " " + sum(WizardBandPicture(3)) + " " + sum(WizardBandPicture(4)),
+    EXPECT_EQ(wizardSidePicture().deviceIndependentSize().toSize(), QSize(164, 313));
+    EXPECT_EQ(sum(wizardSidePicture()), "7a150c62383a");
+    EXPECT_EQ(sum(wizardBandPicture(2)) + " " + sum(wizardBandPicture(3)) + " " + sum(wizardBandPicture(4)),
               "c2f8aedbf966 aede8fcd23bb d00dfeabc91f");
 }
 

@@ -41,7 +41,7 @@ protected:
     }
     // Triggers the enabled command `name` and notes it as given.
     void Give(const QString& name) {
-        ASSERT_TRUE(Named(name)->isEnabled()) << name.toStdString();
+        ASSERT_TRUE(named(name)->isEnabled()) << name.toStdString();
         given << name;
         Change([&] { Trigger(name); });
     }
@@ -49,17 +49,17 @@ protected:
     // selected line and the pane as they were and Ctrl+Y the change.
     void Change(const std::function<void()>& change) {
         using Seen = std::tuple<TextTimes, int, std::string>;
-        const Seen before{Lines(), Script().SelectedIndex(), PaneText()};
-        const int steps = window->History().UndoableSteps();
+        const Seen before{Lines(), script().SelectedIndex(), PaneText()};
+        const int steps = window->history().undoableSteps();
         change();
-        const Seen after{Lines(), Script().SelectedIndex(), PaneText()};
-        if (window->History().UndoableSteps() <= steps || !window->isVisible()) return;
+        const Seen after{Lines(), script().SelectedIndex(), PaneText()};
+        if (window->history().undoableSteps() <= steps || !window->isVisible()) return;
         window->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
         Key(Qt::Key_Z, Qt::ControlModifier);
-        EXPECT_EQ(Seen(Lines(), Script().SelectedIndex(), PaneText()), before);
+        EXPECT_EQ(Seen(Lines(), script().SelectedIndex(), PaneText()), before);
         Key(Qt::Key_Y, Qt::ControlModifier);
-        EXPECT_EQ(Seen(Lines(), Script().SelectedIndex(), PaneText()), after);
+        EXPECT_EQ(Seen(Lines(), script().SelectedIndex(), PaneText()), after);
     }
 
     QTimer closer;
@@ -76,8 +76,8 @@ TEST_F(EndToEnd, OneSessionGivesEveryCommand) {
     ASSERT_GT(offered.size(), 28);
 
     // The wizard makes the first animation: the settings' name with "Wave 2".
-    store.WriteValue(u"Name"_s, u"^1Kat^2ryn"_s);
-    window->LoadSettings();
+    store.writeValue(u"Name"_s, u"^1Kat^2ryn"_s);
+    window->loadSettings();
     Give(u"btnwizard"_s);
     QPointer<WizardDialog> wizard = window->findChild<WizardDialog*>();
     const auto click = [&](const QString& name) {
@@ -88,11 +88,11 @@ TEST_F(EndToEnd, OneSessionGivesEveryCommand) {
     click(u"cmdAddEffect"_s);
     Change([&] { click(u"cmdNext"_s); });
     ASSERT_TRUE(QTest::qWaitFor([&] { return wizard.isNull(); }));
-    ASSERT_GT(Script().Count(), 4);
+    ASSERT_GT(script().Count(), 4);
 
     // Play, and stop half way.
     Give(u"btnpreview"_s);
-    window->ShowNextFrame();
+    window->showNextFrame();
     Give(u"btnpreview"_s);
 
     // The line commands, the clipboard, and editing in the pane with the
@@ -102,19 +102,19 @@ TEST_F(EndToEnd, OneSessionGivesEveryCommand) {
                                 u"btncopylastx"_s, u"btncopyall"_s, u"btncopyallreverse"_s, u"btnremove"_s,
                                 u"mnuEditCopy"_s, u"mnuEditCut"_s, u"mnuEditPaste"_s, u"mnuEditShowColors"_s})
         Give(name);
-    Change([&] { QTest::keyClicks(window->PaneEdit(), u"abc"_s); });
+    Change([&] { QTest::keyClicks(window->paneEdit(), u"abc"_s); });
     Change([&] {
-        window->PreviewPane().SetSelStart(0);
-        window->PreviewPane().SetSelLength(2);
+        window->previewPane().SetSelStart(0);
+        window->previewPane().SetSelLength(2);
         QTest::mouseClick(window->findChild<QPushButton*>(u"cmdColor_3"_s), Qt::LeftButton);
     });
     Change([&] {  // the list's own editor
-        LineListView* list = window->LineList();
+        LineListView* list = window->lineList();
         list->edit(list->model()->index(0, 0));
         auto* editor = list->viewport()->findChild<QLineEdit*>();
         QTest::keyClicks(editor, u"^2x"_s);
         QTest::keyClick(editor, Qt::Key_Return);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return Script().LineAt(1).Text.ends_with("^2x"); }));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return script().LineAt(1).Text.ends_with("^2x"); }));
     });
     Give(u"mnuEditShowColors"_s);
     Give(u"btnedit"_s);
@@ -123,7 +123,7 @@ TEST_F(EndToEnd, OneSessionGivesEveryCommand) {
     // redo, reopen the kept animation.
     const QString fsq = PathOf(u"session.fsq"_s), cfg = PathOf(u"old.cfg"_s);
     WriteBytes(cfg, "set name \"^1Old\"\nwait 10\nset name \"^2Name\"\n");
-    const int lines = Script().Count();
+    const int lines = script().Count();
     dialogs.QueueSave(fsq);
     Give(u"mnuFileSaveAs"_s);
     dialogs.QueueSave(fsq);
@@ -136,23 +136,23 @@ TEST_F(EndToEnd, OneSessionGivesEveryCommand) {
         dialogs.QueueOpen(fsq);
         Give(name);
     }
-    EXPECT_EQ(Script().Count(), lines);
+    EXPECT_EQ(script().Count(), lines);
     dialogs.QueueOpen(cfg);
     Give(u"mnuFileImport"_s);
     EXPECT_EQ(Lines(), TextTimes({"^1Old/10", "^2Name/15"}));
     Give(u"mnuEditUndo"_s);
-    EXPECT_EQ(Script().Count(), lines);
+    EXPECT_EQ(script().Count(), lines);
     Give(u"mnuEditRedo"_s);
-    window->KeepAnimation();
+    window->keepAnimation();
     Give(u"btnnew"_s);
-    emit Named<QMenu>(u"mnuFile"_s)->aboutToShow();
+    emit named<QMenu>(u"mnuFile"_s)->aboutToShow();
     Give(u"mnuFileReopen"_s);
     EXPECT_EQ(Lines(), TextTimes{"earlier/15"}) << "the earlier run's";
-    emit Named<QMenu>(u"mnuFileKept"_s)->aboutToShow();
-    const QList<QAction*> kept = Named<QMenu>(u"mnuFileKept"_s)->actions();
+    emit named<QMenu>(u"mnuFileKept"_s)->aboutToShow();
+    const QList<QAction*> kept = named<QMenu>(u"mnuFileKept"_s)->actions();
     ASSERT_EQ(kept.size(), 2);
     Change([&] { kept.front()->trigger(); });
-    EXPECT_EQ(Script().Count(), 2) << "this run's, the newest";
+    EXPECT_EQ(script().Count(), 2) << "this run's, the newest";
 
     // Generate, saved from its window.
     Give(u"btngenerate"_s);

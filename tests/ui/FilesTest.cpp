@@ -29,7 +29,7 @@ public:
 
     ScriptWindow& GeneratedScript() {
         if (!scriptWindow)
-            scriptWindow = std::make_unique<ScriptWindow>(Script(), dialogs, window->Settings());
+            scriptWindow = std::make_unique<ScriptWindow>(script(), dialogs, window->Settings());
         return *scriptWindow;
     }
     // "Open", "SaveAs", "Import" or "SaveScript" (the script window's Save),
@@ -53,10 +53,10 @@ TEST_F(Files, EachDialogOpensInItsFolderAndCancelChangesNothing) {
          {std::pair{"Open", true}, std::pair{"SaveAs", true}, std::pair{"Import", false},
           std::pair{"SaveScript", true}}) {
         for (const QString& folder : {u"/set"_s, QString()}) {
-            store.WriteValue(u"OpenDir"_s, folder);
-            store.WriteValue(u"SaveDir"_s, folder);
-            window->LoadSettings();
-            (command == std::string("SaveScript") ? GeneratedScript().saveDialog() : window->FileDialog())
+            store.writeValue(u"OpenDir"_s, folder);
+            store.writeValue(u"SaveDir"_s, folder);
+            window->loadSettings();
+            (command == std::string("SaveScript") ? GeneratedScript().saveDialog() : window->fileDialog())
                 .initialFolder = u"/last"_s;
             Run(command, {std::nullopt});
             EXPECT_EQ(dialogs.Calls().back().state.initialFolder,
@@ -108,7 +108,7 @@ TEST_F(Files, UnreadableFilesAreNotFoundAndLongOnesCut) {
             bytes += command == std::string("Open") ? "n\r\n" : "set name n\r\n";
         WriteBytes(PathOf(u"long"_s), bytes);
         Run(command, {PathOf(u"long"_s)});
-        EXPECT_EQ(Script().Count(), kMaxLines);
+        EXPECT_EQ(script().Count(), kMaxLines);
         EXPECT_TRUE(dialogs.Asked().last().startsWith(u"Line limit reached"_s));
     }
 #ifdef _WIN32

@@ -19,7 +19,7 @@ QString State(Gestures& t, qsizetype writesBefore, qsizetype askedBefore) {
     if (auto* edit = dynamic_cast<EditTimeDialog*>(t.dialog.get()))
         state += edit->result() == QDialog::Accepted ? u" time "_s + edit->time() : u" no time"_s;
     if (!t.dialogs.clipboard.isEmpty()) state += u" copied "_s + t.dialogs.clipboard;
-    state += u" writes %1 lines %2"_s.arg(t.store.Writes().size() - writesBefore).arg(t.Script().Count());
+    state += u" writes %1 lines %2"_s.arg(t.store.Writes().size() - writesBefore).arg(t.script().Count());
     for (const QString& asked : t.dialogs.Asked().mid(askedBefore))
         state += u" asked "_s + asked.section(u" ["_s, 0, 0);
     return state;
@@ -65,7 +65,7 @@ TEST_F(Gestures, ALineBreakPastedIntoAOneLineBoxBecomesABlank) {
         for (const QString& lineBreak : {u"\r\n"_s, u"\r"_s, u"\n"_s}) {
             SCOPED_TRACE(std::string(owner) + " " + lineBreak.toStdString());
             QLineEdit* edit = nullptr;
-            LineListView* list = window->LineList();
+            LineListView* list = window->lineList();
             if (*box == '\0') {
                 Trigger(u"btnnew"_s);
                 Start({"old/15"});
@@ -85,7 +85,7 @@ TEST_F(Gestures, ALineBreakPastedIntoAOneLineBoxBecomesABlank) {
                 QTest::keyClick(edit, Qt::Key_Return);
                 // The list commits once the key has been handled.
                 ASSERT_TRUE(QTest::qWaitFor([&] { return editor.isNull(); }));
-                given = QString::fromStdString(Script().LineAt(1).Text);
+                given = QString::fromStdString(script().LineAt(1).Text);
             } else if (auto* time = dynamic_cast<EditTimeDialog*>(dialog.get())) {
                 QTest::keyClick(edit, Qt::Key_Return);
                 given = time->time();
@@ -119,7 +119,7 @@ TEST_F(Gestures, TypingAfterASelectionEditsOnlyTheSelectedLine) {
         Start(lines, 2);
         window->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
-        LineListView* list = window->LineList();
+        LineListView* list = window->lineList();
         QWidget* rows = list->viewport();
         const QPoint at = c.row < 4 ? Row(list, c.row) : QPoint(5, rows->height() - 3);
         const std::string gesture = c.gesture;
@@ -133,7 +133,7 @@ TEST_F(Gestures, TypingAfterASelectionEditsOnlyTheSelectedLine) {
         }
         if (gesture == "key") Key(Qt::Key(c.row));
         if (gesture == "remove") Trigger(u"btnremove"_s);
-        QTest::keyClicks(window->PaneEdit(), u"!"_s);
+        QTest::keyClicks(window->paneEdit(), u"!"_s);
 
         TextTimes expected = lines;
         if (gesture == "remove") expected.erase(expected.begin() + 1);
@@ -148,20 +148,20 @@ TEST_F(Gestures, TypingAfterASelectionEditsOnlyTheSelectedLine) {
 using Edges = MainWindowTest;
 
 TEST_F(Edges, InPlaceEditKeepsALongTextWholeAndWritesNothingUnchanged) {
-    store.WriteValue(u"EditItem"_s, u"1"_s);
+    store.writeValue(u"EditItem"_s, u"1"_s);
     MakeWindow();
     const std::string text(40000, 'x');
     Start({text + "/15", text + "/15"}, 1);
     window->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
-    LineListView* list = window->LineList();
+    LineListView* list = window->lineList();
     int writes = 0;
     QObject::connect(list->model(), &QAbstractItemModel::dataChanged, [&] { ++writes; });
     const auto editor = [list] { return list->viewport()->findChild<QLineEdit*>(); };
     // Line 1 is edited without a change, line 2 with one; a click on a line
     // not yet selected only selects it.
     for (const auto& [row, typed] : {std::pair{0, QString()}, std::pair{1, u"!"_s}, std::pair{1, u"!"_s}}) {
-        const bool selected = Script().SelectedIndex() == row + 1;
+        const bool selected = script().SelectedIndex() == row + 1;
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, Row(list, row));
         if (!selected) continue;
         ASSERT_TRUE(QTest::qWaitFor([&] { return editor() != nullptr; }));
@@ -176,9 +176,9 @@ TEST_F(Edges, InPlaceEditKeepsALongTextWholeAndWritesNothingUnchanged) {
 
 TEST_F(Edges, TabReachesTheColourStripAndSpaceColoursThePanesSelection) {
     Start({"abcd/15"});
-    window->ToggleColours();
+    window->toggleColours();
     Show();
-    QTextEdit* pane = window->PaneEdit();
+    QTextEdit* pane = window->paneEdit();
     pane->setFocus();
     for (const auto& [key, modifiers] :
          {std::pair{Qt::Key_Home, Qt::KeyboardModifiers()}, std::pair{Qt::Key_Right, Qt::KeyboardModifiers()},
@@ -188,17 +188,17 @@ TEST_F(Edges, TabReachesTheColourStripAndSpaceColoursThePanesSelection) {
     for (int tab = 0; tab < 3; ++tab) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     ASSERT_EQ(QApplication::focusWidget()->objectName(), u"cmdColor_1"_s);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    EXPECT_EQ(Script().LineAt(1).Text, "a^2bc^7d");
+    EXPECT_EQ(script().LineAt(1).Text, "a^2bc^7d");
     // Eight colours, standing right of the pane, which lines up with the list.
-    QWidget* strip = Named<QWidget>(u"picColors"_s);
+    QWidget* strip = named<QWidget>(u"picColors"_s);
     EXPECT_EQ(strip->findChildren<QPushButton*>().size(), 8);
     EXPECT_EQ(strip->x(), pane->geometry().right() + 1);
-    EXPECT_EQ(pane->x(), window->LineList()->x());
+    EXPECT_EQ(pane->x(), window->lineList()->x());
 }
 
 TEST_F(Edges, TheAddButtonsMenuIsOnTheAccessibilityTree) {
     auto* add =
-        qobject_cast<QToolButton*>(Named<QToolBar>(u"tlbMain"_s)->widgetForAction(Named(u"btnadd"_s)));
+        qobject_cast<QToolButton*>(named<QToolBar>(u"tlbMain"_s)->widgetForAction(named(u"btnadd"_s)));
     QAccessibleInterface* button = QAccessible::queryAccessibleInterface(add);
     ASSERT_EQ(button->childCount(), 1);
     QAccessibleInterface* menu = button->child(0);
@@ -211,7 +211,7 @@ TEST_F(Edges, TheAddButtonsMenuIsOnTheAccessibilityTree) {
               (QStringList{QAccessibleActionInterface::pressAction(),
                            QAccessibleActionInterface::showMenuAction()}));
     button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    EXPECT_EQ(Script().Count(), 1) << "a screen reader's Press adds a line";
+    EXPECT_EQ(script().Count(), 1) << "a screen reader's Press adds a line";
 }
 
 // Simple edit and the preview pane take a paste or a drop as plain text in the
@@ -232,13 +232,13 @@ TEST_F(Gestures, PasteAndDropArriveAsPlainText) {
     QMimeData dropped;
     dropped.setText(u"a\r\nb\nc"_s);
     dropped.setHtml(u"<p style=\"color:#ff0000\">a</p>"_s);
-    QWidget* viewport = window->PaneEdit()->viewport();
+    QWidget* viewport = window->paneEdit()->viewport();
     const QPoint at(viewport->width() - 2, viewport->height() / 2);
     QDragEnterEvent enter(at, Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(viewport, &enter);
     QDropEvent drop(at, Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(viewport, &drop);
-    EXPECT_EQ(Script().LineAt(1).Text, "^2onea b c");
+    EXPECT_EQ(script().LineAt(1).Text, "^2onea b c");
 }
 
 }  // namespace

@@ -30,15 +30,15 @@ public:
 TEST_F(History, TypingMergesUntilTheSelectionMovesOrACommandRuns) {
     Start(kABC, 1);
     Show();
-    QTest::keyClicks(window->PaneEdit(), u"12"_s);
+    QTest::keyClicks(window->paneEdit(), u"12"_s);
     Press(Qt::Key_Down, {});
-    QTest::keyClicks(window->PaneEdit(), u"3"_s);
-    QTest::keyClicks(window->PaneEdit(), u"4"_s);
+    QTest::keyClicks(window->paneEdit(), u"3"_s);
+    QTest::keyClicks(window->paneEdit(), u"4"_s);
     Press(Qt::Key_Up, {});
-    QTest::keyClicks(window->PaneEdit(), u"0"_s);
+    QTest::keyClicks(window->paneEdit(), u"0"_s);
     Press(Qt::Key_Down, {});
     Trigger(u"btncopylast"_s);
-    QTest::keyClicks(window->PaneEdit(), u"5"_s);
+    QTest::keyClicks(window->paneEdit(), u"5"_s);
     const TextTimes typed = {"A120/10", "B345/20", "C/30", "B34/20"};
     EXPECT_EQ(Lines(), typed);
     const TextTimes undone[] = {{"A120/10", "B34/20", "C/30", "B34/20"},
@@ -50,7 +50,7 @@ TEST_F(History, TypingMergesUntilTheSelectionMovesOrACommandRuns) {
         Press(Qt::Key_Z);
         EXPECT_EQ(Lines(), expected);
     }
-    EXPECT_FALSE(Named(u"mnuEditUndo"_s)->isEnabled());
+    EXPECT_FALSE(named(u"mnuEditUndo"_s)->isEnabled());
     Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(Lines(), undone[3]);
 }
@@ -66,14 +66,14 @@ TEST_F(History, NothingChangedIsNoStepAndPlaybackWaits) {
         if (QWidget* edit = QApplication::activeModalWidget()) edit->close();
     });
     Trigger(u"btnedit"_s);
-    EXPECT_EQ(window->History().UndoableSteps(), 0);
+    EXPECT_EQ(window->history().undoableSteps(), 0);
     Trigger(u"btnadd"_s);
     Trigger(u"btnpreview"_s);
-    EXPECT_FALSE(Named(u"mnuEditUndo"_s)->isEnabled());
+    EXPECT_FALSE(named(u"mnuEditUndo"_s)->isEnabled());
     Press(Qt::Key_Z);
-    EXPECT_EQ(Script().Count(), 4);
+    EXPECT_EQ(script().Count(), 4);
     Trigger(u"btnpreview"_s);
-    EXPECT_TRUE(Named(u"mnuEditUndo"_s)->isEnabled());
+    EXPECT_TRUE(named(u"mnuEditUndo"_s)->isEnabled());
 }
 
 // At most 100 steps, and at most 64 MB of kept lines: the oldest steps go.
@@ -81,50 +81,50 @@ TEST(AnimationHistoryLimits, TheOldestStepsGoFirst) {
     AnimationScript script;
     AnimationHistory history(script);
     ASSERT_TRUE(script.AppendLine("a", "15", "[none]"));
-    for (int i = 0; i <= AnimationHistory::kMaxSteps; ++i) history.SetText(u"Edit"_s, 1, std::to_string(i));
-    EXPECT_EQ(history.UndoableSteps(), AnimationHistory::kMaxSteps);
+    for (int i = 0; i <= AnimationHistory::kMaxSteps; ++i) history.setText(u"Edit"_s, 1, std::to_string(i));
+    EXPECT_EQ(history.undoableSteps(), AnimationHistory::kMaxSteps);
     // Texts of 1 MB: each step keeps 2 MB, and 64 MB hold 32 of them; a step
     // that goes lets go of both its texts.
-    for (int i = 0; i < 40; ++i) history.SetText(u"Edit"_s, 1, std::string(1 << 20, char('a' + i % 2)));
-    EXPECT_LE(history.KeptBytes(), AnimationHistory::kMaxBytes);
-    EXPECT_EQ(history.UndoableSteps(), 32);
+    for (int i = 0; i < 40; ++i) history.setText(u"Edit"_s, 1, std::string(1 << 20, char('a' + i % 2)));
+    EXPECT_LE(history.keptBytes(), AnimationHistory::kMaxBytes);
+    EXPECT_EQ(history.undoableSteps(), 32);
 
     // A full list of long texts, then none, twice: each step that empties the
     // list keeps 36 MB, and the second of them pushes out the first, and with
     // it every older step.
     const std::vector<AnimationLine> big(kMaxLines, AnimationLine{std::string(1000, 'x'), "15", "[none]"});
     for (int i = 0; i < 4; ++i) {
-        history.ReplaceLines(u"Replace"_s, [&](AnimationScript& s) {
+        history.replaceLines(u"Replace"_s, [&](AnimationScript& s) {
             s.ExchangeLines(i % 2 == 0 ? big : std::vector<AnimationLine>{}, 1);
         });
     }
-    EXPECT_LE(history.KeptBytes(), AnimationHistory::kMaxBytes);
-    EXPECT_EQ(history.UndoableSteps(), 2);
-    history.Undo();
-    history.Undo();
-    EXPECT_FALSE(history.CanUndo());
+    EXPECT_LE(history.keptBytes(), AnimationHistory::kMaxBytes);
+    EXPECT_EQ(history.undoableSteps(), 2);
+    history.undo();
+    history.undo();
+    EXPECT_FALSE(history.canUndo());
     EXPECT_EQ(script.Count(), 0) << "back to the list after the second replacement";
-    history.Redo();
+    history.redo();
     EXPECT_EQ(script.Count(), kMaxLines);
 
     // A step larger than the whole cap stays while it is the newest: New over
     // a huge list can be taken back.
     const std::vector<AnimationLine> huge(kMaxLines, AnimationLine{std::string(2100, 'h'), "15", "[none]"});
-    history.ReplaceLines(u"Open"_s, [&](AnimationScript& s) { s.ExchangeLines(huge, 1); });
-    history.ReplaceLines(u"New"_s, [](AnimationScript& s) { s.ClearLines(); });
-    ASSERT_TRUE(history.CanUndo());
-    history.Undo();
+    history.replaceLines(u"Open"_s, [&](AnimationScript& s) { s.ExchangeLines(huge, 1); });
+    history.replaceLines(u"New"_s, [](AnimationScript& s) { s.ClearLines(); });
+    ASSERT_TRUE(history.canUndo());
+    history.undo();
     EXPECT_EQ(script.Count(), kMaxLines);
-    history.Redo();
+    history.redo();
     EXPECT_EQ(script.Count(), 0);
 
     // A removed line is kept whole, its time too.
     AnimationScript one;
     AnimationHistory kept(one);
     ASSERT_TRUE(one.AppendLine("a", std::string(1 << 20, '1'), "[none]"));
-    kept.RemoveLine(u"Remove"_s, 1);
-    EXPECT_GE(kept.KeptBytes(), std::size_t{1} << 20);
-    EXPECT_LT(kept.KeptBytes(), std::size_t{2} << 20);
+    kept.removeLine(u"Remove"_s, 1);
+    EXPECT_GE(kept.keptBytes(), std::size_t{1} << 20);
+    EXPECT_LT(kept.keptBytes(), std::size_t{2} << 20);
 }
 
 // --- the animations kept
@@ -146,15 +146,15 @@ TEST_F(History, EachRunKeepsItsOwnAnimationAndALaterRunGetsThemBack) {
     // kept animations.
     MakeWindow();
     auto other = std::make_unique<MainWindow>(dialogs, store, keptFolder);
-    EXPECT_EQ(Script().Count(), 0) << "the program starts empty";
+    EXPECT_EQ(script().Count(), 0) << "the program starts empty";
     WriteBytes(PathOf(u"kept/kept-garbage.fsq"_s), "\x01\x02 no animation");
     WriteBytes(PathOf(u"kept/kept-cut.fsq"_s), "#v050#\r\nA\r\n15\r\n[none]\r\nB\r\n15\r\n");
-    other->Script().AppendLine("^1Two & more", "15", "[none]");
-    other->Script().AppendLine("x", "15", "[none]");
-    other->History().SetTime(u"Edit time"_s, 1, "20");
+    other->script().AppendLine("^1Two & more", "15", "[none]");
+    other->script().AppendLine("x", "15", "[none]");
+    other->history().setTime(u"Edit time"_s, 1, "20");
     other->close();
-    emit Named<QMenu>(u"mnuFile"_s)->aboutToShow();  // which readies Reopen
-    ASSERT_TRUE(Named(u"mnuFileReopen"_s)->isEnabled());
+    emit named<QMenu>(u"mnuFile"_s)->aboutToShow();  // which readies Reopen
+    ASSERT_TRUE(named(u"mnuFileReopen"_s)->isEnabled());
     Trigger(u"mnuFileReopen"_s);
     EXPECT_EQ(Lines(), TextTimes({"^1Two & more/20", "x/15"})) << "the newest, the other program's";
     window->close();
@@ -162,14 +162,14 @@ TEST_F(History, EachRunKeepsItsOwnAnimationAndALaterRunGetsThemBack) {
 
     MakeWindow();
     Show();
-    emit Named<QMenu>(u"mnuFile"_s)->aboutToShow();
-    emit Named<QMenu>(u"mnuFileKept"_s)->aboutToShow();
+    emit named<QMenu>(u"mnuFile"_s)->aboutToShow();
+    emit named<QMenu>(u"mnuFileKept"_s)->aboutToShow();
     QStringList captions;
-    for (QAction* entry : Named<QMenu>(u"mnuFileKept"_s)->actions())
+    for (QAction* entry : named<QMenu>(u"mnuFileKept"_s)->actions())
         captions << entry->text().section(u" - "_s, 1);
     EXPECT_EQ(captions,
               (QStringList{u"2 lines - Two && more"_s, u"2 lines - Two && more"_s, u"1 line - Text"_s}));
-    Named<QMenu>(u"mnuFileKept"_s)->actions().back()->trigger();
+    named<QMenu>(u"mnuFileKept"_s)->actions().back()->trigger();
     EXPECT_EQ(Lines(), TextTimes{"Text/15"});
     EXPECT_TRUE(dialogs.Asked().empty());
 }
@@ -177,7 +177,7 @@ TEST_F(History, EachRunKeepsItsOwnAnimationAndALaterRunGetsThemBack) {
 // Work that goes on without a pause is kept all the same, at most the
 // timer's interval after the first change the file doesn't hold.
 TEST_F(History, WorkWithoutAPauseIsKeptInTime) {
-    Named<QTimer>(u"timKeep"_s)->setInterval(100);
+    named<QTimer>(u"timKeep"_s)->setInterval(100);
     Start({"a/15"});
     int changes = 0;
     EXPECT_TRUE(QTest::qWaitFor(
@@ -199,7 +199,7 @@ TEST_F(History, TheFolderHoldsTheLastTenRuns) {
         SetAge(path, 100 - run);
     }
     Trigger(u"btnadd"_s);
-    window->KeepAnimation();
+    window->keepAnimation();
     const QStringList files = KeptFiles();
     ASSERT_EQ(files.size(), 10);
     EXPECT_TRUE(files.front().contains(u"kept-2"_s)) << "this run's, named by its date";
@@ -212,7 +212,7 @@ TEST_F(History, AKeptFileThatCantBeWrittenIsSaidAndTriedAgain) {
     WriteBytes(keptFolder, "a file where the folder should be");
     MakeWindow();
     Show();
-    Named<QTimer>(u"timKeep"_s)->setInterval(50);
+    named<QTimer>(u"timKeep"_s)->setInterval(50);
     Trigger(u"btnadd"_s);
     auto* problem = window->findChild<QLabel*>(u"lblKeepProblem"_s);
     ASSERT_TRUE(QTest::qWaitFor([&] { return problem = window->findChild<QLabel*>(u"lblKeepProblem"_s); }));
@@ -242,7 +242,7 @@ TEST_F(History, ASignalToEndKeepsTheAnimation) {
 #else
     for (const int signal : {SIGTERM, SIGHUP}) {
         MakeWindow();
-        EndOnTerminationSignals(window.get(), [this] { window->Exit(); });
+        endOnTerminationSignals(window.get(), [this] { window->exit(); });
         Show();
         Trigger(u"btnadd"_s);
         const qsizetype before = KeptFiles().size();

@@ -16,10 +16,10 @@
 #include "ui/dialogs/ColourNameEditor.h"
 #include "ui/dialogs/EditTimeDialog.h"
 #include "ui/dialogs/HelpDialog.h"
-#include "ui/widgets/LineListView.h"
-#include "ui/main/MainWindow.h"
 #include "ui/dialogs/OptionsDialog.h"
 #include "ui/dialogs/SimpleEditWindow.h"
+#include "ui/main/MainWindow.h"
+#include "ui/widgets/LineListView.h"
 #include "ui/wizard/WizardDialog.h"
 
 // Failed checks show texts as text.
@@ -67,19 +67,19 @@ public:
         window.reset();
         window = std::make_unique<MainWindow>(dialogs, store, keptFolder);
     }
-    AnimationScript& Script() { return window->Script(); }
+    AnimationScript& script() { return window->script(); }
 
     // Puts the lines into the list, not as a command, and selects one.
     void Start(const TextTimes& lines, int selected = 1) {
         for (const std::string& line : lines) {
             const auto slash = line.find('/');
-            ASSERT_TRUE(Script().AppendLine(line.substr(0, slash), line.substr(slash + 1), "[none]"));
+            ASSERT_TRUE(script().AppendLine(line.substr(0, slash), line.substr(slash + 1), "[none]"));
         }
-        Script().SelectLine(selected);
+        script().SelectLine(selected);
     }
     TextTimes Lines() {
         TextTimes out;
-        for (const AnimationLine& line : Script().Lines()) {
+        for (const AnimationLine& line : script().Lines()) {
             EXPECT_EQ(line.Action, "[none]");
             out.push_back(line.Text + "/" + line.Time);
         }
@@ -87,14 +87,14 @@ public:
     }
 
     template <class T = QAction>
-    T* Named(const QString& name) const {
+    T* named(const QString& name) const {
         T* found = window->findChild<T*>(name);
         EXPECT_NE(found, nullptr) << name.toStdString();
         return found;
     }
-    void Trigger(const QString& name) { Named(name)->trigger(); }
+    void Trigger(const QString& name) { named(name)->trigger(); }
 
-    std::string PaneText() { return window->PreviewPane().Text(); }
+    std::string PaneText() { return window->previewPane().Text(); }
 
     // The window on screen and active, so that its shortcuts work.
     void Show() {
@@ -104,7 +104,7 @@ public:
     }
     // A key pressed in the list.
     void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-        QTest::keyClick(window->LineList(), key, modifiers);
+        QTest::keyClick(window->lineList(), key, modifiers);
     }
     QString PathOf(const QString& name) const { return folder.filePath(name); }
 
@@ -131,7 +131,7 @@ public:
     }
     QDialog& Open(const QString& name) {
         if (name == u"frmWizard"_s) {
-            dialog = std::make_unique<WizardDialog>(window->History(), dialogs, window->Settings());
+            dialog = std::make_unique<WizardDialog>(window->history(), dialogs, window->Settings());
         } else if (name == u"frmEdit"_s) {
             dialog = std::make_unique<EditTimeDialog>();
         } else if (name == u"frmOptions"_s) {
@@ -141,7 +141,7 @@ public:
         } else if (name == u"frmColorEditor"_s) {
             dialog = std::make_unique<ColourNameEditor>(dialogs);
         } else {
-            dialog = std::make_unique<SimpleEditWindow>(window->History(), dialogs);
+            dialog = std::make_unique<SimpleEditWindow>(window->history(), dialogs);
         }
         dialog->show();
         return *dialog;

@@ -11,11 +11,11 @@ using MainWindowCase = MainWindowTest;
 // It starts empty, and with nothing to save, undo or reopen.
 TEST_F(MainWindowCase, StartsEmpty) {
     EXPECT_EQ(PaneText(), "Preview");
-    EXPECT_TRUE(window->PreviewPane().Locked());
-    EXPECT_FALSE(Named<QWidget>(u"picColors"_s)->isVisibleTo(window.get()));
+    EXPECT_TRUE(window->previewPane().Locked());
+    EXPECT_FALSE(named<QWidget>(u"picColors"_s)->isVisibleTo(window.get()));
     EXPECT_TRUE(store.Writes().isEmpty());
     for (const QString& off : {u"mnuFileSave"_s, u"mnuFileReopen"_s, u"mnuEditUndo"_s, u"mnuEditRedo"_s})
-        EXPECT_FALSE(Named(off)->isEnabled()) << off.toStdString();
+        EXPECT_FALSE(named(off)->isEnabled()) << off.toStdString();
 }
 
 // --- the commands over lines, the clipboard and the list's keys. A, B, C with the times 10, 20, 30, B
@@ -71,29 +71,29 @@ class Command : public MainWindowTest, public testing::WithParamInterface<Comman
 TEST_P(Command, ChangesTheList) {
     const CommandCase& c = GetParam();
     Start(c.start, c.selected);
-    QAbstractItemModelTester model(window->LineList()->model(),
+    QAbstractItemModelTester model(window->lineList()->model(),
                                    QAbstractItemModelTester::FailureReportingMode::Fatal);
     dialogs.clipboard = u"before"_s;
-    window->SetPreviewBusy(true);
-    RenderCodedText("marker", window->PreviewPane());
-    window->SetPreviewBusy(false);
+    window->setPreviewBusy(true);
+    RenderCodedText("marker", window->previewPane());
+    window->setPreviewBusy(false);
     const auto shown = [this] {
-        return Script().Count() ? Script().LineAt(Script().SelectedIndex()).Text : "Preview";
+        return script().Count() ? script().LineAt(script().SelectedIndex()).Text : "Preview";
     };
     const std::string before = shown();
     c.run(*this);
     EXPECT_EQ(Lines(), c.expected);
-    EXPECT_EQ(Script().SelectedIndex(), c.selectedAfter);
-    EXPECT_EQ(window->LineList()->currentIndex().row(), c.selectedAfter - 1);
+    EXPECT_EQ(script().SelectedIndex(), c.selectedAfter);
+    EXPECT_EQ(window->lineList()->currentIndex().row(), c.selectedAfter - 1);
     // Paste and a key in the list redraw the pane in any case.
     const bool redrawn = std::string(c.name).starts_with("Paste") || std::string(c.name).starts_with("Key");
-    std::string plain = Script().Count() ? "" : "Preview";
-    for (const ColouredRun& run : RenderRuns(shown())) plain += Script().Count() ? run.text : "";
+    std::string plain = script().Count() ? "" : "Preview";
+    for (const ColouredRun& run : RenderRuns(shown())) plain += script().Count() ? run.text : "";
     EXPECT_EQ(PaneText(), shown() == before && !redrawn ? "marker" : plain);
     EXPECT_EQ(dialogs.Asked().join(u'|').toStdString(), c.asked);
     EXPECT_EQ(dialogs.clipboard.toStdString(), c.clipboard);
     // What each step takes back and does again, the end-to-end session checks.
-    EXPECT_EQ(Named(u"mnuEditUndo"_s)->isEnabled(), c.expected != c.start) << "a step only for a change";
+    EXPECT_EQ(named(u"mnuEditUndo"_s)->isEnabled(), c.expected != c.start) << "a step only for a change";
 }
 
 TextTimes WithCopiesOfB(std::size_t copies) {
@@ -160,7 +160,7 @@ TEST_F(MainWindowCase, AddingStopsAtTheLineLimitWithOneMessage) {
         Start(TextTimes(std::size_t(before), "x/15"), before);
         const auto asked = dialogs.Asked().size();
         run(*this);
-        EXPECT_EQ(Script().Count(), kMaxLines);
+        EXPECT_EQ(script().Count(), kMaxLines);
         EXPECT_EQ(
             dialogs.Asked().mid(asked).join(u'|').toStdString(),
             "Line limit reached [warning]: An animation holds at most 32767 lines. The lines up to that "
@@ -198,19 +198,19 @@ TEST_F(MainWindowCase, EditsInThePaneReachTheLineInNormalForm) {
     for (const auto& c : cases) {
         MakeWindow();
         Start({std::string(c.before) + "/30", "other/20"}, 1);
-        Pane& pane = window->PreviewPane();
+        Pane& pane = window->previewPane();
         if (c.start >= 0) {
             pane.SetSelStart(c.start);
             pane.SetSelLength(c.length);
         }
         const int caret = pane.SelStart();
         if (c.button >= 0) {
-            window->ToggleColours();
-            QTest::mouseClick(Named<QPushButton>(u"cmdColor_%1"_s.arg(c.button)), Qt::LeftButton);
+            window->toggleColours();
+            QTest::mouseClick(named<QPushButton>(u"cmdColor_%1"_s.arg(c.button)), Qt::LeftButton);
             EXPECT_EQ(pane.SelLength(), 0);
         }
         const auto length = PaneText().size();
-        QTest::keyClicks(window->PaneEdit(), QString::fromLatin1(c.typed));
+        QTest::keyClicks(window->paneEdit(), QString::fromLatin1(c.typed));
         EXPECT_EQ(Lines(), TextTimes({std::string(c.after) + "/30", "other/20"}))
             << c.before << " " << c.typed;
         EXPECT_EQ(pane.SelStart(), caret + int(PaneText().size()) - int(length));
@@ -223,14 +223,14 @@ TEST_F(MainWindowCase, CtrlLeavesThePaneAndItsShortcutsWorkOnLines) {
     Start({"line/15"}, 1);
     Show();
     for (Qt::Key key : {Qt::Key_Shift, Qt::Key_Q, Qt::Key_Control}) {
-        window->PaneEdit()->setFocus();
-        QTest::keyPress(window->PaneEdit(), key);
-        EXPECT_EQ(QApplication::focusWidget() == window->LineList(), key == Qt::Key_Control) << key;
+        window->paneEdit()->setFocus();
+        QTest::keyPress(window->paneEdit(), key);
+        EXPECT_EQ(QApplication::focusWidget() == window->lineList(), key == Qt::Key_Control) << key;
         QTest::keyRelease(QApplication::focusWidget(), key);
     }
-    window->PaneEdit()->setFocus();
-    QTest::keyClick(window->PaneEdit(), Qt::Key_C, Qt::ControlModifier);
-    QTest::keyClick(window->PaneEdit(), Qt::Key_V, Qt::ControlModifier);
+    window->paneEdit()->setFocus();
+    QTest::keyClick(window->paneEdit(), Qt::Key_C, Qt::ControlModifier);
+    QTest::keyClick(window->paneEdit(), Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(Lines(), TextTimes({"lineq/15", "lineq/15"}));
     EXPECT_EQ(PaneText(), "lineq") << "not the pane's own copy and paste";
 }
@@ -239,9 +239,9 @@ TEST_F(MainWindowCase, CtrlLeavesThePaneAndItsShortcutsWorkOnLines) {
 
 TEST_F(MainWindowCase, TheEditItemSettingDecidesWhetherALineCanBeEditedInPlace) {
     for (const char* stored : {"1", "true", "0"}) {
-        store.WriteValue(u"EditItem"_s, QString::fromLatin1(stored));
-        window->LoadSettings();
-        EXPECT_EQ(window->LineList()->editTriggers(), stored == std::string("1")
+        store.writeValue(u"EditItem"_s, QString::fromLatin1(stored));
+        window->loadSettings();
+        EXPECT_EQ(window->lineList()->editTriggers(), stored == std::string("1")
                                                           ? QAbstractItemView::SelectedClicked
                                                           : QAbstractItemView::NoEditTriggers);
     }
@@ -251,48 +251,48 @@ TEST_F(MainWindowCase, TheEditItemSettingDecidesWhetherALineCanBeEditedInPlace) 
 
 TEST_F(MainWindowCase, PlaybackShowsEachLineOnceAndAStopForgetsThePlace) {
     Start({"^1one/5", "two/99", "three/15"}, 2);
-    auto* timer = Named<QTimer>(u"timAni"_s);
-    QAction* play = Named(u"btnpreview"_s);
+    auto* timer = named<QTimer>(u"timAni"_s);
+    QAction* play = named(u"btnpreview"_s);
     play->trigger();
     EXPECT_EQ(timer->interval(), 100);
     EXPECT_EQ(play->text(), u"Stop"_s);
-    EXPECT_FALSE(Named(u"btnadd"_s)->isEnabled() || Named(u"btnremove"_s)->isEnabled());
+    EXPECT_FALSE(named(u"btnadd"_s)->isEnabled() || named(u"btnremove"_s)->isEnabled());
     EXPECT_EQ(PaneText(), "two") << "nothing before the first tick";
-    QTest::keyClicks(window->PaneEdit(), u"x"_s);
+    QTest::keyClicks(window->paneEdit(), u"x"_s);
     for (const char* frame : {"^1one", "two"}) {
-        window->ShowNextFrame();
-        EXPECT_EQ(window->PreviewPane().Runs(), RenderRuns(frame));
+        window->showNextFrame();
+        EXPECT_EQ(window->previewPane().Runs(), RenderRuns(frame));
     }
-    window->ShowClickedLine(1);
+    window->showClickedLine(1);
     EXPECT_EQ(PaneText(), "one") << "a click shows its line until the next tick";
-    window->ShowNextFrame();
+    window->showNextFrame();
     EXPECT_EQ(PaneText(), "three") << "the last frame stays";
     EXPECT_FALSE(timer->isActive());
     EXPECT_EQ(play->text(), u"Play"_s);
-    EXPECT_TRUE(Named(u"btnadd"_s)->isEnabled() && Named(u"btnremove"_s)->isEnabled());
+    EXPECT_TRUE(named(u"btnadd"_s)->isEnabled() && named(u"btnremove"_s)->isEnabled());
     EXPECT_EQ(Lines(), TextTimes({"^1one/5", "two/99", "three/15"})) << "playback changes no line";
-    EXPECT_EQ(Script().SelectedIndex(), 1);
+    EXPECT_EQ(script().SelectedIndex(), 1);
 
     // A stop forgets the place; an emptied list ends playback.
-    window->TogglePlayback();
-    window->ShowNextFrame();
-    window->ShowNextFrame();
-    window->TogglePlayback();
+    window->togglePlayback();
+    window->showNextFrame();
+    window->showNextFrame();
+    window->togglePlayback();
     EXPECT_EQ(PaneText(), "two") << "a stop draws nothing";
-    window->TogglePlayback();
-    window->ShowNextFrame();
+    window->togglePlayback();
+    window->showNextFrame();
     EXPECT_EQ(PaneText(), "one") << "the next Play starts again";
     Trigger(u"btnnew"_s);
-    window->ShowNextFrame();
-    EXPECT_FALSE(window->Playing());
+    window->showNextFrame();
+    EXPECT_FALSE(window->playing());
     EXPECT_TRUE(dialogs.Calls().empty());
     dialogs.QueueMessageAnswer(MsgAnswer::Cancel);
     Trigger(u"btnpreview"_s);
     EXPECT_EQ(dialogs.Asked().join(u'|'), u"Preview Animation [warning]: There is no animation to play!"_s);
-    EXPECT_FALSE(window->Playing());
+    EXPECT_FALSE(window->playing());
     Start({"^2only/15"});
     Trigger(u"btnpreview"_s);
-    window->ShowNextFrame();
+    window->showNextFrame();
     EXPECT_EQ(PaneText(), "only") << "a single line plays too";
 }
 
@@ -307,28 +307,28 @@ TEST_F(MainWindowCase, AfterPlaybackThePaneEditsTheSelectedLineNotTheFrame) {
             const std::string shown = std::string(gesture) + (stopped ? " after Stop" : " at the end");
             Trigger(u"btnnew"_s);
             Start({"one/15", "two/15", "^3three/15"}, 2);
-            window->PaneEdit()->setFocus();
+            window->paneEdit()->setFocus();
             Trigger(u"btnpreview"_s);
-            window->ShowNextFrame();
+            window->showNextFrame();
             if (stopped) {
                 Trigger(u"btnpreview"_s);
             } else {
-                window->ShowNextFrame();
-                window->ShowNextFrame();
+                window->showNextFrame();
+                window->showNextFrame();
             }
-            ASSERT_FALSE(window->Playing()) << shown;
+            ASSERT_FALSE(window->playing()) << shown;
             EXPECT_EQ(PaneText(), stopped ? "one" : "three") << shown << ": the frame stays";
             if (gesture == std::string("click")) {
-                QTest::mouseClick(window->PaneEdit()->viewport(), Qt::LeftButton);
+                QTest::mouseClick(window->paneEdit()->viewport(), Qt::LeftButton);
             } else if (gesture == std::string("colour")) {
-                window->PreviewPane().SetSelStart(0);
-                window->PreviewPane().SetSelLength(2);
-                QTest::mouseClick(Named<QPushButton>(u"cmdColor_0"_s), Qt::LeftButton);
+                window->previewPane().SetSelStart(0);
+                window->previewPane().SetSelLength(2);
+                QTest::mouseClick(named<QPushButton>(u"cmdColor_0"_s), Qt::LeftButton);
                 EXPECT_EQ(Lines()[1], "two/15") << shown;
-                window->PaneEdit()->setFocus();
+                window->paneEdit()->setFocus();
             }
-            QTest::keyClicks(window->PaneEdit(), u"x"_s);
-            std::string text = Script().LineAt(2).Text;
+            QTest::keyClicks(window->paneEdit(), u"x"_s);
+            std::string text = script().LineAt(2).Text;
             EXPECT_EQ(text.size(), 4u) << shown << ": " << text;
             EXPECT_EQ(std::erase(text, 'x'), 1u) << shown;
             EXPECT_EQ(text, "two") << shown;

@@ -23,7 +23,7 @@ TEST_F(PictureExport, SaysWhatStopsIt) {
     }
     // The system's own error number and text, as any save of that path gets.
     const SaveError missing =
-        WriteFileSafely(NativePath(PathOf(u"missing/x.gif"_s)), "").value_or(SaveError{});
+        WriteFileSafely(nativePath(PathOf(u"missing/x.gif"_s)), "").value_or(SaveError{});
     EXPECT_EQ(dialogs.Asked(),
               (QStringList{u"Export animated picture [warning]: There is no animation to export!"_s,
                            u"save Export animated picture"_s, u"save Export animated picture"_s,
@@ -34,15 +34,15 @@ TEST_F(PictureExport, SaysWhatStopsIt) {
 // The README's example: the save dialog opens in the settings' save folder,
 // and the file holds what flickerscribe-cli picture writes.
 TEST_F(PictureExport, WritesTheBytesOfTheCommandLine) {
-    store.WriteValue(u"SaveDir"_s, folder.path());
-    window->LoadSettings();
-    RunEffectList(Script(), "Quillon", "^4[QZT]", false, {{"Wave 2"}, {"Bounce", "1"}}, {});
+    store.writeValue(u"SaveDir"_s, folder.path());
+    window->loadSettings();
+    RunEffectList(script(), "Quillon", "^4[QZT]", false, {{"Wave 2"}, {"Bounce", "1"}}, {});
     dialogs.QueueSave(PathOf(u"window.gif"_s));
     Show();
     Key(Qt::Key_E, Qt::ControlModifier);
     EXPECT_EQ(dialogs.Calls().back().state.initialFolder, folder.path());
 
-    ASSERT_FALSE(SaveAnimationFile(PathOf(u"example.fsq"_s).toStdString(), Script()));
+    ASSERT_FALSE(SaveAnimationFile(PathOf(u"example.fsq"_s).toStdString(), script()));
     QProcess cli;
     cli.start(QString::fromUtf8(FS_CLI_PATH),
               {u"picture"_s, u"--output"_s, PathOf(u"cli.gif"_s), PathOf(u"example.fsq"_s)});
@@ -54,7 +54,7 @@ TEST_F(PictureExport, WritesTheBytesOfTheCommandLine) {
 // Cancel half way writes nothing: no file, or the old one whole.
 TEST_F(PictureExport, CancelHalfWayLeavesTheFileAsItWas) {
     for (int i = 0; i < 16000; ++i)  // distinct frames, well over half a second (2 s here)
-        Script().AppendLine("^" + std::to_string(1 + i % 8) + std::to_string(i) +
+        script().AppendLine("^" + std::to_string(1 + i % 8) + std::to_string(i) +
                                 " Quillon of the Flickerscribe clan, the fastest of them all",
                             "15", "[none]");
     const QString path = PathOf(u"cancelled.gif"_s);

@@ -8,10 +8,10 @@ namespace {
 class WizardTest : public DialogTest {
 public:
     void OpenWith(const QString& name, const QString& tag, bool reverse) {
-        store.WriteValue(u"Name"_s, name);
-        store.WriteValue(u"Clantag"_s, tag);
-        store.WriteValue(u"Reverse"_s, reverse ? u"1"_s : u"0"_s);
-        window->LoadSettings();
+        store.writeValue(u"Name"_s, name);
+        store.writeValue(u"Clantag"_s, tag);
+        store.writeValue(u"Reverse"_s, reverse ? u"1"_s : u"0"_s);
+        window->loadSettings();
         Open(u"frmWizard"_s);
     }
     void Click(const QString& name) { QTest::mouseClick(Child<QPushButton>(name), Qt::LeftButton); }
@@ -43,7 +43,7 @@ public:
     }
     std::string Texts() {
         std::string texts;
-        for (const AnimationLine& line : Script().Lines()) texts += line.Text + " ";
+        for (const AnimationLine& line : script().Lines()) texts += line.Text + " ";
         return texts;
     }
 };
@@ -186,7 +186,7 @@ TEST_F(WizardTest, QuestionsAndLimitsOfARun) {
         EXPECT_TRUE(dialogs.Asked().last().startsWith(QString::fromLatin1(asked)))
             << dialogs.Asked().last().toStdString();
         EXPECT_EQ(dialogs.Calls().back().parent, dialog.get());
-        EXPECT_EQ(Script().Count(), lines);
+        EXPECT_EQ(script().Count(), lines);
         EXPECT_FALSE(dialog->isVisible());
     }
 }

@@ -1,12 +1,12 @@
 // The core's files on Windows: wide-character names (never the ANSI code
 // page), a save that flushes a file beside the target and moves it into place
 // in one step, and reads that take only what the caller accepts.
-#include "document/platform/Files.h"
-
 #include <windows.h>
 
 #include <algorithm>
 #include <cstdio>
+
+#include "document/platform/Files.h"
 
 namespace flickerscribe::platform {
 namespace {

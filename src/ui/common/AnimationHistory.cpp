@@ -7,7 +7,7 @@
 namespace flickerscribe::ui {
 namespace {
 
-std::size_t BytesOf(const AnimationLine& line) {
+std::size_t bytesOf(const AnimationLine& line) {
     return sizeof(AnimationLine) + line.Text.size() + line.Time.size() + line.Action.size();
 }
 
@@ -32,7 +32,7 @@ public:
         }
     }
 
-    std::vector<AnimationLine> Unpack() const {
+    std::vector<AnimationLine> unpack() const {
         std::vector<AnimationLine> lines(ends_.size() / 3);
         std::size_t start = 0;
         std::size_t field = 0;
@@ -53,7 +53,7 @@ public:
         return *this;
     }
 
-    std::size_t Bytes() const { return bytes_.capacity() + ends_.capacity() * sizeof(std::size_t); }
+    std::size_t bytes() const { return bytes_.capacity() + ends_.capacity() * sizeof(std::size_t); }
 
 private:
     std::string bytes_;
@@ -62,7 +62,7 @@ private:
 
 // Lets go of the memory a value holds (a moved-in short string would keep it).
 template <typename T>
-void Release(T& value) {
+void release(T& value) {
     T empty{};
     std::swap(value, empty);
 }
@@ -82,33 +82,33 @@ public:
         : QUndoCommand(name), script_(script), selectedBefore_(selectedBefore), alreadyMade_(alreadyMade) {}
 
     // The bytes of the lines the step keeps.
-    virtual std::size_t Bytes() const = 0;
-    bool Dropped() const { return dropped_; }
+    virtual std::size_t bytes() const = 0;
+    bool dropped() const { return dropped_; }
     // Lets go of what the step keeps; it can't be undone or redone any more.
-    void Drop() {
+    void drop() {
         dropped_ = true;
-        Forget();
+        forget();
     }
 
     void redo() final {
         if (first_) {
             first_ = false;
-            if (!alreadyMade_) Forth();
+            if (!alreadyMade_) forth();
             selectedAfter_ = script_.SelectedIndex();
             return;
         }
-        Forth();
+        forth();
         script_.SelectLine(selectedAfter_);
     }
     void undo() final {
-        Back();
+        back();
         script_.SelectLine(selectedBefore_);
     }
 
 protected:
-    virtual void Forth() = 0;
-    virtual void Back() = 0;
-    virtual void Forget() = 0;
+    virtual void forth() = 0;
+    virtual void back() = 0;
+    virtual void forget() = 0;
 
     AnimationScript& script_;
     const int selectedBefore_;
@@ -131,14 +131,14 @@ public:
           line_(std::move(line)),
           remove_(remove) {}
 
-    std::size_t Bytes() const override { return BytesOf(line_); }
+    std::size_t bytes() const override { return bytesOf(line_); }
 
 private:
-    void Forth() override { remove_ ? Take() : Put(); }
-    void Back() override { remove_ ? Put() : Take(); }
-    void Put() { script_.InsertLine(index_, line_.Text, line_.Time, line_.Action); }
-    void Take() { script_.RemoveLine(index_); }
-    void Forget() override { Release(line_); }
+    void forth() override { remove_ ? take() : put(); }
+    void back() override { remove_ ? put() : take(); }
+    void put() { script_.InsertLine(index_, line_.Text, line_.Time, line_.Action); }
+    void take() { script_.RemoveLine(index_); }
+    void forget() override { release(line_); }
 
     const int index_;
     AnimationLine line_;
@@ -158,7 +158,7 @@ public:
           after_(std::move(after)),
           typingRun_(typingRun) {}
 
-    std::size_t Bytes() const override { return before_.size() + after_.size(); }
+    std::size_t bytes() const override { return before_.size() + after_.size(); }
     int id() const override { return typingRun_ ? kTypingId : -1; }
     bool mergeWith(const QUndoCommand* other) override {
         const auto* next = static_cast<const FieldStep*>(other);
@@ -168,14 +168,14 @@ public:
     }
 
 private:
-    void Forth() override { Write(after_); }
-    void Back() override { Write(before_); }
-    void Write(const std::string& value) {
+    void forth() override { write(after_); }
+    void back() override { write(before_); }
+    void write(const std::string& value) {
         field_ == Field::Text ? script_.SetLineText(index_, value) : script_.SetLineTime(index_, value);
     }
-    void Forget() override {
-        Release(before_);
-        Release(after_);
+    void forget() override {
+        release(before_);
+        release(after_);
     }
 
     const int index_;
@@ -191,22 +191,22 @@ public:
     AppendStep(const QString& name, AnimationScript& script, const std::vector<AnimationLine>& lines)
         : Step(name, script, script.SelectedIndex()), lines_(lines), count_(lines.size()) {}
 
-    std::size_t Bytes() const override { return lines_.Bytes(); }
+    std::size_t bytes() const override { return lines_.bytes(); }
 
 private:
-    void Forth() override {
+    void forth() override {
         // Many lines reach the view as one reset, not one row at a time.
         std::optional<AnimationScript::Batch> batch;
         if (count_ > 1) batch.emplace(script_);
-        for (AnimationLine& line : lines_.Unpack())
+        for (AnimationLine& line : lines_.unpack())
             script_.AppendLine(std::move(line.Text), std::move(line.Time), std::move(line.Action));
     }
-    void Back() override {
+    void back() override {
         std::optional<AnimationScript::Batch> batch;
         if (count_ > 1) batch.emplace(script_);
         for (std::size_t i = 0; i < count_; ++i) script_.RemoveLine(script_.Count());
     }
-    void Forget() override { Release(lines_); }
+    void forget() override { release(lines_); }
 
     PackedLines lines_;
     const std::size_t count_;
@@ -219,17 +219,17 @@ public:
     ReplaceStep(const QString& name, AnimationScript& script, PackedLines before, int selectedBefore)
         : Step(name, script, selectedBefore, true), other_(std::move(before)) {}
 
-    std::size_t Bytes() const override { return other_.Bytes(); }
+    std::size_t bytes() const override { return other_.bytes(); }
 
 private:
-    void Forth() override { Exchange(selectedAfter_); }
-    void Back() override { Exchange(selectedBefore_); }
-    void Exchange(int selected) {
-        std::vector<AnimationLine> lines = other_.Unpack();
+    void forth() override { exchange(selectedAfter_); }
+    void back() override { exchange(selectedBefore_); }
+    void exchange(int selected) {
+        std::vector<AnimationLine> lines = other_.unpack();
         other_ = PackedLines(script_.Lines());
         script_.ExchangeLines(std::move(lines), selected);
     }
-    void Forget() override { Release(other_); }
+    void forget() override { release(other_); }
 
     PackedLines other_;
 };
@@ -243,112 +243,112 @@ AnimationHistory::AnimationHistory(AnimationScript& script, QObject* parent)
 
 AnimationHistory::~AnimationHistory() = default;
 
-const AnimationHistory::Step* AnimationHistory::StepAt(int index) const {
+const AnimationHistory::Step* AnimationHistory::stepAt(int index) const {
     return static_cast<const Step*>(stack_.command(index));
 }
 
-bool AnimationHistory::CanUndo() const {
-    return stack_.canUndo() && !StepAt(stack_.index() - 1)->Dropped();
+bool AnimationHistory::canUndo() const {
+    return stack_.canUndo() && !stepAt(stack_.index() - 1)->dropped();
 }
 
-bool AnimationHistory::CanRedo() const {
-    return stack_.canRedo() && !StepAt(stack_.index())->Dropped();
+bool AnimationHistory::canRedo() const {
+    return stack_.canRedo() && !stepAt(stack_.index())->dropped();
 }
 
-QString AnimationHistory::UndoText() const {
-    return CanUndo() ? stack_.undoText() : QString();
+QString AnimationHistory::undoText() const {
+    return canUndo() ? stack_.undoText() : QString();
 }
 
-QString AnimationHistory::RedoText() const {
-    return CanRedo() ? stack_.redoText() : QString();
+QString AnimationHistory::redoText() const {
+    return canRedo() ? stack_.redoText() : QString();
 }
 
-void AnimationHistory::Undo() {
-    if (!CanUndo()) return;
+void AnimationHistory::undo() {
+    if (!canUndo()) return;
     ++typingRun_;
     stack_.undo();
-    Trim();
-    emit Changed();
+    trim();
+    emit changed();
 }
 
-void AnimationHistory::Redo() {
-    if (!CanRedo()) return;
+void AnimationHistory::redo() {
+    if (!canRedo()) return;
     ++typingRun_;
     stack_.redo();
-    Trim();
-    emit Changed();
+    trim();
+    emit changed();
 }
 
-int AnimationHistory::UndoableSteps() const {
+int AnimationHistory::undoableSteps() const {
     int steps = 0;
-    for (int i = stack_.index() - 1; i >= 0 && !StepAt(i)->Dropped(); --i) ++steps;
+    for (int i = stack_.index() - 1; i >= 0 && !stepAt(i)->dropped(); --i) ++steps;
     return steps;
 }
 
-std::size_t AnimationHistory::KeptBytes() const {
+std::size_t AnimationHistory::keptBytes() const {
     std::size_t bytes = 0;
-    for (int i = 0; i < stack_.count(); ++i) bytes += StepAt(i)->Bytes();
+    for (int i = 0; i < stack_.count(); ++i) bytes += stepAt(i)->bytes();
     return bytes;
 }
 
-void AnimationHistory::EndTyping() {
+void AnimationHistory::endTyping() {
     ++typingRun_;
 }
 
-void AnimationHistory::Push(Step* step) {
+void AnimationHistory::push(Step* step) {
     if (step->id() != kTypingId) ++typingRun_;
     stack_.push(step);
-    Trim();
-    emit Changed();
+    trim();
+    emit changed();
 }
 
-bool AnimationHistory::InsertLine(const QString& name, int index, AnimationLine line) {
+bool AnimationHistory::insertLine(const QString& name, int index, AnimationLine line) {
     if (script_.IsFull() || index < 1 || index > script_.Count() + 1) return false;
-    Push(new steps::LineStep(name, script_, index, std::move(line), false));
+    push(new steps::LineStep(name, script_, index, std::move(line), false));
     return true;
 }
 
-bool AnimationHistory::RemoveLine(const QString& name, int index) {
+bool AnimationHistory::removeLine(const QString& name, int index) {
     if (index < 1 || index > script_.Count()) return false;
-    Push(new steps::LineStep(name, script_, index, script_.LineAt(index), true));
+    push(new steps::LineStep(name, script_, index, script_.LineAt(index), true));
     return true;
 }
 
-void AnimationHistory::SetText(const QString& name, int index, std::string text, bool typing) {
+void AnimationHistory::setText(const QString& name, int index, std::string text, bool typing) {
     if (index < 1 || index > script_.Count() || script_.LineAt(index).Text == text) return;
-    Push(new steps::FieldStep(name, script_, index, steps::FieldStep::Field::Text, std::move(text),
+    push(new steps::FieldStep(name, script_, index, steps::FieldStep::Field::Text, std::move(text),
                               typing ? std::optional<int>(typingRun_) : std::nullopt));
 }
 
-void AnimationHistory::SetTime(const QString& name, int index, std::string time) {
+void AnimationHistory::setTime(const QString& name, int index, std::string time) {
     if (index < 1 || index > script_.Count() || script_.LineAt(index).Time == time) return;
-    Push(new steps::FieldStep(name, script_, index, steps::FieldStep::Field::Time, std::move(time),
+    push(new steps::FieldStep(name, script_, index, steps::FieldStep::Field::Time, std::move(time),
                               std::nullopt));
 }
 
-bool AnimationHistory::AppendLines(const QString& name, std::vector<AnimationLine> lines) {
+bool AnimationHistory::appendLines(const QString& name, std::vector<AnimationLine> lines) {
     const std::size_t room = static_cast<std::size_t>(kMaxLines - script_.Count());
     const bool all = lines.size() <= room;
     if (!all) lines.resize(room);
-    if (!lines.empty()) Push(new steps::AppendStep(name, script_, lines));
+    if (!lines.empty()) push(new steps::AppendStep(name, script_, lines));
     return all;
 }
 
-void AnimationHistory::KeepReplaced(const QString& name, const std::vector<AnimationLine>& before,
+void AnimationHistory::keepReplaced(const QString& name, const std::vector<AnimationLine>& before,
                                     int selectedBefore) {
     if (before == script_.Lines() && selectedBefore == script_.SelectedIndex()) return;
-    Push(new steps::ReplaceStep(name, script_, PackedLines(before), selectedBefore));
+    push(new steps::ReplaceStep(name, script_, PackedLines(before), selectedBefore));
 }
 
-void AnimationHistory::Trim() {
-    std::size_t bytes = KeptBytes();
+void AnimationHistory::trim() {
+    std::size_t bytes = keptBytes();
     // The step Undo would take stays, however large: New over a huge list can
     // always be taken back.
     for (int i = 0; i < stack_.index() - 1 && bytes > kMaxBytes; ++i) {
-        auto* step = const_cast<Step*>(StepAt(i));
-        if (step->Dropped()) continue;
-        bytes -= step->Bytes();
-        step->Drop();
+        auto* step = const_cast<Step*>(stepAt(i));
+        if (step->dropped()) continue;
+        bytes -= step->bytes();
+        step->drop();
     }
 }
 

@@ -29,61 +29,61 @@ public:
     explicit AnimationHistory(AnimationScript& script, QObject* parent = nullptr);
     ~AnimationHistory() override;
 
-    bool CanUndo() const;
-    bool CanRedo() const;
+    bool canUndo() const;
+    bool canRedo() const;
     // The name of the step that Undo or Redo would take ("Remove line").
-    QString UndoText() const;
-    QString RedoText() const;
-    void Undo();
-    void Redo();
+    QString undoText() const;
+    QString redoText() const;
+    void undo();
+    void redo();
     // The steps that can still be undone, and the bytes of lines all steps keep.
-    int UndoableSteps() const;
-    std::size_t KeptBytes() const;
+    int undoableSteps() const;
+    std::size_t keptBytes() const;
 
     // --- the changes; each is one step
     // Adds a line so that it gets `index`. False, and no step, when the list is full.
-    bool InsertLine(const QString& name, int index, AnimationLine line);
+    bool insertLine(const QString& name, int index, AnimationLine line);
     // Removes the line at `index`. False, and no step, for a bad index.
-    bool RemoveLine(const QString& name, int index);
+    bool removeLine(const QString& name, int index);
     // A new Text for line `index`. Typing merges with the typing step before
     // it while it goes to the same line and nothing else happened between.
-    void SetText(const QString& name, int index, std::string text, bool typing = false);
-    void SetTime(const QString& name, int index, std::string time);
+    void setText(const QString& name, int index, std::string text, bool typing = false);
+    void setTime(const QString& name, int index, std::string time);
     // Appends the lines behind the last one, as many as fit; false when some
     // didn't.
-    bool AppendLines(const QString& name, std::vector<AnimationLine> lines);
+    bool appendLines(const QString& name, std::vector<AnimationLine> lines);
     // Runs `change` on the script and keeps the whole list from before as one
     // step: for the commands that replace every line. Gives what `change` gave.
     template <typename Change>
-    auto ReplaceLines(const QString& name, Change&& change) {
+    auto replaceLines(const QString& name, Change&& change) {
         std::vector<AnimationLine> before = script_.Lines();
         const int selectedBefore = script_.SelectedIndex();
         if constexpr (std::is_void_v<decltype(change(script_))>) {
             change(script_);
-            KeepReplaced(name, std::move(before), selectedBefore);
+            keepReplaced(name, std::move(before), selectedBefore);
         } else {
             auto result = change(script_);
-            KeepReplaced(name, std::move(before), selectedBefore);
+            keepReplaced(name, std::move(before), selectedBefore);
             return result;
         }
     }
 
     // The next keystroke starts a step of its own (the selection moved).
-    void EndTyping();
+    void endTyping();
 
     // One step of the history (in the source).
     class Step;
 
 signals:
     // After every step, undo and redo: what Undo and Redo offer may have changed.
-    void Changed();
+    void changed();
 
 private:
-    void Push(Step* step);
-    void KeepReplaced(const QString& name, const std::vector<AnimationLine>& before, int selectedBefore);
+    void push(Step* step);
+    void keepReplaced(const QString& name, const std::vector<AnimationLine>& before, int selectedBefore);
     // Drops the kept lines of the oldest steps until the rest fit kMaxBytes.
-    void Trim();
-    const Step* StepAt(int index) const;
+    void trim();
+    const Step* stepAt(int index) const;
 
     AnimationScript& script_;
     QUndoStack stack_;

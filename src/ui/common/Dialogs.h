@@ -29,23 +29,23 @@ public:
     virtual ~Dialogs() = default;
 
     // An empty title means the application's own name.
-    virtual MsgAnswer Message(QWidget* parent, const QString& text, const QString& title, MsgIcon icon,
+    virtual MsgAnswer message(QWidget* parent, const QString& text, const QString& title, MsgIcon icon,
                               MsgButtons buttons) = 0;
     // The answer as text; Cancel gives nullopt.
-    virtual std::optional<QString> InputBox(QWidget* parent, const QString& prompt, const QString& title,
+    virtual std::optional<QString> inputBox(QWidget* parent, const QString& prompt, const QString& title,
                                             const QString& defaultText) = 0;
     // Shows the open or save dialog for `state`. On OK the chosen path is
     // written to state.fileName and true returned; Cancel returns false and
     // leaves `state` as it was. The dialog itself neither asks about
     // overwriting nor adds a suffix.
-    virtual bool ShowOpen(QWidget* parent, FileDialogState& state) = 0;
-    virtual bool ShowSave(QWidget* parent, FileDialogState& state) = 0;
+    virtual bool showOpen(QWidget* parent, FileDialogState& state) = 0;
+    virtual bool showSave(QWidget* parent, FileDialogState& state) = 0;
     // The chosen folder, or the empty text on Cancel.
-    virtual QString BrowseForFolder(QWidget* parent, const QString& title) = 0;
+    virtual QString browseForFolder(QWidget* parent, const QString& title) = 0;
 
-    virtual void SetClipboardText(const QString& text) = 0;
+    virtual void setClipboardText(const QString& text) = 0;
     // The clipboard's text: empty when it holds none, nullopt when it can't be read.
-    virtual std::optional<QString> ClipboardText() = 0;
+    virtual std::optional<QString> clipboardText() = 0;
 };
 
 }  // namespace flickerscribe::ui

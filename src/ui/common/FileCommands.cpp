@@ -9,19 +9,19 @@ namespace flickerscribe::ui {
 
 // The core takes UTF-8 paths: on Windows it opens them by their wide-character
 // names, elsewhere UTF-8 is the file system's own encoding (as Qt takes it).
-std::string NativePath(const QString& path) {
+std::string nativePath(const QString& path) {
     return path.toStdString();
 }
 
-std::optional<std::string> ChooseSavePath(Dialogs& dialogs, QWidget* parent, FileDialogState& dialog,
+std::optional<std::string> chooseSavePath(Dialogs& dialogs, QWidget* parent, FileDialogState& dialog,
                                           const std::function<void()>& prepare,
                                           const OverwriteQuestion& question) {
     for (;;) {
         if (prepare) prepare();
-        if (!dialogs.ShowSave(parent, dialog)) return std::nullopt;
-        std::string path = NativePath(dialog.fileName);
+        if (!dialogs.showSave(parent, dialog)) return std::nullopt;
+        std::string path = nativePath(dialog.fileName);
         if (!FileExists(path)) return path;
-        switch (dialogs.Message(parent, question.text, question.title, MsgIcon::Question,
+        switch (dialogs.message(parent, question.text, question.title, MsgIcon::Question,
                                 MsgButtons::YesNoCancel)) {
             case MsgAnswer::Yes:
                 return path;
@@ -34,10 +34,10 @@ std::optional<std::string> ChooseSavePath(Dialogs& dialogs, QWidget* parent, Fil
     }
 }
 
-void ShowSaveError(Dialogs& dialogs, QWidget* parent, const SaveError& error) {
+void showSaveError(Dialogs& dialogs, QWidget* parent, const SaveError& error) {
     const QString text = u"Error saving script!\n%1\n%2"_s.arg(QString::number(error.number),
                                                                QString::fromStdString(error.text));
-    dialogs.Message(parent, text, u"Error"_s, MsgIcon::Critical, MsgButtons::Ok);
+    dialogs.message(parent, text, u"Error"_s, MsgIcon::Critical, MsgButtons::Ok);
 }
 
 }  // namespace flickerscribe::ui

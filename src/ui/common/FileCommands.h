@@ -16,7 +16,7 @@ struct FileDialogState;
 
 // A path chosen in a file dialog, as the core's file routines take it: in the
 // file system's own encoding. Paths are no Windows-1252 text.
-std::string NativePath(const QString& path);
+std::string nativePath(const QString& path);
 
 // What a save asks when the chosen file is there already.
 struct OverwriteQuestion {
@@ -28,12 +28,12 @@ struct OverwriteQuestion {
 // `prepare` sets the dialog up before each showing. A name that exists is
 // taken only after Yes to `question`; No shows the dialog again, with the name
 // last chosen in it; Cancel, in the dialog or in the question, gives nullopt.
-std::optional<std::string> ChooseSavePath(Dialogs& dialogs, QWidget* parent, FileDialogState& dialog,
+std::optional<std::string> chooseSavePath(Dialogs& dialogs, QWidget* parent, FileDialogState& dialog,
                                           const std::function<void()>& prepare,
                                           const OverwriteQuestion& question);
 
 // "Error saving script!", the error number and the error text, each on a line
 // of its own, as a stop message titled "Error".
-void ShowSaveError(Dialogs& dialogs, QWidget* parent, const SaveError& error);
+void showSaveError(Dialogs& dialogs, QWidget* parent, const SaveError& error);
 
 }  // namespace flickerscribe::ui

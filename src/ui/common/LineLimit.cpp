@@ -4,8 +4,8 @@
 
 namespace flickerscribe::ui {
 
-void ShowLineLimitMessage(Dialogs& dialogs, QWidget* parent) {
-    dialogs.Message(parent,
+void showLineLimitMessage(Dialogs& dialogs, QWidget* parent) {
+    dialogs.message(parent,
                     QStringLiteral("An animation holds at most 32767 lines. The lines up to that limit "
                                    "are kept; the rest could not be added."),
                     QStringLiteral("Line limit reached"), MsgIcon::Exclamation, MsgButtons::Ok);

@@ -24,7 +24,7 @@ inline const QString kWebSite = QStringLiteral("http://www.qzt-clan.example/flic
 inline const QString kForums = QStringLiteral("http://www.qzt-clan.example/flickerscribe/forums/index.php");
 inline const QString kClanWebSite = QStringLiteral("http://www.qzt-clan.example/clanqzt");
 // The same address as in the banner of every generated script.
-inline const QString kEmail = ToQString(kContactAddress);
+inline const QString kEmail = toQString(kContactAddress);
 inline const QString kChatNumber = QStringLiteral("123456789");
 
 }  // namespace flickerscribe::ui::info

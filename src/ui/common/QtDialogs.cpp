@@ -71,7 +71,7 @@ MsgAnswer toAnswer(int button, QMessageBox::StandardButton escape) {
 
 }  // namespace
 
-MsgAnswer QtDialogs::Message(QWidget* parent, const QString& text, const QString& title, MsgIcon icon,
+MsgAnswer QtDialogs::message(QWidget* parent, const QString& text, const QString& title, MsgIcon icon,
                              MsgButtons buttons) {
     const ButtonSet set = toQtButtons(buttons);
     QMessageBox box(toQtIcon(icon), titleOrAppName(title), text, set.buttons, parent);
@@ -80,23 +80,23 @@ MsgAnswer QtDialogs::Message(QWidget* parent, const QString& text, const QString
     return toAnswer(pressed, set.escape);
 }
 
-std::optional<QString> QtDialogs::InputBox(QWidget* parent, const QString& prompt, const QString& title,
+std::optional<QString> QtDialogs::inputBox(QWidget* parent, const QString& prompt, const QString& title,
                                            const QString& defaultText) {
     QInputDialog dialog(parent);
     dialog.setWindowTitle(titleOrAppName(title));
     dialog.setLabelText(prompt);
     dialog.setInputMode(QInputDialog::TextInput);
     dialog.setTextValue(defaultText);
-    if (auto* box = dialog.findChild<QLineEdit*>()) KeepOnOneLine(box);
+    if (auto* box = dialog.findChild<QLineEdit*>()) keepOnOneLine(box);
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     return dialog.textValue();
 }
 
-bool QtDialogs::ShowOpen(QWidget* parent, FileDialogState& state) {
+bool QtDialogs::showOpen(QWidget* parent, FileDialogState& state) {
     return showFileDialog(parent, state, false);
 }
 
-bool QtDialogs::ShowSave(QWidget* parent, FileDialogState& state) {
+bool QtDialogs::showSave(QWidget* parent, FileDialogState& state) {
     return showFileDialog(parent, state, true);
 }
 
@@ -121,15 +121,15 @@ bool QtDialogs::showFileDialog(QWidget* parent, FileDialogState& state, bool sav
     return true;
 }
 
-QString QtDialogs::BrowseForFolder(QWidget* parent, const QString& title) {
+QString QtDialogs::browseForFolder(QWidget* parent, const QString& title) {
     return QDir::toNativeSeparators(QFileDialog::getExistingDirectory(parent, title));
 }
 
-void QtDialogs::SetClipboardText(const QString& text) {
+void QtDialogs::setClipboardText(const QString& text) {
     QGuiApplication::clipboard()->setText(text);
 }
 
-std::optional<QString> QtDialogs::ClipboardText() {
+std::optional<QString> QtDialogs::clipboardText() {
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
     if (data == nullptr) return std::nullopt;
     return data->hasText() ? data->text() : QString();

@@ -8,15 +8,15 @@ namespace flickerscribe::ui {
 // folder dialogs, and the system clipboard.
 class QtDialogs : public Dialogs {
 public:
-    MsgAnswer Message(QWidget* parent, const QString& text, const QString& title, MsgIcon icon,
+    MsgAnswer message(QWidget* parent, const QString& text, const QString& title, MsgIcon icon,
                       MsgButtons buttons) override;
-    std::optional<QString> InputBox(QWidget* parent, const QString& prompt, const QString& title,
+    std::optional<QString> inputBox(QWidget* parent, const QString& prompt, const QString& title,
                                     const QString& defaultText) override;
-    bool ShowOpen(QWidget* parent, FileDialogState& state) override;
-    bool ShowSave(QWidget* parent, FileDialogState& state) override;
-    QString BrowseForFolder(QWidget* parent, const QString& title) override;
-    void SetClipboardText(const QString& text) override;
-    std::optional<QString> ClipboardText() override;
+    bool showOpen(QWidget* parent, FileDialogState& state) override;
+    bool showSave(QWidget* parent, FileDialogState& state) override;
+    QString browseForFolder(QWidget* parent, const QString& title) override;
+    void setClipboardText(const QString& text) override;
+    std::optional<QString> clipboardText() override;
 
 private:
     bool showFileDialog(QWidget* parent, FileDialogState& state, bool save);

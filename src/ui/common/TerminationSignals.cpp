@@ -20,14 +20,14 @@ namespace {
 // the event loop hears of the socket.
 int gSignalSocket[2] = {-1, -1};
 
-void OnSignal(int) {
+void onSignal(int) {
     const char byte = 1;
     [[maybe_unused]] const ssize_t written = ::write(gSignalSocket[0], &byte, 1);
 }
 
 }  // namespace
 
-void EndOnTerminationSignals(QObject* context, std::function<void()> end) {
+void endOnTerminationSignals(QObject* context, std::function<void()> end) {
     static QPointer<QSocketNotifier> notifier;
     if (gSignalSocket[0] < 0 && ::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, gSignalSocket) != 0)
         return;
@@ -39,7 +39,7 @@ void EndOnTerminationSignals(QObject* context, std::function<void()> end) {
         end();
     });
     struct sigaction action {};
-    action.sa_handler = OnSignal;
+    action.sa_handler = onSignal;
     ::sigemptyset(&action.sa_mask);
     action.sa_flags = SA_RESTART;
     for (const int signal : {SIGTERM, SIGHUP}) ::sigaction(signal, &action, nullptr);
@@ -47,7 +47,7 @@ void EndOnTerminationSignals(QObject* context, std::function<void()> end) {
 
 #else
 
-void EndOnTerminationSignals(QObject*, std::function<void()>) {}
+void endOnTerminationSignals(QObject*, std::function<void()>) {}
 
 #endif
 

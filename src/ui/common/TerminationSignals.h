@@ -11,6 +11,6 @@ namespace flickerscribe::ui {
 // it ends as by Exit and keeps the animation. A later call takes the place of
 // an earlier one; `end` is dropped with `context`. Does nothing on Windows,
 // where the desktop asks through the window instead.
-void EndOnTerminationSignals(QObject* context, std::function<void()> end);
+void endOnTerminationSignals(QObject* context, std::function<void()> end);
 
 }  // namespace flickerscribe::ui

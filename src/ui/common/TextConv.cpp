@@ -4,7 +4,7 @@
 
 namespace flickerscribe::ui {
 
-QString ToQString(std::string_view cp1252) {
+QString toQString(std::string_view cp1252) {
     QString out;
     out.resize(static_cast<qsizetype>(cp1252.size()));
     QChar* dst = out.data();
@@ -13,7 +13,7 @@ QString ToQString(std::string_view cp1252) {
     return out;
 }
 
-std::string FromQString(const QString& text) {
+std::string fromQString(const QString& text) {
     std::string out;
     out.reserve(static_cast<std::size_t>(text.size()));
     for (qsizetype i = 0; i < text.size(); ++i) {

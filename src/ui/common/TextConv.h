@@ -7,8 +7,8 @@
 // The one place where the core's Windows-1252 text meets Qt's Unicode text.
 namespace flickerscribe::ui {
 
-QString ToQString(std::string_view cp1252);
+QString toQString(std::string_view cp1252);
 // A character that has no Windows-1252 form becomes '?'.
-std::string FromQString(const QString& text);
+std::string fromQString(const QString& text);
 
 }  // namespace flickerscribe::ui

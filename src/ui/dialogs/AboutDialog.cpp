@@ -8,8 +8,8 @@
 #include <QVBoxLayout>
 
 #include "colour/ColouredText.h"
-#include "ui/widgets/PaneStyle.h"
 #include "ui/common/ProgramInfo.h"
+#include "ui/widgets/PaneStyle.h"
 #include "ui/widgets/RichPane.h"
 
 using namespace Qt::Literals::StringLiterals;

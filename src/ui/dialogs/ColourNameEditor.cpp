@@ -6,12 +6,12 @@
 #include <QVBoxLayout>
 
 #include "colour/ColouredText.h"
-#include "ui/widgets/ColourButtons.h"
 #include "ui/common/Dialogs.h"
+#include "ui/common/TextConv.h"
+#include "ui/widgets/ColourButtons.h"
 #include "ui/widgets/OneLineRichEdit.h"
 #include "ui/widgets/PaneStyle.h"
 #include "ui/widgets/RichPane.h"
-#include "ui/common/TextConv.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -96,7 +96,7 @@ void ColourNameEditor::copyToClipboard() {
         pane_->SetSelStart(length - 1);
         pane_->SetSelLength(1);
     }
-    dialogs_.SetClipboardText(ToQString(coded));
+    dialogs_.setClipboardText(toQString(coded));
 }
 
 Pane& ColourNameEditor::previewPane() {

@@ -11,8 +11,8 @@
 
 #include "colour/NumberText.h"
 #include "document/AnimationScript.h"
-#include "ui/widgets/SingleLine.h"
 #include "ui/common/TextConv.h"
+#include "ui/widgets/SingleLine.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -43,8 +43,8 @@ public:
     using QValidator::QValidator;
 
     State validate(QString& input, int& position) const override {
-        input = OnOneLine(std::move(input));
-        if (!IsNumberText(FromQString(input))) {
+        input = onOneLine(std::move(input));
+        if (!IsNumberText(fromQString(input))) {
             input = u"20"_s;
             position = static_cast<int>(input.size());
         }
@@ -77,7 +77,7 @@ EditTimeDialog::EditTimeDialog(QWidget* parent)
     actionBox->setEditable(true);
     actionBox->setEditText(tr("Under construction"));
     actionBox->setFixedSize(137, 21);
-    KeepOnOneLine(actionBox->lineEdit());
+    keepOnOneLine(actionBox->lineEdit());
     actionLabel->setBuddy(actionBox);
 
     auto* okButton = named(new QPushButton(tr("OK")), names::kOkButton);

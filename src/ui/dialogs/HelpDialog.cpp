@@ -6,9 +6,9 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "ui/dialogs/DialogIcons.h"
 #include "ui/common/Dialogs.h"
 #include "ui/common/ProgramInfo.h"
+#include "ui/dialogs/DialogIcons.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -77,7 +77,7 @@ HelpDialog::HelpDialog(Dialogs& dialogs, QWidget* parent)
         copy->setAccessibleName(what);
         copy->setFixedSize(25, 25);
         grid->addWidget(copy, row, 1);
-        connect(copy, &QPushButton::clicked, this, [this, value] { dialogs_.SetClipboardText(value); });
+        connect(copy, &QPushButton::clicked, this, [this, value] { dialogs_.setClipboardText(value); });
         return box;
     };
     const auto addLabel = [](QGridLayout* grid, int row, const QString& name, const QString& caption,

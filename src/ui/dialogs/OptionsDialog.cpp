@@ -9,8 +9,8 @@
 #include <utility>
 
 #include "settings/SettingsStore.h"
-#include "ui/dialogs/DialogIcons.h"
 #include "ui/common/Dialogs.h"
+#include "ui/dialogs/DialogIcons.h"
 #include "ui/widgets/SingleLine.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -131,8 +131,8 @@ OptionsDialog::OptionsDialog(settings::SettingsStore& store, Dialogs& dialogs,
     wizard->setRowMinimumHeight(1, kBoxHeight + 9);
     clanTagBox_->setFixedWidth(89);
     nameBox_->setFixedWidth(201);
-    KeepOnOneLine(clanTagBox_);
-    KeepOnOneLine(nameBox_);
+    keepOnOneLine(clanTagBox_);
+    keepOnOneLine(nameBox_);
     reverseCheck_ = named(new QCheckBox(tr("Reverse clantag")), names::kReverseCheck);
     wizard->addWidget(reverseCheck_, 2, 0, 1, 2, Qt::AlignTop);
     wizard->setRowMinimumHeight(2, 32);
@@ -169,7 +169,7 @@ OptionsDialog::OptionsDialog(settings::SettingsStore& store, Dialogs& dialogs,
 }
 
 void OptionsDialog::showStoredSettings() {
-    const settings::Settings stored = settings::LoadSettings(store_);
+    const settings::Settings stored = settings::loadSettings(store_);
     nameBox_->setText(stored.name);
     clanTagBox_->setText(stored.clanTag);
     openFolderBox_->setText(stored.openFolder);
@@ -179,7 +179,7 @@ void OptionsDialog::showStoredSettings() {
 }
 
 void OptionsDialog::browseFolder(QLineEdit* box, const QString& title) {
-    box->setText(dialogs_.BrowseForFolder(this, title));
+    box->setText(dialogs_.browseForFolder(this, title));
 }
 
 void OptionsDialog::storeSettings() {
@@ -190,7 +190,7 @@ void OptionsDialog::storeSettings() {
     chosen.reverse = reverseCheck_->isChecked();
     chosen.openFolder = openFolderBox_->text();
     chosen.saveFolder = saveFolderBox_->text();
-    settings::SaveSettings(store_, chosen);
+    settings::saveSettings(store_, chosen);
     if (loadSettings_) loadSettings_();
     accept();
 }

@@ -85,11 +85,11 @@ void ScriptWindow::buildScript() {
     // The window isn't shown yet: the messages stand over its owner.
     QWidget* owner = parentWidget();
     const std::string text = BuildScriptText(script_, [this, owner](const std::string& message) {
-        dialogs_.Message(owner, ToQString(message), QString(), MsgIcon::None, MsgButtons::Ok);
+        dialogs_.message(owner, toQString(message), QString(), MsgIcon::None, MsgButtons::Ok);
     });
     // One call for the whole text: tens of thousands of lines go in at once,
     // each CR LF as one line break.
-    scriptBox_->setPlainText(ToQString(text));
+    scriptBox_->setPlainText(toQString(text));
 }
 
 std::string ScriptWindow::scriptFileBytes() const {
@@ -98,13 +98,13 @@ std::string ScriptWindow::scriptFileBytes() const {
     QString text = scriptBox_->document()->toRawText();
     text.replace(QChar::ParagraphSeparator, u"\r\n"_s);
     text.replace(QChar::LineSeparator, u"\r\n"_s);
-    std::string bytes = FromQString(text);
+    std::string bytes = fromQString(text);
     bytes += kScriptLineEnd;
     return bytes;
 }
 
 void ScriptWindow::saveScript() {
-    const auto path = ChooseSavePath(dialogs_, this, saveDialog_,
+    const auto path = chooseSavePath(dialogs_, this, saveDialog_,
                                      [this] {
                                          if (!settings_.saveFolder.isEmpty())
                                              saveDialog_.initialFolder = settings_.saveFolder;
@@ -113,7 +113,7 @@ void ScriptWindow::saveScript() {
     if (!path) return;
     // The file is replaced only once the new text is complete on disk; on a
     // failure the old file stays whole and the text stays in the box.
-    if (const auto error = WriteFileSafely(*path, scriptFileBytes())) ShowSaveError(dialogs_, this, *error);
+    if (const auto error = WriteFileSafely(*path, scriptFileBytes())) showSaveError(dialogs_, this, *error);
 }
 
 void ScriptWindow::showEvent(QShowEvent* event) {

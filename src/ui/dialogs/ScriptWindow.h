@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "ui/dialogs/DialogWindow.h"
 #include "ui/common/Dialogs.h"
+#include "ui/dialogs/DialogWindow.h"
 
 class QAction;
 class QPlainTextEdit;

@@ -10,8 +10,8 @@
 #include "colour/SimpleEditWalk.h"
 #include "document/AnimationScript.h"
 #include "ui/common/AnimationHistory.h"
-#include "ui/widgets/ColourButtons.h"
 #include "ui/common/LineLimit.h"
+#include "ui/widgets/ColourButtons.h"
 #include "ui/widgets/OneLineRichEdit.h"
 #include "ui/widgets/PaneStyle.h"
 #include "ui/widgets/RichPane.h"
@@ -86,7 +86,7 @@ SimpleEditWindow::~SimpleEditWindow() = default;
 
 void SimpleEditWindow::saveToList() {
     const std::vector<std::string> lines = SplitColouredLines(pane_->Runs());
-    const bool full = history_.ReplaceLines(tr("Simple edit"), [&lines](AnimationScript& script) {
+    const bool full = history_.replaceLines(tr("Simple edit"), [&lines](AnimationScript& script) {
         AnimationScript::Batch batch(script);
         script.ClearLines();
         const AnimationLine defaults;
@@ -95,7 +95,7 @@ void SimpleEditWindow::saveToList() {
         }
         return false;
     });
-    if (full) ShowLineLimitMessage(dialogs_, this);
+    if (full) showLineLimitMessage(dialogs_, this);
 }
 
 Pane& SimpleEditWindow::previewPane() {

@@ -22,7 +22,7 @@ const QString kOldKeptFile = u"last-animation.fsq"_s;
 
 // A name no other run takes: the start time, the process and, for a second
 // window of one process, a count.
-QString NewFileName() {
+QString newFileName() {
     static std::atomic<int> made{0};
     return u"kept-%1-%2-%3.fsq"_s.arg(QDateTime::currentDateTime().toString(u"yyyyMMdd-HHmmss-zzz"_s))
         .arg(QCoreApplication::applicationPid())
@@ -32,11 +32,11 @@ QString NewFileName() {
 }  // namespace
 
 KeptAnimations::KeptAnimations(QString folder) : folder_(std::move(folder)) {
-    if (Enabled()) ownFile_ = QDir(folder_).filePath(NewFileName());
+    if (enabled()) ownFile_ = QDir(folder_).filePath(newFileName());
 }
 
-QStringList KeptAnimations::Files() const {
-    if (!Enabled()) return {};
+QStringList KeptAnimations::files() const {
+    if (!enabled()) return {};
     const QFileInfoList found =
         QDir(folder_).entryInfoList({u"kept-*.fsq"_s, kOldKeptFile}, QDir::Files, QDir::Time);
     QStringList paths;
@@ -44,34 +44,34 @@ QStringList KeptAnimations::Files() const {
     return paths;
 }
 
-std::optional<SaveError> KeptAnimations::Keep(const AnimationScript& script) const {
-    if (!Enabled()) return std::nullopt;
+std::optional<SaveError> KeptAnimations::keep(const AnimationScript& script) const {
+    if (!enabled()) return std::nullopt;
     if (!QDir().mkpath(folder_)) return SaveError{EACCES, "the folder can't be made"};
-    if (auto error = SaveAnimationFile(NativePath(ownFile_), script)) return error;
-    const QStringList files = Files();
-    for (qsizetype i = kMaxRuns; i < files.size(); ++i) {
-        if (files[i] != ownFile_) QFile::remove(files[i]);
+    if (auto error = SaveAnimationFile(nativePath(ownFile_), script)) return error;
+    const QStringList kept = files();
+    for (qsizetype i = kMaxRuns; i < kept.size(); ++i) {
+        if (kept[i] != ownFile_) QFile::remove(kept[i]);
     }
     return std::nullopt;
 }
 
-std::vector<KeptAnimations::Entry> KeptAnimations::Entries() const {
+std::vector<KeptAnimations::Entry> KeptAnimations::entries() const {
     std::vector<Entry> entries;
-    for (const QString& path : Files()) {
+    for (const QString& path : files()) {
         AnimationScript script;
-        if (LoadWholeAnimationFile(NativePath(path), script) != LoadStatus::Loaded) continue;
+        if (LoadWholeAnimationFile(nativePath(path), script) != LoadStatus::Loaded) continue;
         Entry entry{path, QFileInfo(path).lastModified(), script.Count(), {}};
         if (script.Count() > 0) {
             std::string plain;
             for (const ColouredRun& run : RenderRuns(script.LineAt(1).Text)) plain += run.text;
-            entry.firstLine = ToQString(plain);
+            entry.firstLine = toQString(plain);
         }
         entries.push_back(std::move(entry));
     }
     return entries;
 }
 
-QString EntryCaption(const KeptAnimations::Entry& entry) {
+QString entryCaption(const KeptAnimations::Entry& entry) {
     constexpr qsizetype kShown = 40;
     QString start = entry.firstLine.left(kShown);
     if (entry.firstLine.size() > kShown) start += u"..."_s;

@@ -32,20 +32,20 @@ public:
     // Nothing is kept where `folder` is empty.
     explicit KeptAnimations(QString folder);
 
-    bool Enabled() const { return !folder_.isEmpty(); }
+    bool enabled() const { return !folder_.isEmpty(); }
     // This run's file; it exists once something was kept.
-    const QString& OwnFile() const { return ownFile_; }
+    const QString& ownFile() const { return ownFile_; }
 
     // Writes this run's file by the safe save, then removes the files of all
     // but the last kMaxRuns runs. nullopt when it was written.
-    std::optional<SaveError> Keep(const AnimationScript& script) const;
+    std::optional<SaveError> keep(const AnimationScript& script) const;
 
     // Every kept file there is, this run's too, newest first; quick, as
     // nothing is read.
-    QStringList Files() const;
+    QStringList files() const;
     // The kept animations that can be read whole, newest first. A file cut
     // short or of other bytes is left out.
-    std::vector<Entry> Entries() const;
+    std::vector<Entry> entries() const;
 
 private:
     QString folder_;
@@ -54,6 +54,6 @@ private:
 
 // How a kept animation is offered in the menu: when it was kept, its line
 // count and the start of its first line.
-QString EntryCaption(const KeptAnimations::Entry& entry);
+QString entryCaption(const KeptAnimations::Entry& entry);
 
 }  // namespace flickerscribe::ui

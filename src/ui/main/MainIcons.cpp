@@ -2,7 +2,7 @@
 
 // The resources live in a static library, so they are registered by hand
 // before their first use; this has to stand outside any namespace.
-static void RegisterMainIcons() {
+static void registerMainIcons() {
     Q_INIT_RESOURCE(main_icons);
 }
 
@@ -10,26 +10,26 @@ namespace flickerscribe::ui {
 
 namespace {
 
-QIcon LoadIcon(const QString& name) {
-    static const bool registered = (RegisterMainIcons(), true);
+QIcon loadIcon(const QString& name) {
+    static const bool registered = (registerMainIcons(), true);
     (void)registered;
     return QIcon(QStringLiteral(":/main/%1.svg").arg(name));
 }
 
 }  // namespace
 
-QIcon AppIcon() {
-    return LoadIcon(QStringLiteral("app"));
+QIcon appIcon() {
+    return loadIcon(QStringLiteral("app"));
 }
 
-QIcon ToolbarIcon(const QString& name) {
+QIcon toolbarIcon(const QString& name) {
     static const QString kNames[] = {
         QStringLiteral("new"),      QStringLiteral("open"), QStringLiteral("save"),   QStringLiteral("add"),
         QStringLiteral("remove"),   QStringLiteral("edit"), QStringLiteral("wizard"), QStringLiteral("play"),
         QStringLiteral("generate"), QStringLiteral("stop"),
     };
     for (const QString& known : kNames)
-        if (name == known) return LoadIcon(name);
+        if (name == known) return loadIcon(name);
     return {};
 }
 

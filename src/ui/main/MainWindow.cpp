@@ -50,14 +50,14 @@ constexpr int kPaneHeight = 33;
 constexpr int kStripWidth = 249;
 constexpr int kColourButtons = 8;
 
-QFont ListFont() {
+QFont listFont() {
     QFont font(u"Courier New"_s);
     font.setStyleHint(QFont::TypeWriter);
     font.setPointSizeF(9.75);
     return font;
 }
 
-bool IsLineShortcut(const QKeyEvent* event, const QList<QAction*>& lineActions) {
+bool isLineShortcut(const QKeyEvent* event, const QList<QAction*>& lineActions) {
     const QKeySequence pressed(event->keyCombination());
     return std::any_of(lineActions.begin(), lineActions.end(),
                        [&](const QAction* action) { return action->shortcuts().contains(pressed); });
@@ -69,18 +69,18 @@ MainWindow::MainWindow(Dialogs& dialogs, settings::SettingsStore& store, QString
     : QMainWindow(parent), dialogs_(dialogs), store_(store), kept_(std::move(keptFolder)) {
     setObjectName(names::kWindow);
     setWindowTitle(tr("Flickerscribe - by [QZT]Quillon"));
-    setWindowIcon(AppIcon());
-    playIcon_ = ToolbarIcon(u"play"_s);
-    stopIcon_ = ToolbarIcon(u"stop"_s);
+    setWindowIcon(appIcon());
+    playIcon_ = toolbarIcon(u"play"_s);
+    stopIcon_ = toolbarIcon(u"stop"_s);
 
-    BuildMenus();
-    BuildToolbar();
-    BuildControls();
+    buildMenus();
+    buildToolbar();
+    buildControls();
 
     playTimer_ = new QTimer(this);
     playTimer_->setObjectName(names::kPlayTimer);
     playTimer_->setInterval(100);
-    connect(playTimer_, &QTimer::timeout, this, [this] { ShowNextFrame(); });
+    connect(playTimer_, &QTimer::timeout, this, [this] { showNextFrame(); });
 
     // The animation is kept at most 30 seconds after the first change that
     // its file doesn't hold yet, however the work goes on meanwhile; at the
@@ -89,14 +89,14 @@ MainWindow::MainWindow(Dialogs& dialogs, settings::SettingsStore& store, QString
     keepTimer_->setObjectName(names::kKeepTimer);
     keepTimer_->setSingleShot(true);
     keepTimer_->setInterval(30'000);
-    connect(keepTimer_, &QTimer::timeout, this, [this] { KeepAnimation(); });
-    connect(&history_, &AnimationHistory::Changed, this, [this] {
+    connect(keepTimer_, &QTimer::timeout, this, [this] { keepAnimation(); });
+    connect(&history_, &AnimationHistory::changed, this, [this] {
         keptCurrent_ = false;
         if (!keepTimer_->isActive()) keepTimer_->start();
-        UpdateUndoActions();
+        updateUndoActions();
     });
-    connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { KeepAnimation(); });
-    connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { KeepAnimation(); });
+    connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { keepAnimation(); });
+    connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { keepAnimation(); });
 
     setMinimumWidth(kMinimumWidth);
     resize(kClientWidth, kClientHeight + menuBar()->sizeHint().height());
@@ -106,10 +106,10 @@ MainWindow::MainWindow(Dialogs& dialogs, settings::SettingsStore& store, QString
     // The strip starts hidden; the settings apply, and the empty list shows
     // "Preview" in a locked pane.
     coloursVisible_ = false;
-    LoadSettings();
-    SetPreview();
-    UpdateUndoActions();
-    UpdateReopenAction();
+    loadSettings();
+    setPreview();
+    updateUndoActions();
+    updateReopenAction();
 }
 
 MainWindow::~MainWindow() {
@@ -118,11 +118,11 @@ MainWindow::~MainWindow() {
     delete model_;
 }
 
-Pane& MainWindow::PreviewPane() {
+Pane& MainWindow::previewPane() {
     return *preview_;
 }
 
-void MainWindow::BuildControls() {
+void MainWindow::buildControls() {
     client_ = new QWidget(this);
     client_->setObjectName(names::kClientArea);
     setCentralWidget(client_);
@@ -136,13 +136,13 @@ void MainWindow::BuildControls() {
     pane->setUndoRedoEnabled(false);
     paneEdit_ = pane;
     preview_ = std::make_unique<RichPane>(paneEdit_);
-    connect(paneEdit_, &QTextEdit::textChanged, this, [this] { OnPaneEdited(); });
+    connect(paneEdit_, &QTextEdit::textChanged, this, [this] { onPaneEdited(); });
     paneEdit_->installEventFilter(this);
     paneEdit_->viewport()->installEventFilter(this);
 
     lineList_ = new LineListView(client_);
     lineList_->setObjectName(names::kLineList);
-    lineList_->setFont(ListFont());
+    lineList_->setFont(listFont());
     model_ = new ScriptModel(script_, this);
     lineList_->setModel(model_);
     lineList_->verticalHeader()->hide();
@@ -159,34 +159,34 @@ void MainWindow::BuildControls() {
     lineList_->setShowGrid(false);
     lineList_->setWordWrap(false);
     lineList_->installEventFilter(this);
-    connect(lineList_, &LineListView::KeyPressed, this, &MainWindow::OnListKeyPress);
+    connect(lineList_, &LineListView::keyPressed, this, &MainWindow::onListKeyPress);
     connect(lineList_, &QAbstractItemView::clicked, this, [this](const QModelIndex& index) {
-        if (index.isValid()) ShowClickedLine(ScriptModel::LineOfRow(index.row()));
+        if (index.isValid()) showClickedLine(ScriptModel::lineOfRow(index.row()));
     });
     // The user's move of the current row selects that line; the script's own
     // changes of its selection move the current row.
     connect(lineList_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& current) {
-                if (model_->Changing() || !current.isValid()) return;
-                const int line = ScriptModel::LineOfRow(current.row());
+                if (model_->changing() || !current.isValid()) return;
+                const int line = ScriptModel::lineOfRow(current.row());
                 if (line != script_.SelectedIndex()) script_.SelectLine(line);
             });
-    connect(model_, &ScriptModel::SelectedLineChanged, this, [this](int index) {
+    connect(model_, &ScriptModel::selectedLineChanged, this, [this](int index) {
         if (index == 0) {
             lineList_->selectionModel()->clear();
         } else {
             lineList_->selectionModel()->setCurrentIndex(
-                model_->IndexOfLine(index), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+                model_->indexOfLine(index), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
         }
         // Typing into another line is a step of its own.
-        history_.EndTyping();
-        KeepPaneOnSelectedLine();
+        history_.endTyping();
+        keepPaneOnSelectedLine();
     });
-    connect(model_, &QAbstractItemModel::dataChanged, this, [this] { KeepPaneOnSelectedLine(); });
-    connect(model_, &QAbstractItemModel::modelReset, this, [this] { KeepPaneOnSelectedLine(); });
+    connect(model_, &QAbstractItemModel::dataChanged, this, [this] { keepPaneOnSelectedLine(); });
+    connect(model_, &QAbstractItemModel::modelReset, this, [this] { keepPaneOnSelectedLine(); });
     // What the list's in-place editor commits is a step like any other edit.
-    connect(model_, &ScriptModel::TextEdited, this, [this](int index, const QString& text) {
-        history_.SetText(tr("Edit text"), index, FromQString(text));
+    connect(model_, &ScriptModel::textEdited, this, [this](int index, const QString& text) {
+        history_.setText(tr("Edit text"), index, fromQString(text));
     });
 
     colourStrip_ = new QWidget(client_);
@@ -194,7 +194,7 @@ void MainWindow::BuildControls() {
     colourButtons_ = addColourButtons(colourStripRow(colourStrip_), kColourButtons);
     for (int index = 0; index < kColourButtons; ++index)
         connect(colourButtons_[static_cast<std::size_t>(index)], &QPushButton::clicked, this,
-                [this, index] { PaintSelection(index); });
+                [this, index] { paintSelection(index); });
     colourStrip_->hide();
 
     // The pane, with the strip beside it when shown, and under them the list,
@@ -216,29 +216,29 @@ void MainWindow::BuildControls() {
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     const bool inPane = watched == paneEdit_ || watched == paneEdit_->viewport();
-    if (inPane && paneShows_ == PaneShows::Frame && !Playing() &&
+    if (inPane && paneShows_ == PaneShows::Frame && !playing() &&
         (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress ||
          event->type() == QEvent::DragEnter)) {
         // A frame left by playback gives way to the selected line before the
         // user's click, key or drop reaches the pane.
-        SetPreview();
+        setPreview();
     }
     if (watched == paneEdit_ || watched == lineList_) {
         if (event->type() == QEvent::ShortcutOverride &&
-            IsLineShortcut(static_cast<QKeyEvent*>(event), lineActions_)) {
+            isLineShortcut(static_cast<QKeyEvent*>(event), lineActions_)) {
             // Not the widget's own cut, copy, paste, undo and redo of
             // characters: the Edit menu's commands on lines and the animation.
             return true;
         }
         if (watched == paneEdit_ && event->type() == QEvent::KeyPress) {
             const auto* key = static_cast<QKeyEvent*>(event);
-            OnPaneKeyPress(key->key(), key->modifiers());
+            onPaneKeyPress(key->key(), key->modifiers());
         }
     }
     return QMainWindow::eventFilter(watched, event);
 }
 
-void MainWindow::SetPreview() {
+void MainWindow::setPreview() {
     const bool wasBusy = previewBusy_;
     previewBusy_ = true;
     if (script_.Count() > 0) {
@@ -254,39 +254,39 @@ void MainWindow::SetPreview() {
     previewBusy_ = wasBusy;
 }
 
-void MainWindow::KeepPaneOnSelectedLine() {
-    if (writingFromPane_ || Playing()) return;
+void MainWindow::keepPaneOnSelectedLine() {
+    if (writingFromPane_ || playing()) return;
     const int selected = script_.SelectedIndex();
     const bool shown = selected == 0
                            ? paneShows_ == PaneShows::Placeholder
                            : paneShows_ == PaneShows::Line && shownText_ == script_.LineAt(selected).Text;
-    if (!shown) SetPreview();
+    if (!shown) setPreview();
 }
 
-void MainWindow::NewAnimation() {
-    history_.ReplaceLines(tr("New"), [](AnimationScript& script) { script.ClearLines(); });
+void MainWindow::newAnimation() {
+    history_.replaceLines(tr("New"), [](AnimationScript& script) { script.ClearLines(); });
 }
 
-void MainWindow::ToggleColours() {
+void MainWindow::toggleColours() {
     coloursVisible_ = !coloursVisible_;
     showColoursAction_->setChecked(coloursVisible_);
     colourStrip_->setVisible(coloursVisible_);
 }
 
-void MainWindow::LoadSettings() {
-    settings_ = settings::LoadSettings(store_);
+void MainWindow::loadSettings() {
+    settings_ = settings::loadSettings(store_);
     // Only the Text column can be edited in place, by a click on the line
     // that is already selected, and only when the setting is on.
     lineList_->setEditTriggers(settings_.editInPlace ? QAbstractItemView::SelectedClicked
                                                      : QAbstractItemView::NoEditTriggers);
 }
 
-void MainWindow::ShowClickedLine(int index) {
+void MainWindow::showClickedLine(int index) {
     script_.SelectLine(index);
-    SetPreview();
+    setPreview();
 }
 
-void MainWindow::Exit() {
+void MainWindow::exit() {
     // No question and nothing written: every window goes at once.
     close();
     QCoreApplication::quit();

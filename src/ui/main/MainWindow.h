@@ -50,117 +50,117 @@ public:
                QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    AnimationScript& Script() { return script_; }
-    const AnimationScript& Script() const { return script_; }
+    AnimationScript& script() { return script_; }
+    const AnimationScript& script() const { return script_; }
     // Every change to the animation goes through its history.
-    AnimationHistory& History() { return history_; }
-    // The settings in memory, as LoadSettings last read them.
+    AnimationHistory& history() { return history_; }
+    // The settings in memory, as loadSettings last read them.
     const settings::Settings& Settings() const { return settings_; }
     // The preview pane as the core's walks see it, and as a widget.
-    Pane& PreviewPane();
-    QTextEdit* PaneEdit() const { return paneEdit_; }
-    LineListView* LineList() const { return lineList_; }
-    bool ColoursVisible() const { return coloursVisible_; }
+    Pane& previewPane();
+    QTextEdit* paneEdit() const { return paneEdit_; }
+    LineListView* lineList() const { return lineList_; }
+    bool coloursVisible() const { return coloursVisible_; }
 
     // While the preview is busy, nothing that happens in the pane reaches a
     // line: the program's own drawing, and playback for as long as it runs.
-    bool PreviewBusy() const { return previewBusy_; }
-    void SetPreviewBusy(bool busy) { previewBusy_ = busy; }
+    bool previewBusy() const { return previewBusy_; }
+    void setPreviewBusy(bool busy) { previewBusy_ = busy; }
 
     // --- the shell (MainWindow.cpp)
     // Draws the selected line into the pane, or locks it with "Preview" when
     // the list is empty.
-    void SetPreview();
+    void setPreview();
     // Redraws the pane when it no longer shows the selected line: after the
     // selection moved, by whatever gesture or command, or the selected line's
     // text changed elsewhere than in the pane. Playback keeps its frames.
-    void KeepPaneOnSelectedLine();
-    void NewAnimation();
-    void ToggleColours();
+    void keepPaneOnSelectedLine();
+    void newAnimation();
+    void toggleColours();
     // Reads the settings store into memory and applies the in-place edit mode.
-    void LoadSettings();
+    void loadSettings();
     // A click on the line with this 1-based index.
-    void ShowClickedLine(int index);
-    void Exit();
+    void showClickedLine(int index);
+    void exit();
 
     // --- playback (MainWindow_Playback.cpp)
-    void TogglePlayback();
-    void ShowNextFrame();
-    bool Playing() const;
+    void togglePlayback();
+    void showNextFrame();
+    bool playing() const;
 
     // --- line commands (MainWindow_LineCommands.cpp)
     // Which lines the Add button's copy entries copy behind the last line.
     enum class CopyMode { SelectedLine, SelectedLineTimes, AllLines, AllLinesReversed };
-    void AddLine(bool after);
-    void RemoveSelectedLine();
-    void CopyLines(CopyMode mode);
+    void addLine(bool after);
+    void removeSelectedLine();
+    void copyLines(CopyMode mode);
 
     // --- clipboard (MainWindow_Clipboard.cpp)
-    void CutLine();
-    void CopyLine();
-    void PasteLine();
+    void cutLine();
+    void copyLine();
+    void pasteLine();
 
     // --- editing in the pane and the list (MainWindow_Editing.cpp)
-    void OnPaneEdited();
-    void PaintSelection(int index);
-    void OnPaneKeyPress(int key, Qt::KeyboardModifiers modifiers);
-    void OnListKeyPress(int key, Qt::KeyboardModifiers modifiers);
-    void EditSelectedLine();
+    void onPaneEdited();
+    void paintSelection(int index);
+    void onPaneKeyPress(int key, Qt::KeyboardModifiers modifiers);
+    void onListKeyPress(int key, Qt::KeyboardModifiers modifiers);
+    void editSelectedLine();
 
     // --- files (MainWindow_Files.cpp)
-    void OpenAnimation();
+    void openAnimation();
     // Open of a file named without the dialog: the one the program was
     // started with (a project file opened from the desktop).
-    void OpenAnimationFile(const QString& path);
-    void SaveAnimationAs();
-    void ImportScript();
-    void GenerateScript();
+    void openAnimationFile(const QString& path);
+    void saveAnimationAs();
+    void importScript();
+    void generateScript();
     // The animation as an animated GIF (MainWindow_Picture.cpp).
-    void ExportPicture();
+    void exportPicture();
     // The one file dialog of Open, Save As and Import: it keeps its file name
     // and folder between uses.
-    FileDialogState& FileDialog() { return fileDialog_; }
+    FileDialogState& fileDialog() { return fileDialog_; }
 
     // --- undo, redo and the kept animation (MainWindow_History.cpp)
-    void Undo();
-    void Redo();
+    void undo();
+    void redo();
     // Writes the animation to this run's kept file, when there are lines and
     // the file doesn't hold them yet. A failure shows in the status bar and is
     // tried again by the timer and at the end, never in a message box.
-    void KeepAnimation();
+    void keepAnimation();
     // Loads the newest animation that another run kept, like Open.
-    void ReopenLastAnimation();
+    void reopenLastAnimation();
     // Loads a kept animation like Open.
-    void OpenKeptAnimation(const QString& path);
+    void openKeptAnimation(const QString& path);
 
     // --- other windows (MainWindow_Windows.cpp)
-    void ShowWizard();
-    void ShowColourNameEditor();
-    void ShowSimpleEdit();
-    void ShowOptions();
-    void ShowHelp();
-    void ShowAbout();
+    void showWizard();
+    void showColourNameEditor();
+    void showSimpleEdit();
+    void showOptions();
+    void showHelp();
+    void showAbout();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void BuildMenus();
-    void BuildToolbar();
-    void BuildControls();
-    void WritePaneToLine(const QString& stepName, bool typing);
+    void buildMenus();
+    void buildToolbar();
+    void buildControls();
+    void writePaneToLine(const QString& stepName, bool typing);
     // Undo and Redo are on while there is something to take back or do again
     // and no playback runs; their captions name the step.
-    void UpdateUndoActions();
-    void UpdateReopenAction();
-    void FillKeptMenu();
-    void ShowKeepProblem(const std::optional<SaveError>& error);
+    void updateUndoActions();
+    void updateReopenAction();
+    void fillKeptMenu();
+    void showKeepProblem(const std::optional<SaveError>& error);
     // Replaces the list by what `load` reads from `path`, as one step; a file
     // that can't be read gets `notFound` as a stop message titled `title`, and
     // a file cut at the line limit the limit's message.
     using FileLoader = LoadStatus (*)(const std::string& path, AnimationScript& script);
-    void LoadIntoList(const QString& stepName, const QString& path, FileLoader load, const QString& notFound,
+    void loadIntoList(const QString& stepName, const QString& path, FileLoader load, const QString& notFound,
                       const QString& title);
 
     Dialogs& dialogs_;
@@ -183,7 +183,7 @@ private:
     bool previewBusy_ = false;
     FileDialogState fileDialog_;
     // What the pane shows: "Preview", the selected line as `shownText_`
-    // (drawn by SetPreview or typed in the pane), or a frame of playback.
+    // (drawn by setPreview or typed in the pane), or a frame of playback.
     enum class PaneShows { Placeholder, Line, Frame };
     PaneShows paneShows_ = PaneShows::Placeholder;
     std::string shownText_;

@@ -23,7 +23,7 @@ namespace names = main_window_names;
 
 namespace {
 
-QAction* AddEntry(QMenu* menu, const QString& name, const QString& caption,
+QAction* addEntry(QMenu* menu, const QString& name, const QString& caption,
                   const QList<QKeySequence>& shortcuts = {}) {
     QAction* action = menu->addAction(caption);
     action->setObjectName(name);
@@ -31,7 +31,7 @@ QAction* AddEntry(QMenu* menu, const QString& name, const QString& caption,
     return action;
 }
 
-void AddSeparator(QMenu* menu, const QString& name) {
+void addSeparator(QMenu* menu, const QString& name) {
     menu->addSeparator()->setObjectName(name);
 }
 
@@ -40,75 +40,75 @@ void AddSeparator(QMenu* menu, const QString& name) {
 
 }  // namespace
 
-void MainWindow::BuildMenus() {
+void MainWindow::buildMenus() {
     QMenu* file = menuBar()->addMenu(tr("File"));
     file->setObjectName(names::kFileMenu);
-    connect(AddEntry(file, names::kNewEntry, tr("New")), &QAction::triggered, this,
-            [this] { NewAnimation(); });
-    connect(AddEntry(file, names::kOpenEntry, tr("Open")), &QAction::triggered, this,
-            [this] { OpenAnimation(); });
-    connect(AddEntry(file, names::kImportEntry, tr("Import")), &QAction::triggered, this,
-            [this] { ImportScript(); });
-    reopenAction_ = AddEntry(file, names::kReopenEntry, tr("Reopen last animation"));
-    connect(reopenAction_, &QAction::triggered, this, [this] { ReopenLastAnimation(); });
+    connect(addEntry(file, names::kNewEntry, tr("New")), &QAction::triggered, this,
+            [this] { newAnimation(); });
+    connect(addEntry(file, names::kOpenEntry, tr("Open")), &QAction::triggered, this,
+            [this] { openAnimation(); });
+    connect(addEntry(file, names::kImportEntry, tr("Import")), &QAction::triggered, this,
+            [this] { importScript(); });
+    reopenAction_ = addEntry(file, names::kReopenEntry, tr("Reopen last animation"));
+    connect(reopenAction_, &QAction::triggered, this, [this] { reopenLastAnimation(); });
     keptMenu_ = file->addMenu(tr("Kept animations"));
     keptMenu_->setObjectName(names::kKeptMenu);
-    connect(keptMenu_, &QMenu::aboutToShow, this, [this] { FillKeptMenu(); });
-    connect(file, &QMenu::aboutToShow, this, [this] { UpdateReopenAction(); });
-    AddSeparator(file, names::kFileSeparator1);
-    AddEntry(file, names::kSaveEntry, tr("Save"))->setEnabled(false);
-    connect(AddEntry(file, names::kSaveAsEntry, tr("Save As")), &QAction::triggered, this,
-            [this] { SaveAnimationAs(); });
-    connect(AddEntry(file, names::kExportPictureEntry, tr("Export animated picture..."),
+    connect(keptMenu_, &QMenu::aboutToShow, this, [this] { fillKeptMenu(); });
+    connect(file, &QMenu::aboutToShow, this, [this] { updateReopenAction(); });
+    addSeparator(file, names::kFileSeparator1);
+    addEntry(file, names::kSaveEntry, tr("Save"))->setEnabled(false);
+    connect(addEntry(file, names::kSaveAsEntry, tr("Save As")), &QAction::triggered, this,
+            [this] { saveAnimationAs(); });
+    connect(addEntry(file, names::kExportPictureEntry, tr("Export animated picture..."),
                      {QKeySequence(Qt::CTRL | Qt::Key_E)}),
-            &QAction::triggered, this, [this] { ExportPicture(); });
-    AddSeparator(file, names::kFileSeparator2);
-    connect(AddEntry(file, names::kExitEntry, tr("Exit")), &QAction::triggered, this, [this] { Exit(); });
+            &QAction::triggered, this, [this] { exportPicture(); });
+    addSeparator(file, names::kFileSeparator2);
+    connect(addEntry(file, names::kExitEntry, tr("Exit")), &QAction::triggered, this, [this] { exit(); });
 
     QMenu* edit = menuBar()->addMenu(tr("Edit"));
     edit->setObjectName(names::kEditMenu);
     undoAction_ =
-        AddEntry(edit, names::kUndoEntry, tr("Undo"), QKeySequence::keyBindings(QKeySequence::Undo));
-    connect(undoAction_, &QAction::triggered, this, [this] { Undo(); });
+        addEntry(edit, names::kUndoEntry, tr("Undo"), QKeySequence::keyBindings(QKeySequence::Undo));
+    connect(undoAction_, &QAction::triggered, this, [this] { undo(); });
     // Ctrl+Y and Ctrl+Shift+Z on every desktop, whatever else it binds.
     QList<QKeySequence> redoKeys = QKeySequence::keyBindings(QKeySequence::Redo);
     for (const QKeySequence& key :
          {QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)})
         if (!redoKeys.contains(key)) redoKeys << key;
-    redoAction_ = AddEntry(edit, names::kRedoEntry, tr("Redo"), redoKeys);
-    connect(redoAction_, &QAction::triggered, this, [this] { Redo(); });
-    AddSeparator(edit, names::kEditSeparator0);
-    QAction* cut = AddEntry(edit, names::kCutEntry, tr("Cut"), QKeySequence::keyBindings(QKeySequence::Cut));
-    connect(cut, &QAction::triggered, this, [this] { CutLine(); });
+    redoAction_ = addEntry(edit, names::kRedoEntry, tr("Redo"), redoKeys);
+    connect(redoAction_, &QAction::triggered, this, [this] { redo(); });
+    addSeparator(edit, names::kEditSeparator0);
+    QAction* cut = addEntry(edit, names::kCutEntry, tr("Cut"), QKeySequence::keyBindings(QKeySequence::Cut));
+    connect(cut, &QAction::triggered, this, [this] { cutLine(); });
     QAction* copy =
-        AddEntry(edit, names::kCopyEntry, tr("Copy"), QKeySequence::keyBindings(QKeySequence::Copy));
-    connect(copy, &QAction::triggered, this, [this] { CopyLine(); });
+        addEntry(edit, names::kCopyEntry, tr("Copy"), QKeySequence::keyBindings(QKeySequence::Copy));
+    connect(copy, &QAction::triggered, this, [this] { copyLine(); });
     QAction* paste =
-        AddEntry(edit, names::kPasteEntry, tr("Paste"), QKeySequence::keyBindings(QKeySequence::Paste));
-    connect(paste, &QAction::triggered, this, [this] { PasteLine(); });
+        addEntry(edit, names::kPasteEntry, tr("Paste"), QKeySequence::keyBindings(QKeySequence::Paste));
+    connect(paste, &QAction::triggered, this, [this] { pasteLine(); });
     lineActions_ = {undoAction_, redoAction_, cut, copy, paste};
-    AddSeparator(edit, names::kEditSeparator1);
-    showColoursAction_ = AddEntry(edit, names::kShowColoursEntry, tr("Show colors"));
+    addSeparator(edit, names::kEditSeparator1);
+    showColoursAction_ = addEntry(edit, names::kShowColoursEntry, tr("Show colors"));
     showColoursAction_->setCheckable(true);
-    connect(showColoursAction_, &QAction::triggered, this, [this] { ToggleColours(); });
-    connect(AddEntry(edit, names::kColourNameEditorEntry, tr("Color name editor")), &QAction::triggered, this,
-            [this] { ShowColourNameEditor(); });
-    connect(AddEntry(edit, names::kSimpleEditEntry, tr("Simple Edit")), &QAction::triggered, this,
-            [this] { ShowSimpleEdit(); });
-    AddSeparator(edit, names::kEditSeparator2);
-    connect(AddEntry(edit, names::kOptionsEntry, tr("Options")), &QAction::triggered, this,
-            [this] { ShowOptions(); });
+    connect(showColoursAction_, &QAction::triggered, this, [this] { toggleColours(); });
+    connect(addEntry(edit, names::kColourNameEditorEntry, tr("Color name editor")), &QAction::triggered, this,
+            [this] { showColourNameEditor(); });
+    connect(addEntry(edit, names::kSimpleEditEntry, tr("Simple Edit")), &QAction::triggered, this,
+            [this] { showSimpleEdit(); });
+    addSeparator(edit, names::kEditSeparator2);
+    connect(addEntry(edit, names::kOptionsEntry, tr("Options")), &QAction::triggered, this,
+            [this] { showOptions(); });
 
     QMenu* help = menuBar()->addMenu(tr("Help"));
     help->setObjectName(names::kHelpMenu);
-    connect(AddEntry(help, names::kHelpEntry, tr("Help!")), &QAction::triggered, this,
-            [this] { ShowHelp(); });
-    AddSeparator(help, names::kHelpSeparator);
-    connect(AddEntry(help, names::kAboutEntry, tr("About"), {QKeySequence(Qt::Key_F1)}), &QAction::triggered,
-            this, [this] { ShowAbout(); });
+    connect(addEntry(help, names::kHelpEntry, tr("Help!")), &QAction::triggered, this,
+            [this] { showHelp(); });
+    addSeparator(help, names::kHelpSeparator);
+    connect(addEntry(help, names::kAboutEntry, tr("About"), {QKeySequence(Qt::Key_F1)}), &QAction::triggered,
+            this, [this] { showAbout(); });
 }
 
-void MainWindow::BuildToolbar() {
+void MainWindow::buildToolbar() {
     toolbar_ = addToolBar(tr("Toolbar"));
     toolbar_->setObjectName(names::kToolbar);
     toolbar_->setMovable(false);
@@ -126,29 +126,29 @@ void MainWindow::BuildToolbar() {
         QAction** kept = nullptr;  // where the window keeps the action
     };
     const Button buttons[] = {
-        {names::kNewButton, tr("New"), tr("New Animation Script"), u"new"_s, [this] { NewAnimation(); }},
-        {names::kOpenButton, tr("Open"), tr("Open Animation Script"), u"open"_s, [this] { OpenAnimation(); }},
+        {names::kNewButton, tr("New"), tr("New Animation Script"), u"new"_s, [this] { newAnimation(); }},
+        {names::kOpenButton, tr("Open"), tr("Open Animation Script"), u"open"_s, [this] { openAnimation(); }},
         {names::kSaveButton, tr("Save"), tr("Save Animation Script"), u"save"_s,
-         [this] { SaveAnimationAs(); }},
+         [this] { saveAnimationAs(); }},
         {},
-        {names::kAddButton, tr("Add"), tr("Add line"), u"add"_s, [this] { AddLine(true); }, &addAction_},
-        {names::kRemoveButton, tr("Remove"), tr("Remove Line"), u"remove"_s, [this] { RemoveSelectedLine(); },
+        {names::kAddButton, tr("Add"), tr("Add line"), u"add"_s, [this] { addLine(true); }, &addAction_},
+        {names::kRemoveButton, tr("Remove"), tr("Remove Line"), u"remove"_s, [this] { removeSelectedLine(); },
          &removeAction_},
-        {names::kEditButton, tr("Edit"), tr("Edit Line"), u"edit"_s, [this] { EditSelectedLine(); }},
+        {names::kEditButton, tr("Edit"), tr("Edit Line"), u"edit"_s, [this] { editSelectedLine(); }},
         {},
         {names::kWizardButton, tr("Wizard"), tr("Animation Script Wizard"), u"wizard"_s,
-         [this] { ShowWizard(); }},
-        {names::kPlayButton, tr("Play"), tr("Preview animation"), u"play"_s, [this] { TogglePlayback(); },
+         [this] { showWizard(); }},
+        {names::kPlayButton, tr("Play"), tr("Preview animation"), u"play"_s, [this] { togglePlayback(); },
          &playAction_},
         {names::kGenerateButton, tr("Generate"), tr("Generate Brennock Script"), u"generate"_s,
-         [this] { GenerateScript(); }},
+         [this] { generateScript(); }},
     };
     for (const Button& b : buttons) {
         if (b.name.isEmpty()) {
             toolbar_->addSeparator();
             continue;
         }
-        QAction* action = toolbar_->addAction(ToolbarIcon(b.image), b.caption);
+        QAction* action = toolbar_->addAction(toolbarIcon(b.image), b.caption);
         action->setObjectName(b.name);
         action->setToolTip(b.tip);
         connect(action, &QAction::triggered, this, b.command);
@@ -159,16 +159,16 @@ void MainWindow::BuildToolbar() {
     auto* addMenu = new QMenu(this);
     addMenu->setObjectName(names::kAddMenu);
     const std::tuple<QString, QString, std::function<void()>> entries[] = {
-        {names::kAddBeforeEntry, tr("Before selection"), [this] { AddLine(false); }},
-        {names::kAddAfterEntry, tr("After selection"), [this] { AddLine(true); }},
+        {names::kAddBeforeEntry, tr("Before selection"), [this] { addLine(false); }},
+        {names::kAddAfterEntry, tr("After selection"), [this] { addLine(true); }},
         {},
-        {names::kCopySelectedEntry, tr("Copy selected line"), [this] { CopyLines(CopyMode::SelectedLine); }},
+        {names::kCopySelectedEntry, tr("Copy selected line"), [this] { copyLines(CopyMode::SelectedLine); }},
         {names::kCopySelectedTimesEntry, tr("Copy selected line x times"),
-         [this] { CopyLines(CopyMode::SelectedLineTimes); }},
+         [this] { copyLines(CopyMode::SelectedLineTimes); }},
         {},
-        {names::kCopyAllEntry, tr("Copy all lines"), [this] { CopyLines(CopyMode::AllLines); }},
+        {names::kCopyAllEntry, tr("Copy all lines"), [this] { copyLines(CopyMode::AllLines); }},
         {names::kCopyAllReversedEntry, tr("Copy all lines (reverse)"),
-         [this] { CopyLines(CopyMode::AllLinesReversed); }},
+         [this] { copyLines(CopyMode::AllLinesReversed); }},
     };
     for (const auto& [name, caption, command] : entries) {
         if (name.isEmpty()) {
@@ -190,7 +190,7 @@ void MainWindow::BuildToolbar() {
         // menu's own action and push the button's action out.
         button->setMenu(addMenu);
         button->setPopupMode(QToolButton::MenuButtonPopup);
-        GiveMenuButtonItsPressAction(button);
+        giveMenuButtonItsPressAction(button);
     }
     add->setMenu(addMenu);
 

@@ -4,11 +4,11 @@
 
 #include "colour/ColouredText.h"
 #include "colour/Palette.h"
-#include "ui/dialogs/EditTimeDialog.h"
-#include "ui/widgets/LineListView.h"
-#include "ui/main/MainWindow.h"
-#include "ui/widgets/RichPane.h"
 #include "ui/common/TextConv.h"
+#include "ui/dialogs/EditTimeDialog.h"
+#include "ui/main/MainWindow.h"
+#include "ui/widgets/LineListView.h"
+#include "ui/widgets/RichPane.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -17,11 +17,11 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace flickerscribe::ui {
 
-void MainWindow::OnPaneEdited() {
-    WritePaneToLine(tr("Typing"), true);
+void MainWindow::onPaneEdited() {
+    writePaneToLine(tr("Typing"), true);
 }
 
-void MainWindow::WritePaneToLine(const QString& stepName, bool typing) {
+void MainWindow::writePaneToLine(const QString& stepName, bool typing) {
     Pane& pane = *preview_;
     const int caret = pane.SelStart();
     // Every change of the pane goes back to the selected line as coded text,
@@ -33,7 +33,7 @@ void MainWindow::WritePaneToLine(const QString& stepName, bool typing) {
         shownText_ = EncodeColouredText(pane, kWhite);
         paneShows_ = PaneShows::Line;
         writingFromPane_ = true;
-        history_.SetText(stepName, script_.SelectedIndex(), shownText_, typing);
+        history_.setText(stepName, script_.SelectedIndex(), shownText_, typing);
         writingFromPane_ = false;
     }
     // The caret stays where it was, and a selection ends at its start. The
@@ -46,11 +46,11 @@ void MainWindow::WritePaneToLine(const QString& stepName, bool typing) {
     }
 }
 
-void MainWindow::PaintSelection(int index) {
+void MainWindow::paintSelection(int index) {
     Pane& pane = *preview_;
     // A frame of playback is no line to paint: the pane shows the line again.
     if (paneShows_ == PaneShows::Frame) {
-        if (!Playing()) SetPreview();
+        if (!playing()) setPreview();
         return;
     }
     // An empty pane takes no colour: a new text can't start with one.
@@ -65,31 +65,31 @@ void MainWindow::PaintSelection(int index) {
     // With nothing selected no character changed: the colour waits for what
     // is typed next, and typing writes the line. A coloured stretch is a step
     // of its own.
-    if (stretch) WritePaneToLine(tr("Colour"), false);
+    if (stretch) writePaneToLine(tr("Colour"), false);
 }
 
-void MainWindow::OnPaneKeyPress(int key, Qt::KeyboardModifiers modifiers) {
+void MainWindow::onPaneKeyPress(int key, Qt::KeyboardModifiers modifiers) {
     (void)modifiers;
     // The Ctrl key alone takes the focus to the list, so that every Ctrl
     // combination begun in the pane works on lines, not on characters.
     if (key == Qt::Key_Control) lineList_->setFocus();
 }
 
-void MainWindow::OnListKeyPress(int key, Qt::KeyboardModifiers modifiers) {
+void MainWindow::onListKeyPress(int key, Qt::KeyboardModifiers modifiers) {
     (void)modifiers;  // Shift+Delete and Ctrl+Delete remove as well
     // The list has already moved its selection for this key, so the pane
     // shows the line an arrow key led to.
-    if (key == Qt::Key_Delete) RemoveSelectedLine();
-    SetPreview();
+    if (key == Qt::Key_Delete) removeSelectedLine();
+    setPreview();
 }
 
-void MainWindow::EditSelectedLine() {
+void MainWindow::editSelectedLine() {
     if (script_.Count() > 0) {
         EditTimeDialog window(this);
         if (window.exec() == QDialog::Accepted)
-            history_.SetTime(tr("Edit time"), script_.SelectedIndex(), FromQString(window.time()));
+            history_.setTime(tr("Edit time"), script_.SelectedIndex(), fromQString(window.time()));
     } else {
-        dialogs_.Message(this, tr("No items to edit"), tr("Edit"), MsgIcon::Exclamation, MsgButtons::Ok);
+        dialogs_.message(this, tr("No items to edit"), tr("Edit"), MsgIcon::Exclamation, MsgButtons::Ok);
     }
 }
 

@@ -21,58 +21,58 @@ namespace flickerscribe::ui {
 
 namespace names = main_window_names;
 
-void MainWindow::Undo() {
-    if (!Playing()) history_.Undo();
+void MainWindow::undo() {
+    if (!playing()) history_.undo();
 }
 
-void MainWindow::Redo() {
-    if (!Playing()) history_.Redo();
+void MainWindow::redo() {
+    if (!playing()) history_.redo();
 }
 
-void MainWindow::UpdateUndoActions() {
+void MainWindow::updateUndoActions() {
     const auto caption = [](const QString& verb, const QString& step) {
         return step.isEmpty() ? verb : verb + u' ' + step;
     };
-    undoAction_->setEnabled(history_.CanUndo() && !Playing());
-    undoAction_->setText(caption(tr("Undo"), history_.UndoText()));
-    redoAction_->setEnabled(history_.CanRedo() && !Playing());
-    redoAction_->setText(caption(tr("Redo"), history_.RedoText()));
+    undoAction_->setEnabled(history_.canUndo() && !playing());
+    undoAction_->setText(caption(tr("Undo"), history_.undoText()));
+    redoAction_->setEnabled(history_.canRedo() && !playing());
+    redoAction_->setText(caption(tr("Redo"), history_.redoText()));
 }
 
-void MainWindow::UpdateReopenAction() {
-    const QStringList files = kept_.Files();
+void MainWindow::updateReopenAction() {
+    const QStringList files = kept_.files();
     reopenAction_->setEnabled(std::any_of(files.begin(), files.end(),
-                                          [this](const QString& file) { return file != kept_.OwnFile(); }));
+                                          [this](const QString& file) { return file != kept_.ownFile(); }));
     keptMenu_->setEnabled(!files.isEmpty());
 }
 
-void MainWindow::FillKeptMenu() {
+void MainWindow::fillKeptMenu() {
     keptMenu_->clear();
-    for (const KeptAnimations::Entry& entry : kept_.Entries()) {
-        connect(keptMenu_->addAction(EntryCaption(entry)), &QAction::triggered, this,
-                [this, path = entry.path] { OpenKeptAnimation(path); });
+    for (const KeptAnimations::Entry& entry : kept_.entries()) {
+        connect(keptMenu_->addAction(entryCaption(entry)), &QAction::triggered, this,
+                [this, path = entry.path] { openKeptAnimation(path); });
     }
     if (keptMenu_->isEmpty()) keptMenu_->addAction(tr("None can be read"))->setEnabled(false);
 }
 
-void MainWindow::KeepAnimation() {
+void MainWindow::keepAnimation() {
     keepTimer_->stop();
-    if (keptCurrent_ || !kept_.Enabled() || script_.Count() == 0) return;
-    const auto error = kept_.Keep(script_);
+    if (keptCurrent_ || !kept_.enabled() || script_.Count() == 0) return;
+    const auto error = kept_.keep(script_);
     keptCurrent_ = !error;
     // Tried again in 30 seconds, and at the end of the program.
     if (error) keepTimer_->start();
-    ShowKeepProblem(error);
-    UpdateReopenAction();
+    showKeepProblem(error);
+    updateReopenAction();
 }
 
 // Never a message box: keeping runs at the end of the program too.
-void MainWindow::ShowKeepProblem(const std::optional<SaveError>& error) {
+void MainWindow::showKeepProblem(const std::optional<SaveError>& error) {
     if (!error) {
         if (keepProblem_ != nullptr) statusBar()->hide();
         return;
     }
-    qWarning("Flickerscribe: the animation could not be kept in %s: %s (%d)", qUtf8Printable(kept_.OwnFile()),
+    qWarning("Flickerscribe: the animation could not be kept in %s: %s (%d)", qUtf8Printable(kept_.ownFile()),
              error->text.c_str(), error->number);
     if (keepProblem_ == nullptr) {
         keepProblem_ = new QLabel(this);
@@ -84,26 +84,26 @@ void MainWindow::ShowKeepProblem(const std::optional<SaveError>& error) {
     statusBar()->show();
 }
 
-void MainWindow::ReopenLastAnimation() {
+void MainWindow::reopenLastAnimation() {
     // The newest that another run kept and that can be read whole.
-    for (const QString& path : kept_.Files()) {
-        if (path == kept_.OwnFile()) continue;
-        const LoadStatus status = history_.ReplaceLines(
+    for (const QString& path : kept_.files()) {
+        if (path == kept_.ownFile()) continue;
+        const LoadStatus status = history_.replaceLines(
             tr("Reopen last animation"),
-            [&](AnimationScript& script) { return LoadWholeAnimationFile(NativePath(path), script); });
-        if (status == LoadStatus::Truncated) ShowLineLimitMessage(dialogs_, this);
+            [&](AnimationScript& script) { return LoadWholeAnimationFile(nativePath(path), script); });
+        if (status == LoadStatus::Truncated) showLineLimitMessage(dialogs_, this);
         if (status != LoadStatus::ReadFailed) return;
     }
-    dialogs_.Message(this, tr("File not found!"), tr("Error"), MsgIcon::Critical, MsgButtons::Ok);
+    dialogs_.message(this, tr("File not found!"), tr("Error"), MsgIcon::Critical, MsgButtons::Ok);
 }
 
-void MainWindow::OpenKeptAnimation(const QString& path) {
-    LoadIntoList(tr("Open kept animation"), path, LoadWholeAnimationFile, tr("File not found!\n") + path,
+void MainWindow::openKeptAnimation(const QString& path) {
+    loadIntoList(tr("Open kept animation"), path, LoadWholeAnimationFile, tr("File not found!\n") + path,
                  tr("Error"));
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    KeepAnimation();
+    keepAnimation();
     QMainWindow::closeEvent(event);
 }
 

@@ -4,8 +4,8 @@
 
 #include "colour/NumberText.h"
 #include "ui/common/LineLimit.h"
-#include "ui/main/MainWindow.h"
 #include "ui/common/TextConv.h"
+#include "ui/main/MainWindow.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -15,24 +15,24 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace flickerscribe::ui {
 
-void MainWindow::AddLine(bool after) {
+void MainWindow::addLine(bool after) {
     // Before or after makes no difference in an empty list; the new line
     // becomes the selected one.
     const int selected = script_.SelectedIndex();
     const int index = script_.Count() == 0 ? 1 : after ? selected + 1 : selected;
-    if (!history_.InsertLine(tr("Add line"), index, AnimationLine{.Text = "Text"}))
-        ShowLineLimitMessage(dialogs_, this);
+    if (!history_.insertLine(tr("Add line"), index, AnimationLine{.Text = "Text"}))
+        showLineLimitMessage(dialogs_, this);
 }
 
-void MainWindow::RemoveSelectedLine() {
-    if (!history_.RemoveLine(tr("Remove line"), script_.SelectedIndex()))
-        dialogs_.Message(this, tr("Can't remove line."), QString(), MsgIcon::Information, MsgButtons::Ok);
+void MainWindow::removeSelectedLine() {
+    if (!history_.removeLine(tr("Remove line"), script_.SelectedIndex()))
+        dialogs_.message(this, tr("Can't remove line."), QString(), MsgIcon::Information, MsgButtons::Ok);
 }
 
-void MainWindow::CopyLines(CopyMode mode) {
+void MainWindow::copyLines(CopyMode mode) {
     if (script_.Count() < 1) {
         // The same title in all four modes, although they copy.
-        dialogs_.Message(this, tr("There are no lines to copy"), tr("Add line"), MsgIcon::Exclamation,
+        dialogs_.message(this, tr("There are no lines to copy"), tr("Add line"), MsgIcon::Exclamation,
                          MsgButtons::Ok);
         return;
     }
@@ -42,12 +42,12 @@ void MainWindow::CopyLines(CopyMode mode) {
     int times = 1;
     if (mode == CopyMode::SelectedLineTimes) {
         const QString answer = dialogs_
-                                   .InputBox(this, tr("Copy the selected line how many times?"),
+                                   .inputBox(this, tr("Copy the selected line how many times?"),
                                              tr("Copy selected line x times"), u"5"_s)
                                    .value_or(QString());
-        const std::optional<int> count = WholeNumber(FromQString(answer));
+        const std::optional<int> count = WholeNumber(fromQString(answer));
         if (!count) {
-            dialogs_.Message(this, tr("Can't copy the selected line. Invalid input (%1)").arg(answer),
+            dialogs_.message(this, tr("Can't copy the selected line. Invalid input (%1)").arg(answer),
                              tr("Error"), MsgIcon::Critical, MsgButtons::Ok);
             return;
         }
@@ -75,7 +75,7 @@ void MainWindow::CopyLines(CopyMode mode) {
                           lines.rbegin() + static_cast<std::ptrdiff_t>(std::min(lines.size(), room + 1)));
             break;
     }
-    if (!history_.AppendLines(tr("Copy lines"), std::move(copies))) ShowLineLimitMessage(dialogs_, this);
+    if (!history_.appendLines(tr("Copy lines"), std::move(copies))) showLineLimitMessage(dialogs_, this);
 }
 
 }  // namespace flickerscribe::ui

@@ -15,14 +15,14 @@ namespace flickerscribe::ui {
 
 namespace names = main_window_names;
 
-void MainWindow::ExportPicture() {
+void MainWindow::exportPicture() {
     const QString title = tr("Export animated picture");
     if (script_.Count() == 0) {
-        dialogs_.Message(this, tr("There is no animation to export!"), title, MsgIcon::Exclamation,
+        dialogs_.message(this, tr("There is no animation to export!"), title, MsgIcon::Exclamation,
                          MsgButtons::Ok);
         return;
     }
-    const auto path = ChooseSavePath(dialogs_, this, fileDialog_,
+    const auto path = chooseSavePath(dialogs_, this, fileDialog_,
                                      [this, &title] {
                                          fileDialog_.title = title;
                                          fileDialog_.filter = tr("Animated picture (*.gif)");
@@ -55,7 +55,7 @@ void MainWindow::ExportPicture() {
     });
     // Cancelled: nothing is written, an old file stays as it was.
     if (!bytes) return;
-    if (const auto error = WriteFileSafely(*path, *bytes)) ShowSaveError(dialogs_, this, *error);
+    if (const auto error = WriteFileSafely(*path, *bytes)) showSaveError(dialogs_, this, *error);
 }
 
 }  // namespace flickerscribe::ui

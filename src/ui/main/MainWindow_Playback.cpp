@@ -15,17 +15,17 @@ namespace flickerscribe::ui {
 
 namespace names = main_window_names;
 
-bool MainWindow::Playing() const {
+bool MainWindow::playing() const {
     return playTimer_->isActive();
 }
 
-void MainWindow::TogglePlayback() {
+void MainWindow::togglePlayback() {
     // Every press starts again from the first line; a stop forgets the place.
     playIndex_ = 1;
-    if (!Playing()) {
+    if (!playing()) {
         if (script_.Count() == 0) {
             // Whatever the answer, nothing else happens.
-            dialogs_.Message(this, tr("There is no animation to play!"), tr("Preview Animation"),
+            dialogs_.message(this, tr("There is no animation to play!"), tr("Preview Animation"),
                              MsgIcon::Exclamation, MsgButtons::OkCancel);
             return;
         }
@@ -35,7 +35,7 @@ void MainWindow::TogglePlayback() {
         removeAction_->setEnabled(false);
         previewBusy_ = true;
         playTimer_->start();
-        UpdateUndoActions();
+        updateUndoActions();
     } else {
         playAction_->setText(tr("Play"));
         playAction_->setIcon(playIcon_);
@@ -43,7 +43,7 @@ void MainWindow::TogglePlayback() {
         removeAction_->setEnabled(true);
         previewBusy_ = false;
         playTimer_->stop();
-        UpdateUndoActions();
+        updateUndoActions();
         // The last frame stays in the pane, but it is no line's text: the pane
         // takes no edit until it shows the selected line again, which the
         // user's next click, key or colour in the pane brings.
@@ -51,18 +51,18 @@ void MainWindow::TogglePlayback() {
     }
 }
 
-void MainWindow::ShowNextFrame() {
+void MainWindow::showNextFrame() {
     // The list is asked anew at each tick: a list that became shorter or
     // empty meanwhile ends playback here, without a word.
     if (script_.Count() == 0 || playIndex_ > script_.Count()) {
-        TogglePlayback();
+        togglePlayback();
         return;
     }
     RenderCodedText(script_.LineAt(playIndex_).Text, *preview_);
     paneShows_ = PaneShows::Frame;
     ++playIndex_;
     // The tick that shows the last line also stops; the frame stays.
-    if (playIndex_ > script_.Count()) TogglePlayback();
+    if (playIndex_ > script_.Count()) togglePlayback();
 }
 
 }  // namespace flickerscribe::ui

@@ -1,9 +1,9 @@
 #include "ui/dialogs/AboutDialog.h"
 #include "ui/dialogs/ColourNameEditor.h"
 #include "ui/dialogs/HelpDialog.h"
-#include "ui/main/MainWindow.h"
 #include "ui/dialogs/OptionsDialog.h"
 #include "ui/dialogs/SimpleEditWindow.h"
+#include "ui/main/MainWindow.h"
 #include "ui/wizard/WizardDialog.h"
 
 // The other windows, opened from the menus and the toolbar. The wizard is
@@ -11,7 +11,7 @@
 
 namespace flickerscribe::ui {
 
-void MainWindow::ShowWizard() {
+void MainWindow::showWizard() {
     // One wizard at a time: while it is open, the command only brings it forward.
     if (wizard_) {
         wizard_->raise();
@@ -24,28 +24,28 @@ void MainWindow::ShowWizard() {
     wizard->show();
 }
 
-void MainWindow::ShowColourNameEditor() {
+void MainWindow::showColourNameEditor() {
     ColourNameEditor window(dialogs_, this);
     window.exec();
 }
 
-void MainWindow::ShowSimpleEdit() {
+void MainWindow::showSimpleEdit() {
     SimpleEditWindow window(history_, dialogs_, this);
     window.exec();
 }
 
-void MainWindow::ShowOptions() {
+void MainWindow::showOptions() {
     OptionsDialog window(
-        store_, dialogs_, [this] { LoadSettings(); }, this);
+        store_, dialogs_, [this] { loadSettings(); }, this);
     window.exec();
 }
 
-void MainWindow::ShowHelp() {
+void MainWindow::showHelp() {
     HelpDialog window(dialogs_, this);
     window.exec();
 }
 
-void MainWindow::ShowAbout() {
+void MainWindow::showAbout() {
     AboutDialog window(this);
     window.exec();
 }

@@ -20,7 +20,7 @@ public:
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override {
         QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
-        if (auto* box = qobject_cast<QLineEdit*>(editor)) KeepOnOneLine(box);
+        if (auto* box = qobject_cast<QLineEdit*>(editor)) keepOnOneLine(box);
         return editor;
     }
 
@@ -53,7 +53,7 @@ void LineListView::keyPressEvent(QKeyEvent* event) {
     const int key = event->key();
     const Qt::KeyboardModifiers modifiers = event->modifiers();
     QTableView::keyPressEvent(event);
-    emit KeyPressed(key, modifiers);
+    emit keyPressed(key, modifiers);
 }
 
 QModelIndex LineListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {

@@ -18,7 +18,7 @@ public:
 
 signals:
     // A key was pressed, after the list has moved its current row for it.
-    void KeyPressed(int key, Qt::KeyboardModifiers modifiers);
+    void keyPressed(int key, Qt::KeyboardModifiers modifiers);
 
 protected:
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,

@@ -40,7 +40,7 @@ public:
     }
 };
 
-QAccessibleInterface* MenuButtons(const QString&, QObject* object) {
+QAccessibleInterface* menuButtons(const QString&, QObject* object) {
     auto* button = qobject_cast<QToolButton*>(object);
     if (button == nullptr || button->popupMode() != QToolButton::MenuButtonPopup) return nullptr;
     return new MenuButtonAccessible(button);
@@ -48,14 +48,14 @@ QAccessibleInterface* MenuButtons(const QString&, QObject* object) {
 
 }  // namespace
 
-void GiveMenuButtonItsPressAction(QToolButton* button) {
+void giveMenuButtonItsPressAction(QToolButton* button) {
     static const bool installed = [] {
-        QAccessible::installFactory(MenuButtons);
+        QAccessible::installFactory(menuButtons);
         return true;
     }();
     (void)installed;
     // The interface Qt made when the button was new, before it had its menu,
-    // goes: the next one asked for comes from MenuButtons.
+    // goes: the next one asked for comes from menuButtons.
     if (QAccessibleInterface* made = QAccessible::queryAccessibleInterface(button))
         QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(made));
 }

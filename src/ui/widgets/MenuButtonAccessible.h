@@ -9,6 +9,6 @@ namespace flickerscribe::ui {
 // own command, and ShowMenu, with the menu's entries as its child. Qt's own
 // interface offers only ShowMenu for it. Call once the button has its menu
 // and its popup mode.
-void GiveMenuButtonItsPressAction(QToolButton* button);
+void giveMenuButtonItsPressAction(QToolButton* button);
 
 }  // namespace flickerscribe::ui

@@ -20,7 +20,7 @@ void PlainPasteEdit::insertFromMimeData(const QMimeData* source) {
     // The cursor's own format is the colour in force; a fragment would bring
     // the default one instead.
     QTextCursor cursor = textCursor();
-    cursor.insertText(Pasted(source->text()));
+    cursor.insertText(pasted(source->text()));
     setTextCursor(cursor);
 }
 
@@ -39,8 +39,8 @@ void OneLineRichEdit::keyPressEvent(QKeyEvent* event) {
     QTextEdit::keyPressEvent(event);
 }
 
-QString OneLineRichEdit::Pasted(QString text) const {
-    return OnOneLine(std::move(text));
+QString OneLineRichEdit::pasted(QString text) const {
+    return onOneLine(std::move(text));
 }
 
 }  // namespace flickerscribe::ui

@@ -15,7 +15,7 @@ protected:
     bool canInsertFromMimeData(const QMimeData* source) const override;
     void insertFromMimeData(const QMimeData* source) override;
     // What becomes of a pasted or dropped text before it goes in.
-    virtual QString Pasted(QString text) const { return text; }
+    virtual QString pasted(QString text) const { return text; }
 };
 
 // A pane that holds a single line: no wrapping, no scroll bars, Enter doesn't
@@ -27,7 +27,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
-    QString Pasted(QString text) const override;
+    QString pasted(QString text) const override;
 };
 
 }  // namespace flickerscribe::ui

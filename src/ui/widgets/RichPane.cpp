@@ -11,8 +11,8 @@
 #include <QTextEdit>
 #include <algorithm>
 
-#include "ui/widgets/PaneStyle.h"
 #include "ui/common/TextConv.h"
+#include "ui/widgets/PaneStyle.h"
 
 namespace flickerscribe::ui {
 
@@ -20,7 +20,7 @@ namespace {
 
 // A character that was never painted has no brush of its own and shows in the
 // pane's default colour, black.
-Colour ColourOf(const QTextCharFormat& format) {
+Colour colourOf(const QTextCharFormat& format) {
     if (!format.hasProperty(QTextFormat::ForegroundBrush)) return kBlack;
     const QBrush brush = format.foreground();
     if (brush.style() == Qt::NoBrush) return kBlack;
@@ -29,7 +29,7 @@ Colour ColourOf(const QTextCharFormat& format) {
                static_cast<unsigned>(c.blue()));
 }
 
-QTextCharFormat FormatOf(Colour colour) {
+QTextCharFormat formatOf(Colour colour) {
     QTextCharFormat format;
     format.setForeground(toQColor(colour));
     return format;
@@ -37,14 +37,14 @@ QTextCharFormat FormatOf(Colour colour) {
 
 // Number of pane characters: the document always ends with one paragraph
 // separator that is no character of the pane.
-int Length(const QTextDocument& doc) {
+int textLength(const QTextDocument& doc) {
     return std::max(0, doc.characterCount() - 1);
 }
 
 // The colour of the character at `position`. A paragraph break has no colour
 // of its own in the pane: it takes the colour of the last character in front
 // of it, so that it never makes a colour change by itself.
-Colour ColourAt(const QTextDocument& doc, int position) {
+Colour colourAt(const QTextDocument& doc, int position) {
     QTextBlock block = doc.findBlock(position);
     if (position == block.position() + block.length() - 1) {  // the break behind this block
         while (block.isValid() && block.length() <= 1) block = block.previous();
@@ -53,7 +53,7 @@ Colour ColourAt(const QTextDocument& doc, int position) {
     }
     QTextCursor probe(const_cast<QTextDocument*>(&doc));
     probe.setPosition(position + 1);
-    return ColourOf(probe.charFormat());
+    return colourOf(probe.charFormat());
 }
 
 }  // namespace
@@ -69,7 +69,7 @@ std::string RichPane::Text() const {
     QString text = edit_->document()->toRawText();
     text.replace(QChar::ParagraphSeparator, u'\n');
     text.replace(QChar::LineSeparator, u'\n');
-    return FromQString(text);
+    return fromQString(text);
 }
 
 void RichPane::SetText(std::string_view text) {
@@ -84,7 +84,7 @@ int RichPane::SelStart() const {
 void RichPane::SetSelStart(int position) {
     pending_.reset();
     QTextCursor cursor = edit_->textCursor();
-    cursor.setPosition(std::clamp(position, 0, Length(*edit_->document())));
+    cursor.setPosition(std::clamp(position, 0, textLength(*edit_->document())));
     edit_->setTextCursor(cursor);
 }
 
@@ -97,7 +97,7 @@ void RichPane::SetSelLength(int length) {
     pending_.reset();
     QTextCursor cursor = edit_->textCursor();
     const int start = cursor.selectionStart();
-    const int end = std::clamp(start + std::max(0, length), start, Length(*edit_->document()));
+    const int end = std::clamp(start + std::max(0, length), start, textLength(*edit_->document()));
     cursor.setPosition(start);
     cursor.setPosition(end, QTextCursor::KeepAnchor);
     edit_->setTextCursor(cursor);
@@ -105,11 +105,11 @@ void RichPane::SetSelLength(int length) {
 
 Colour RichPane::SelColour() const {
     const QTextCursor cursor = edit_->textCursor();
-    if (cursor.hasSelection()) return ColourAt(*edit_->document(), cursor.selectionStart());
+    if (cursor.hasSelection()) return colourAt(*edit_->document(), cursor.selectionStart());
     // The widget forgets a chosen colour when the caret moves; so do we.
-    if (pending_ && cursor.position() == pendingAt_ && ColourOf(cursor.charFormat()) == *pending_)
+    if (pending_ && cursor.position() == pendingAt_ && colourOf(cursor.charFormat()) == *pending_)
         return *pending_;
-    if (cursor.position() > 0) return ColourAt(*edit_->document(), cursor.position() - 1);
+    if (cursor.position() > 0) return colourAt(*edit_->document(), cursor.position() - 1);
     return kBlack;
 }
 
@@ -120,7 +120,7 @@ void RichPane::SetSelColour(Colour colour) {
         pendingAt_ = cursor.position();
     }
     // With nothing selected this is the colour the widget types in next.
-    cursor.mergeCharFormat(FormatOf(colour));
+    cursor.mergeCharFormat(formatOf(colour));
     edit_->setTextCursor(cursor);
 }
 
@@ -129,7 +129,7 @@ void RichPane::SetSelText(std::string_view text) {
     if (text.empty() && !cursor.hasSelection()) return;
     const Colour colour = SelColour();
     pending_.reset();
-    cursor.insertText(ToQString(text), FormatOf(colour));
+    cursor.insertText(toQString(text), formatOf(colour));
     edit_->setTextCursor(cursor);
 }
 
@@ -158,8 +158,8 @@ void RichPane::SetRuns(const std::vector<ColouredRun>& runs) {
     for (const ColouredRun& run : runs) {
         if (run.text.empty()) continue;
         auto it = formats.find(run.colour);
-        if (it == formats.end()) it = formats.insert(run.colour, FormatOf(run.colour));
-        cursor.insertText(ToQString(run.text), *it);
+        if (it == formats.end()) it = formats.insert(run.colour, formatOf(run.colour));
+        cursor.insertText(toQString(run.text), *it);
     }
     cursor.endEditBlock();
     doc->setUndoRedoEnabled(undo);
@@ -190,11 +190,11 @@ std::vector<ColouredRun> RichPane::Runs() const {
             if (!fragment.isValid()) continue;
             const int index = fragment.charFormatIndex();
             auto found = colours.constFind(index);
-            if (found == colours.constEnd()) found = colours.insert(index, ColourOf(fragment.charFormat()));
+            if (found == colours.constEnd()) found = colours.insert(index, colourOf(fragment.charFormat()));
             // A soft line break (pasted rich text brings them) is a break too.
             QString text = fragment.text();
             text.replace(QChar::LineSeparator, u'\n');
-            add(FromQString(text), *found);
+            add(fromQString(text), *found);
         }
     }
     return runs;

@@ -17,7 +17,7 @@ class RichPane : public Pane {
 public:
     explicit RichPane(QTextEdit* edit);
 
-    QTextEdit* Widget() const { return edit_; }
+    QTextEdit* widget() const { return edit_; }
 
     std::string Text() const override;
     void SetText(std::string_view text) override;

@@ -30,14 +30,14 @@ int ScriptModel::columnCount(const QModelIndex& parent) const {
 QVariant ScriptModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || index.row() >= script_.Count()) return {};
     if (role != Qt::DisplayRole && role != Qt::EditRole) return {};
-    const AnimationLine& line = script_.LineAt(LineOfRow(index.row()));
+    const AnimationLine& line = script_.LineAt(lineOfRow(index.row()));
     switch (index.column()) {
         case kText:
-            return ToQString(line.Text);
+            return toQString(line.Text);
         case kTime:
-            return ToQString(line.Time);
+            return toQString(line.Time);
         case kAction:
-            return ToQString(line.Action);
+            return toQString(line.Action);
         default:
             return {};
     }
@@ -67,13 +67,13 @@ Qt::ItemFlags ScriptModel::flags(const QModelIndex& index) const {
 bool ScriptModel::setData(const QModelIndex& index, const QVariant& value, int role) {
     if (!index.isValid() || index.column() != kText || role != Qt::EditRole) return false;
     if (index.row() >= script_.Count()) return false;
-    emit TextEdited(LineOfRow(index.row()), value.toString());
+    emit textEdited(lineOfRow(index.row()), value.toString());
     return true;
 }
 
 void ScriptModel::AboutToInsert(int index) {
     ++changing_;
-    beginInsertRows({}, RowOfLine(index), RowOfLine(index));
+    beginInsertRows({}, rowOfLine(index), rowOfLine(index));
 }
 
 void ScriptModel::Inserted(int) {
@@ -83,7 +83,7 @@ void ScriptModel::Inserted(int) {
 
 void ScriptModel::AboutToRemove(int index) {
     ++changing_;
-    beginRemoveRows({}, RowOfLine(index), RowOfLine(index));
+    beginRemoveRows({}, rowOfLine(index), rowOfLine(index));
 }
 
 void ScriptModel::Removed(int) {
@@ -92,7 +92,7 @@ void ScriptModel::Removed(int) {
 }
 
 void ScriptModel::LineChanged(int index) {
-    emit dataChanged(IndexOfLine(index, kText), IndexOfLine(index, kAction));
+    emit dataChanged(indexOfLine(index, kText), indexOfLine(index, kAction));
 }
 
 void ScriptModel::AboutToReset() {
@@ -106,7 +106,7 @@ void ScriptModel::ResetDone() {
 }
 
 void ScriptModel::SelectionChanged(int index) {
-    emit SelectedLineChanged(index);
+    emit selectedLineChanged(index);
 }
 
 }  // namespace flickerscribe::ui

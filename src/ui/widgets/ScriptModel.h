@@ -18,22 +18,22 @@ public:
 
     // The one place where the script's lines, counted from 1, meet the
     // model's rows, counted from 0.
-    static constexpr int LineOfRow(int row) { return row + 1; }
-    static constexpr int RowOfLine(int line) { return line - 1; }
-    QModelIndex IndexOfLine(int line, int column = 0) const { return index(RowOfLine(line), column); }
+    static constexpr int lineOfRow(int row) { return row + 1; }
+    static constexpr int rowOfLine(int line) { return line - 1; }
+    QModelIndex indexOfLine(int line, int column = 0) const { return index(rowOfLine(line), column); }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
-    // Only the Text column takes an edit; it is passed on as TextEdited.
+    // Only the Text column takes an edit; it is passed on as textEdited.
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
 
     // True between the script's announcement of a change and its end: the
     // view's own moves of its current row in that time are no choice of the
     // user.
-    bool Changing() const { return changing_ > 0; }
+    bool changing() const { return changing_ > 0; }
 
     void AboutToInsert(int index) override;
     void Inserted(int index) override;
@@ -46,9 +46,9 @@ public:
 
 signals:
     // The script's selected line is now `index` (0 for none).
-    void SelectedLineChanged(int index);
+    void selectedLineChanged(int index);
     // The user edited the Text of line `index` in place.
-    void TextEdited(int index, const QString& text);
+    void textEdited(int index, const QString& text);
 
 private:
     AnimationScript& script_;

@@ -14,29 +14,29 @@ public:
 
     State validate(QString& input, int& position) const override {
         const qsizetype before = input.size();
-        input = OnOneLine(std::move(input));
+        input = onOneLine(std::move(input));
         // A CR LF became one blank: the caret moves back with the text.
         position = static_cast<int>(std::max<qsizetype>(0, position - (before - input.size())));
         return Acceptable;
     }
 };
 
-bool IsBreak(QChar c) {
+bool isBreak(QChar c) {
     return c == u'\r' || c == u'\n' || c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
 }
 
 }  // namespace
 
-QString OnOneLine(QString text) {
-    if (!std::any_of(text.cbegin(), text.cend(), IsBreak)) return text;
+QString onOneLine(QString text) {
+    if (!std::any_of(text.cbegin(), text.cend(), isBreak)) return text;
     text.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
     for (QChar& c : text) {
-        if (IsBreak(c)) c = u' ';
+        if (isBreak(c)) c = u' ';
     }
     return text;
 }
 
-void KeepOnOneLine(QLineEdit* box) {
+void keepOnOneLine(QLineEdit* box) {
     box->setMaxLength(std::numeric_limits<int>::max());
     box->setValidator(new OneLineValidator(box));
 }

@@ -16,14 +16,14 @@ using namespace Qt::Literals::StringLiterals;
 namespace flickerscribe::ui {
 namespace {
 
-QColor GameColour(char digit) {
+QColor gameColour(char digit) {
     const Colour c = ColourFromDigit(std::string(1, digit));
     return QColor(static_cast<int>(RedOf(c)), static_cast<int>(GreenOf(c)), static_cast<int>(BlueOf(c)));
 }
 
 // A transparent picture of `width` x `height` logical pixels, sharp on a
 // high-density screen too.
-QPixmap Canvas(int width, int height) {
+QPixmap canvas(int width, int height) {
     const qreal ratio = qGuiApp != nullptr ? qGuiApp->devicePixelRatio() : 1.0;
     QPixmap pixmap(qRound(width * ratio), qRound(height * ratio));
     pixmap.setDevicePixelRatio(ratio);
@@ -31,7 +31,7 @@ QPixmap Canvas(int width, int height) {
     return pixmap;
 }
 
-QFont PixelFont(const QString& family, int pixels, bool bold, QFont::StyleHint hint) {
+QFont pixelFont(const QString& family, int pixels, bool bold, QFont::StyleHint hint) {
     QFont font(family);
     font.setStyleHint(hint);
     font.setPixelSize(pixels);
@@ -42,13 +42,13 @@ QFont PixelFont(const QString& family, int pixels, bool bold, QFont::StyleHint h
 // Draws `text` at the baseline (x, y), each character in the colour of the
 // digit at the same place in `digits`, with a soft shadow; gives the x behind
 // the last character.
-qreal DrawColouredText(QPainter& p, qreal x, qreal y, const QString& text, const char* digits) {
+qreal drawColouredText(QPainter& p, qreal x, qreal y, const QString& text, const char* digits) {
     const QFontMetricsF metrics(p.font());
     for (qsizetype i = 0; i < text.size(); ++i) {
         const QString ch = text.mid(i, 1);
         p.setPen(QColor(0, 0, 0, 150));
         p.drawText(QPointF(x + 1, y + 1), ch);
-        p.setPen(GameColour(digits[i]));
+        p.setPen(gameColour(digits[i]));
         p.drawText(QPointF(x, y), ch);
         x += metrics.horizontalAdvance(ch);
     }
@@ -56,7 +56,7 @@ qreal DrawColouredText(QPainter& p, qreal x, qreal y, const QString& text, const
 }
 
 // A four-pointed star of radius r around (cx, cy).
-void DrawSparkle(QPainter& p, QPointF centre, qreal r, const QColor& colour) {
+void drawSparkle(QPainter& p, QPointF centre, qreal r, const QColor& colour) {
     QPainterPath star;
     const qreal w = r * 0.28;
     star.moveTo(centre.x(), centre.y() - r);
@@ -70,7 +70,7 @@ void DrawSparkle(QPainter& p, QPointF centre, qreal r, const QColor& colour) {
 }
 
 // The rounded tile that every band picture stands on.
-void DrawTile(QPainter& p, const QColor& top, const QColor& bottom) {
+void drawTile(QPainter& p, const QColor& top, const QColor& bottom) {
     QLinearGradient fill(0, 0, 55, 55);
     fill.setColorAt(0, top);
     fill.setColorAt(1, bottom);
@@ -86,35 +86,35 @@ void DrawTile(QPainter& p, const QColor& top, const QColor& bottom) {
     p.drawRoundedRect(QRectF(4, 4, 47, 24), 7, 7);
 }
 
-void DrawWand(QPainter& p) {
-    DrawTile(p, QColor(58, 82, 200), QColor(70, 24, 120));
+void drawWand(QPainter& p) {
+    drawTile(p, QColor(58, 82, 200), QColor(70, 24, 120));
     p.setPen(QPen(QColor(20, 20, 30), 5, Qt::SolidLine, Qt::RoundCap));
     p.drawLine(QPointF(14, 42), QPointF(32, 24));
     p.setPen(QPen(Qt::white, 5, Qt::SolidLine, Qt::RoundCap));
     p.drawLine(QPointF(32, 24), QPointF(36, 20));
-    DrawSparkle(p, QPointF(40, 15), 8, GameColour('3'));
-    DrawSparkle(p, QPointF(25, 12), 4, GameColour('5'));
-    DrawSparkle(p, QPointF(44, 31), 4.5, GameColour('6'));
-    DrawSparkle(p, QPointF(33, 36), 2.5, Qt::white);
+    drawSparkle(p, QPointF(40, 15), 8, gameColour('3'));
+    drawSparkle(p, QPointF(25, 12), 4, gameColour('5'));
+    drawSparkle(p, QPointF(44, 31), 4.5, gameColour('6'));
+    drawSparkle(p, QPointF(33, 36), 2.5, Qt::white);
 }
 
-void DrawNameTag(QPainter& p) {
-    DrawTile(p, QColor(30, 150, 160), QColor(24, 50, 120));
+void drawNameTag(QPainter& p) {
+    drawTile(p, QColor(30, 150, 160), QColor(24, 50, 120));
     // A little grey pane holding a coloured name under its clan tag.
     p.setPen(QPen(QColor(40, 40, 40), 1));
     p.setBrush(QColor(128, 128, 128));
     p.drawRoundedRect(QRectF(7.5, 24.5, 40, 20), 3, 3);
-    p.setFont(PixelFont(u"DejaVu Sans"_s, 9, true, QFont::SansSerif));
+    p.setFont(pixelFont(u"DejaVu Sans"_s, 9, true, QFont::SansSerif));
     p.setPen(Qt::white);
     p.drawText(QRectF(7, 9, 41, 13), Qt::AlignCenter, u"[QZT]"_s);
-    p.setFont(PixelFont(u"DejaVu Sans"_s, 15, true, QFont::SansSerif));
+    p.setFont(pixelFont(u"DejaVu Sans"_s, 15, true, QFont::SansSerif));
     const QFontMetricsF metrics(p.font());
     const qreal width = metrics.horizontalAdvance(u"Kat"_s);
-    DrawColouredText(p, 27.5 - width / 2, 40, u"Kat"_s, "132");
+    drawColouredText(p, 27.5 - width / 2, 40, u"Kat"_s, "132");
 }
 
-void DrawWave(QPainter& p) {
-    DrawTile(p, QColor(150, 40, 150), QColor(50, 20, 100));
+void drawWave(QPainter& p) {
+    drawTile(p, QColor(150, 40, 150), QColor(50, 20, 100));
     const auto waveY = [](qreal x) { return 29 - 7 * std::sin((x - 7) / 41.0 * 2 * M_PI); };
     QPainterPath curve;
     curve.moveTo(7, waveY(7));
@@ -124,7 +124,7 @@ void DrawWave(QPainter& p) {
     p.drawPath(curve);
 
     // The letters ride the wave, each on the curve at its middle.
-    p.setFont(PixelFont(u"DejaVu Sans"_s, 13, true, QFont::SansSerif));
+    p.setFont(pixelFont(u"DejaVu Sans"_s, 13, true, QFont::SansSerif));
     const QFontMetricsF metrics(p.font());
     const QString letters = u"Wave"_s;
     const char digits[] = "1352";
@@ -133,17 +133,17 @@ void DrawWave(QPainter& p) {
         const QString letter = letters.mid(i, 1);
         const qreal advance = metrics.horizontalAdvance(letter);
         const char digit[2] = {digits[i], '\0'};
-        DrawColouredText(p, x, waveY(x + advance / 2) + 4.5, letter, digit);
+        drawColouredText(p, x, waveY(x + advance / 2) + 4.5, letter, digit);
         x += advance;
     }
 }
 
 }  // namespace
 
-QPixmap WizardSidePicture() {
+QPixmap wizardSidePicture() {
     constexpr int kWidth = 164;
     constexpr int kHeight = 313;
-    QPixmap pixmap = Canvas(kWidth, kHeight);
+    QPixmap pixmap = canvas(kWidth, kHeight);
     QPainter p(&pixmap);
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::TextAntialiasing);
@@ -172,7 +172,7 @@ QPixmap WizardSidePicture() {
     // One frame a row: the tag, then the name growing by a letter each frame.
     const QString name = u"Quillon"_s;
     const char* digits = "1325637";
-    p.setFont(PixelFont(u"DejaVu Sans Mono"_s, 14, true, QFont::TypeWriter));
+    p.setFont(pixelFont(u"DejaVu Sans Mono"_s, 14, true, QFont::TypeWriter));
     for (int k = 1; k <= name.size(); ++k) {
         const bool last = k == name.size();
         const QRectF frame(19.5, 14.5 + (k - 1) * 30, 125, 23);
@@ -180,8 +180,8 @@ QPixmap WizardSidePicture() {
         p.setBrush(last ? QColor(128, 128, 128) : QColor(128, 128, 128, 60 + k * 15));
         p.drawRoundedRect(frame, 3, 3);
         const qreal baseline = frame.top() + 16.5;
-        const qreal x = DrawColouredText(p, frame.left() + 6, baseline, u"[QZT]"_s, "77777");
-        DrawColouredText(p, x, baseline, name.left(k), digits);
+        const qreal x = drawColouredText(p, frame.left() + 6, baseline, u"[QZT]"_s, "77777");
+        drawColouredText(p, x, baseline, name.left(k), digits);
     }
 
     // A play button under the frames.
@@ -197,25 +197,25 @@ QPixmap WizardSidePicture() {
     p.setPen(Qt::NoPen);
     p.setBrush(QColor(255, 255, 255, 220));
     p.drawPath(play);
-    DrawSparkle(p, QPointF(118, 246), 6, GameColour('3'));
-    DrawSparkle(p, QPointF(44, 290), 4, GameColour('5'));
+    drawSparkle(p, QPointF(118, 246), 6, gameColour('3'));
+    drawSparkle(p, QPointF(44, 290), 4, gameColour('5'));
     return pixmap;
 }
 
-QPixmap WizardBandPicture(int page) {
-    QPixmap pixmap = Canvas(55, 55);
+QPixmap wizardBandPicture(int page) {
+    QPixmap pixmap = canvas(55, 55);
     QPainter p(&pixmap);
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::TextAntialiasing);
     switch (page) {
         case 2:
-            DrawWand(p);
+            drawWand(p);
             break;
         case 3:
-            DrawNameTag(p);
+            drawNameTag(p);
             break;
         default:
-            DrawWave(p);
+            drawWave(p);
             break;
     }
     return pixmap;

@@ -9,11 +9,11 @@ namespace flickerscribe::ui {
 
 // The tall picture down the left side of the welcome page, 164 x 313 pixels:
 // a strip of film whose frames spell a name letter by letter.
-QPixmap WizardSidePicture();
+QPixmap wizardSidePicture();
 
 // The 55 x 55 picture at the right end of the white band of page 2, 3 or 4:
 // a wand for the style, a coloured name tag for the name, a wave of letters
 // for the effects.
-QPixmap WizardBandPicture(int page);
+QPixmap wizardBandPicture(int page);
 
 }  // namespace flickerscribe::ui

@@ -14,12 +14,11 @@
 #include "document/AnimationScript.h"
 #include "settings/Settings.h"
 #include "ui/common/AnimationHistory.h"
-#include "ui/dialogs/ColourNameEditor.h"
-#include "ui/dialogs/DialogWindow.h"
 #include "ui/common/Dialogs.h"
 #include "ui/common/LineLimit.h"
 #include "ui/common/TextConv.h"
-#include "ui/common/Twips.h"
+#include "ui/dialogs/ColourNameEditor.h"
+#include "ui/dialogs/DialogWindow.h"
 #include "ui/wizard/WizardDialogNames.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -33,7 +32,7 @@ namespace {
 constexpr int kEffectRole = Qt::UserRole;
 
 // The name by which the effect engine knows an effect.
-std::string EngineName(WizardDialog::Effect effect) {
+std::string engineName(WizardDialog::Effect effect) {
     return effect == WizardDialog::Effect::Bounce ? "Bounce" : "Wave 2";
 }
 
@@ -42,10 +41,10 @@ std::string EngineName(WizardDialog::Effect effect) {
 WizardDialog::WizardDialog(AnimationHistory& history, Dialogs& dialogs, const settings::Settings& settings,
                            QWidget* parent)
     : QWizard(parent), history_(history), dialogs_(dialogs) {
-    // The window is 7530 x 5790 twips from edge to edge; a fixed single border
-    // of 45 twips on each side and a caption bar of 315 leave this client area.
+    // The wizard keeps one size, 502 x 386 pixels with its frame and caption:
+    // the pages and the side picture are drawn for it.
     setUpDialog(*this, names::kWindow, tr("Animation Script Wizard"), WindowSize::Fixed);
-    setFixedSize(Twips(7440), Twips(5385));
+    setFixedSize(496, 359);
     // A white header over each page, the picture down the side of the first.
     setWizardStyle(QWizard::ModernStyle);
     // The etched lines under the header and over the buttons: a dark grey one
@@ -92,7 +91,7 @@ void WizardDialog::loadDefaults(const settings::Settings& settings) {
 }
 
 void WizardDialog::reject() {
-    if (dialogs_.Message(this, tr("Are you sure you want to exit the wizard?"), tr("Exit wizard?"),
+    if (dialogs_.message(this, tr("Are you sure you want to exit the wizard?"), tr("Exit wizard?"),
                          MsgIcon::Question, MsgButtons::YesNo) == MsgAnswer::Yes) {
         QWizard::reject();
     }
@@ -107,25 +106,25 @@ void WizardDialog::closeEvent(QCloseEvent* event) {
 void WizardDialog::accept() {
     // The boxes of the selected option count; the other option's text is ignored.
     const bool nameOnly = nameOptions_[0]->isChecked();
-    const std::string name = FromQString(nameBoxes_[nameOnly ? 0 : 1]->text());
-    const std::string clanTag = nameOnly ? std::string() : FromQString(clanTagBox_->text());
+    const std::string name = fromQString(nameBoxes_[nameOnly ? 0 : 1]->text());
+    const std::string clanTag = nameOnly ? std::string() : fromQString(clanTagBox_->text());
     const bool reverse = tagBehindNameCheck_->isChecked();
 
     const YesNoQuestion ask = [this](const std::string& title, const std::string& text) {
-        return dialogs_.Message(this, ToQString(text), ToQString(title), MsgIcon::Question,
+        return dialogs_.message(this, toQString(text), toQString(title), MsgIcon::Question,
                                 MsgButtons::YesNo) == MsgAnswer::Yes;
     };
-    const EffectRunResult result = history_.ReplaceLines(tr("Wizard"), [&](AnimationScript& script) {
+    const EffectRunResult result = history_.replaceLines(tr("Wizard"), [&](AnimationScript& script) {
         return RunEffectList(script, name, clanTag, reverse, effectRows(), ask);
     });
     if (result.inputRefused) {
-        dialogs_.Message(
+        dialogs_.message(
             this,
             tr("A name or a clan tag can hold at most %1 characters. The animation was left as it was.")
                 .arg(kMaxEffectTextLength),
             tr("Animation Script Wizard"), MsgIcon::Exclamation, MsgButtons::Ok);
     } else if (result.lineLimitReached) {
-        ShowLineLimitMessage(dialogs_, this);
+        showLineLimitMessage(dialogs_, this);
     }
     QWizard::accept();
 }
@@ -146,7 +145,7 @@ void WizardDialog::addEffect() {
 }
 
 void WizardDialog::showEffectPreview() {
-    dialogs_.Message(this, tr("Preview not available yet!"), tr("Effect - Preview"), MsgIcon::Information,
+    dialogs_.message(this, tr("Preview not available yet!"), tr("Effect - Preview"), MsgIcon::Information,
                      MsgButtons::Ok);
 }
 
@@ -180,8 +179,8 @@ std::vector<EffectRow> WizardDialog::effectRows() const {
     rows.reserve(static_cast<std::size_t>(effectList_->topLevelItemCount()));
     for (int i = 0; i < effectList_->topLevelItemCount(); ++i) {
         const QTreeWidgetItem* item = effectList_->topLevelItem(i);
-        rows.push_back({EngineName(item->data(0, kEffectRole).value<Effect>()), FromQString(item->text(1)),
-                        FromQString(item->text(2))});
+        rows.push_back({engineName(item->data(0, kEffectRole).value<Effect>()), fromQString(item->text(1)),
+                        fromQString(item->text(2))});
     }
     return rows;
 }

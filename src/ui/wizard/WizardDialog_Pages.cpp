@@ -26,24 +26,24 @@ namespace names = wizard_names;
 namespace {
 
 template <typename Control>
-Control* Named(Control* control, const QString& name) {
+Control* named(Control* control, const QString& name) {
     control->setObjectName(name);
     return control;
 }
 
 // A page under the header band: its heading, its line of text and its picture
 // stand in the wizard's header.
-QWizardPage* BandPage(int page, const QString& heading, const QString& line) {
-    auto* container = Named(new QWizardPage, names::kPage.arg(page));
+QWizardPage* bandPage(int page, const QString& heading, const QString& line) {
+    auto* container = named(new QWizardPage, names::kPage.arg(page));
     container->setTitle(heading);
     container->setSubTitle(line);
-    container->setPixmap(QWizard::LogoPixmap, WizardBandPicture(page));
+    container->setPixmap(QWizard::LogoPixmap, wizardBandPicture(page));
     return container;
 }
 
 // The one frame that fills a band page, with the page's margins around it.
-QGroupBox* AddFrame(QWizardPage* page, const QString& name, const QString& caption) {
-    auto* frame = Named(new QGroupBox(caption), name);
+QGroupBox* addFrame(QWizardPage* page, const QString& name, const QString& caption) {
+    auto* frame = named(new QGroupBox(caption), name);
     auto* layout = new QVBoxLayout(page);
     layout->setContentsMargins(3, 6, 3, 8);
     layout->addWidget(frame);
@@ -51,7 +51,7 @@ QGroupBox* AddFrame(QWizardPage* page, const QString& name, const QString& capti
 }
 
 // The column of rows inside a frame, clear of its edges and its caption.
-QVBoxLayout* FrameRows(QGroupBox* frame, int top, int bottom) {
+QVBoxLayout* frameRows(QGroupBox* frame, int top, int bottom) {
     auto* rows = new QVBoxLayout(frame);
     rows->setContentsMargins(13, top, 13, bottom);
     rows->setSpacing(0);
@@ -60,7 +60,7 @@ QVBoxLayout* FrameRows(QGroupBox* frame, int top, int bottom) {
 
 // A row of boxes indented under an option: each box takes its parts of the
 // row's width, and `rest` parts stay empty behind them.
-QHBoxLayout* IndentedRow(std::initializer_list<std::pair<QWidget*, int>> boxes, int rest) {
+QHBoxLayout* indentedRow(std::initializer_list<std::pair<QWidget*, int>> boxes, int rest) {
     auto* row = new QHBoxLayout;
     row->setSpacing(4);
     row->addSpacing(20);
@@ -75,15 +75,15 @@ QHBoxLayout* IndentedRow(std::initializer_list<std::pair<QWidget*, int>> boxes, 
 }  // namespace
 
 void WizardDialog::addWelcomePage() {
-    auto* page = Named(new QWizardPage, names::kWelcomePage);
-    page->setPixmap(QWizard::WatermarkPixmap, WizardSidePicture());
+    auto* page = named(new QWizardPage, names::kWelcomePage);
+    page->setPixmap(QWizard::WatermarkPixmap, wizardSidePicture());
 
-    auto* heading = Named(new QLabel(tr("Welcome to the Animation Script Wizard")), names::kWelcomeHeading);
+    auto* heading = named(new QLabel(tr("Welcome to the Animation Script Wizard")), names::kWelcomeHeading);
     QFont large = heading->font();
     large.setPointSizeF(13.5);
     heading->setFont(large);
     heading->setWordWrap(true);
-    auto* text = Named(new QLabel(tr("With this wizard, you can create cool animation effects in just a few "
+    auto* text = named(new QLabel(tr("With this wizard, you can create cool animation effects in just a few "
                                      "minutes.\n\nClick Next to continue or Cancel to exit.")),
                        names::kWelcomeText);
     text->setWordWrap(true);
@@ -99,13 +99,13 @@ void WizardDialog::addWelcomePage() {
 
 void WizardDialog::addStylePage() {
     QWizardPage* page =
-        BandPage(StylePage, tr("Select wizard type"), tr("Select the wizard style (simple/advanced)"));
-    QGroupBox* frame = AddFrame(page, names::kStyleFrame, tr("Animation wizard style"));
-    styleOptions_[0] = Named(new QRadioButton(tr("Simple")), names::kSimpleStyleOption);
-    styleOptions_[1] = Named(new QRadioButton(tr("Advanced")), names::kAdvancedStyleOption);
+        bandPage(StylePage, tr("Select wizard type"), tr("Select the wizard style (simple/advanced)"));
+    QGroupBox* frame = addFrame(page, names::kStyleFrame, tr("Animation wizard style"));
+    styleOptions_[0] = named(new QRadioButton(tr("Simple")), names::kSimpleStyleOption);
+    styleOptions_[1] = named(new QRadioButton(tr("Advanced")), names::kAdvancedStyleOption);
     styleOptions_[0]->setChecked(true);
     styleOptions_[1]->setEnabled(false);
-    QVBoxLayout* rows = FrameRows(frame, 6, 11);
+    QVBoxLayout* rows = frameRows(frame, 6, 11);
     rows->addWidget(styleOptions_[0]);
     rows->addSpacing(9);
     rows->addWidget(styleOptions_[1]);
@@ -116,30 +116,30 @@ void WizardDialog::addStylePage() {
 
 void WizardDialog::addNamePage() {
     QWizardPage* page =
-        BandPage(NamePage, tr("Type: Simple - Set name"), tr("Fill in your Clantag and name"));
-    QGroupBox* frame = AddFrame(page, names::kNameFrame, tr("Your name"));
+        bandPage(NamePage, tr("Type: Simple - Set name"), tr("Fill in your Clantag and name"));
+    QGroupBox* frame = addFrame(page, names::kNameFrame, tr("Your name"));
 
-    nameOptions_[0] = Named(new QRadioButton(tr("Name Only")), names::kNameOnlyOption);
-    nameBoxes_[0] = Named(new QLineEdit, names::kNameOnlyBox);
-    nameOptions_[1] = Named(new QRadioButton(tr("Clantag and Name")), names::kTagAndNameOption);
-    clanTagBox_ = Named(new QLineEdit, names::kClanTagBox);
-    nameBoxes_[1] = Named(new QLineEdit, names::kTaggedNameBox);
+    nameOptions_[0] = named(new QRadioButton(tr("Name Only")), names::kNameOnlyOption);
+    nameBoxes_[0] = named(new QLineEdit, names::kNameOnlyBox);
+    nameOptions_[1] = named(new QRadioButton(tr("Clantag and Name")), names::kTagAndNameOption);
+    clanTagBox_ = named(new QLineEdit, names::kClanTagBox);
+    nameBoxes_[1] = named(new QLineEdit, names::kTaggedNameBox);
     tagBehindNameCheck_ =
-        Named(new QCheckBox(tr("Reverse clantag-name (e.g. [QZT]Quillon -> Quillon[QZT]   )")),
+        named(new QCheckBox(tr("Reverse clantag-name (e.g. [QZT]Quillon -> Quillon[QZT]   )")),
               names::kTagBehindNameCheck);
-    auto* colourEditorButton = Named(new QPushButton(tr("Color editor")), names::kColourEditorButton);
+    auto* colourEditorButton = named(new QPushButton(tr("Color editor")), names::kColourEditorButton);
     connect(colourEditorButton, &QPushButton::clicked, this, &WizardDialog::showColourNameEditor);
 
     // The name box of "Name Only" is as wide as the one of "Clantag and
     // Name", which stands behind the narrower tag box.
-    QVBoxLayout* rows = FrameRows(frame, 4, 12);
+    QVBoxLayout* rows = frameRows(frame, 4, 12);
     rows->addWidget(nameOptions_[0]);
     rows->addSpacing(3);
-    rows->addLayout(IndentedRow({{nameBoxes_[0], 240}}, 172));
+    rows->addLayout(indentedRow({{nameBoxes_[0], 240}}, 172));
     rows->addSpacing(10);
     rows->addWidget(nameOptions_[1]);
     rows->addSpacing(3);
-    rows->addLayout(IndentedRow({{clanTagBox_, 90}, {nameBoxes_[1], 240}}, 78));
+    rows->addLayout(indentedRow({{clanTagBox_, 90}, {nameBoxes_[1], 240}}, 78));
     rows->addSpacing(14);
     rows->addWidget(tagBehindNameCheck_);
     rows->addStretch();
@@ -148,29 +148,29 @@ void WizardDialog::addNamePage() {
     for (QLineEdit* box : {nameBoxes_[0], clanTagBox_, nameBoxes_[1]}) {
         box->installEventFilter(this);
         // The effect engine decides what it can take.
-        KeepOnOneLine(box);
+        keepOnOneLine(box);
     }
     setPage(NamePage, page);
 }
 
 void WizardDialog::addEffectsPage() {
     QWizardPage* page =
-        BandPage(EffectsPage, tr("Type: Simple - Select effects"), tr("Select the animation effects"));
+        bandPage(EffectsPage, tr("Type: Simple - Select effects"), tr("Select the animation effects"));
     page->setFinalPage(true);
-    QGroupBox* frame = AddFrame(page, names::kEffectsFrame, tr("Effects"));
+    QGroupBox* frame = addFrame(page, names::kEffectsFrame, tr("Effects"));
 
-    effectChoice_ = Named(new QComboBox, names::kEffectChoice);
+    effectChoice_ = named(new QComboBox, names::kEffectChoice);
     effectChoice_->addItem(tr("Wave 2"), QVariant::fromValue(Effect::Wave2));
     effectChoice_->addItem(tr("Bounce"), QVariant::fromValue(Effect::Bounce));
     effectChoice_->setCurrentIndex(-1);
     effectChoice_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    auto* addButton = Named(new QPushButton(tr("Add")), names::kAddEffectButton);
+    auto* addButton = named(new QPushButton(tr("Add")), names::kAddEffectButton);
     connect(addButton, &QPushButton::clicked, this, &WizardDialog::addEffect);
-    auto* previewButton = Named(new QPushButton(tr("Preview")), names::kEffectPreviewButton);
+    auto* previewButton = named(new QPushButton(tr("Preview")), names::kEffectPreviewButton);
     connect(previewButton, &QPushButton::clicked, this, &WizardDialog::showEffectPreview);
 
-    auto* listLabel = Named(new QLabel(tr("Effect list")), names::kEffectListLabel);
-    effectList_ = Named(new QTreeWidget, names::kEffectList);
+    auto* listLabel = named(new QLabel(tr("Effect list")), names::kEffectListLabel);
+    effectList_ = named(new QTreeWidget, names::kEffectList);
     effectList_->setHeaderLabels({tr("Effect name"), tr("Parameter 1"), tr("Parameter 2")});
     effectList_->setRootIsDecorated(false);
     effectList_->setItemsExpandable(false);
@@ -185,10 +185,10 @@ void WizardDialog::addEffectsPage() {
     // Moving through the list by keyboard loads the row just as a click does.
     connect(effectList_, &QTreeWidget::currentItemChanged, this, &WizardDialog::loadEffectRow);
 
-    parameter1Label_ = Named(new QLabel(tr("Parameter 1")), names::kParameter1Label);
-    parameter1Box_ = Named(new QLineEdit, names::kParameter1Box);
-    parameter2Label_ = Named(new QLabel(tr("Parameter 2")), names::kParameter2Label);
-    parameter2Box_ = Named(new QLineEdit, names::kParameter2Box);
+    parameter1Label_ = named(new QLabel(tr("Parameter 1")), names::kParameter1Label);
+    parameter1Box_ = named(new QLineEdit, names::kParameter1Box);
+    parameter2Label_ = named(new QLabel(tr("Parameter 2")), names::kParameter2Label);
+    parameter2Box_ = named(new QLineEdit, names::kParameter2Box);
     connect(parameter1Box_, &QLineEdit::textChanged, this,
             [this](const QString& text) { storeParameter(1, text); });
     connect(parameter2Box_, &QLineEdit::textChanged, this,
@@ -197,12 +197,12 @@ void WizardDialog::addEffectsPage() {
          {std::pair{parameter1Label_, parameter1Box_}, std::pair{parameter2Label_, parameter2Box_}}) {
         label->setBuddy(box);
         box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-        KeepOnOneLine(box);
+        keepOnOneLine(box);
     }
 
     // The drop-down list and its buttons in a row; under it the list, which
     // takes 296 parts of the width, and the parameters, 124 parts beside it.
-    QVBoxLayout* rows = FrameRows(frame, 11, 13);
+    QVBoxLayout* rows = frameRows(frame, 11, 13);
     auto* chooser = new QHBoxLayout;
     chooser->setSpacing(5);
     chooser->addWidget(effectChoice_, 166);
