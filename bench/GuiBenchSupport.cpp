@@ -2,7 +2,9 @@
 
 #include <benchmark/benchmark.h>
 
+#include <QAction>
 #include <QApplication>
+#include <QTextEdit>
 #include <string>
 
 #include "ui/widgets/LineListView.h"
@@ -16,14 +18,22 @@ void FillNames(AnimationScript& script, int lines) {
 }
 
 ShownWindow::ShownWindow(int lines, ui::Dialogs* dialogs)
-    : window(dialogs != nullptr ? *dialogs : qtDialogs, store) {
-    FillNames(window.script(), lines);
+    : window(animation, dialogs != nullptr ? *dialogs : qtDialogs, store) {
+    FillNames(animation, lines);
     window.show();
     QCoreApplication::processEvents();
 }
 
 void ShownWindow::PaintList() {
-    window.lineList()->viewport()->repaint();
+    window.findChild<ui::LineListView*>()->viewport()->repaint();
+}
+
+void ShownWindow::Trigger(const QString& name) {
+    window.findChild<QAction*>(name)->trigger();
+}
+
+QTextEdit* ShownWindow::Pane() const {
+    return window.findChild<QTextEdit*>(QStringLiteral("txtPreview"));
 }
 
 }  // namespace flickerscribe::bench

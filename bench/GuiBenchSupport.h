@@ -6,6 +6,8 @@
 
 #include <QString>
 
+class QTextEdit;
+
 #include "document/AnimationScript.h"
 #include "settings/SettingsStore.h"
 #include "ui/common/QtDialogs.h"
@@ -27,9 +29,13 @@ void FillNames(AnimationScript& script, int lines);
 struct ShownWindow {
     explicit ShownWindow(int lines = 0, ui::Dialogs* dialogs = nullptr);
     void PaintList();
+    // Gives the command of the menu entry or button with this object name.
+    void Trigger(const QString& name);
+    QTextEdit* Pane() const;
 
     ui::QtDialogs qtDialogs;
     NoSettings store;
+    AnimationScript animation;
     ui::MainWindow window;
 };
 

@@ -24,9 +24,9 @@ void TrimTo(AnimationScript& script, int count) {
 
 void BM_AddLineAtTheTopOfAFullList(benchmark::State& state) {
     ShownWindow shown(flickerscribe::kMaxLines - 1);
-    AnimationScript& script = shown.window.script();
+    AnimationScript& script = shown.animation;
     for (auto _ : state) {
-        shown.window.addLine(false);  // the last line the list can take
+        shown.Trigger(QStringLiteral("btnaddbefore"));  // the last line the list can take
         shown.PaintList();
         state.PauseTiming();
         script.RemoveLine(1);
@@ -40,10 +40,10 @@ void BM_CopyAllLines(benchmark::State& state) {
     const int lines = flickerscribe::kMaxLines / 2;
     ShownWindow shown(lines);
     for (auto _ : state) {
-        shown.window.copyLines(flickerscribe::ui::MainWindow::CopyMode::AllLines);
+        shown.Trigger(QStringLiteral("btncopyall"));
         shown.PaintList();
         state.PauseTiming();
-        TrimTo(shown.window.script(), lines);
+        TrimTo(shown.animation, lines);
         QCoreApplication::processEvents();
         state.ResumeTiming();
     }
@@ -69,9 +69,9 @@ std::string LongText(int run) {
 // line, tell the list.
 void BM_ChangeHandlerOnTheLongestText(benchmark::State& state) {
     ShownWindow shown(1);
-    shown.window.script().SetLineText(1, LongText(static_cast<int>(state.range(0))) + "x");
-    shown.window.setPreview();
-    for (auto _ : state) shown.window.onPaneEdited();
+    shown.animation.SetLineText(1, LongText(static_cast<int>(state.range(0))) + "x");
+    QTextEdit* pane = shown.Pane();
+    for (auto _ : state) emit pane->textChanged();
 }
 BENCHMARK(BM_ChangeHandlerOnTheLongestText)->Arg(1)->Arg(16)->Unit(benchmark::kMillisecond);
 
@@ -79,9 +79,8 @@ BENCHMARK(BM_ChangeHandlerOnTheLongestText)->Arg(1)->Arg(16)->Unit(benchmark::kM
 // the change handler.
 void BM_TypeAtTheEndOfTheLongestText(benchmark::State& state) {
     ShownWindow shown(1);
-    shown.window.script().SetLineText(1, LongText(static_cast<int>(state.range(0))));
-    shown.window.setPreview();
-    QTextEdit* pane = shown.window.paneEdit();
+    shown.animation.SetLineText(1, LongText(static_cast<int>(state.range(0))));
+    QTextEdit* pane = shown.Pane();
     pane->moveCursor(QTextCursor::End);
     for (auto _ : state) {
         QTest::keyClick(pane, Qt::Key_X);  // the key, the widget's insert, and the change handler

@@ -9,6 +9,7 @@
 #include "GuiBenchSupport.h"
 #include "colour/ColouredText.h"
 #include "colour/Palette.h"
+#include "ui/widgets/RichPane.h"
 
 namespace {
 
@@ -29,7 +30,7 @@ std::string EveryCharacterItsColour(int length) {
 
 void BM_ListResetAndFirstPaint(benchmark::State& state) {
     ShownWindow shown;
-    AnimationScript& script = shown.window.script();
+    AnimationScript& script = shown.animation;
     const int lines = static_cast<int>(state.range(0));
     for (auto _ : state) {
         {
@@ -46,9 +47,10 @@ BENCHMARK(BM_ListResetAndFirstPaint)->Arg(flickerscribe::kMaxLines)->Unit(benchm
 void BM_RenderName(benchmark::State& state) {
     ShownWindow shown;
     const std::string name = EveryCharacterItsColour(64);
+    flickerscribe::ui::RichPane pane(shown.Pane());
     for (auto _ : state) {
-        flickerscribe::RenderCodedText(name, shown.window.previewPane());
-        shown.window.paneEdit()->viewport()->repaint();
+        flickerscribe::RenderCodedText(name, pane);
+        shown.Pane()->viewport()->repaint();
     }
 }
 BENCHMARK(BM_RenderName)->Unit(benchmark::kMicrosecond);
@@ -56,20 +58,20 @@ BENCHMARK(BM_RenderName)->Unit(benchmark::kMicrosecond);
 void BM_RenderLongestTextToFirstPaint(benchmark::State& state) {
     ShownWindow shown;
     const std::string text = EveryCharacterItsColour(32767);
+    flickerscribe::ui::RichPane pane(shown.Pane());
     for (auto _ : state) {
-        flickerscribe::RenderCodedText(text, shown.window.previewPane());
-        shown.window.paneEdit()->viewport()->repaint();
+        flickerscribe::RenderCodedText(text, pane);
+        shown.Pane()->viewport()->repaint();
     }
 }
 BENCHMARK(BM_RenderLongestTextToFirstPaint)->Unit(benchmark::kMillisecond);
 
 void BM_EncodeLongestText(benchmark::State& state) {
     ShownWindow shown;
-    flickerscribe::RenderCodedText(EveryCharacterItsColour(32767), shown.window.previewPane());
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(
-            flickerscribe::EncodeColouredText(shown.window.previewPane(), flickerscribe::kWhite));
-    }
+    flickerscribe::ui::RichPane pane(shown.Pane());
+    flickerscribe::RenderCodedText(EveryCharacterItsColour(32767), pane);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(flickerscribe::EncodeColouredText(pane, flickerscribe::kWhite));
 }
 BENCHMARK(BM_EncodeLongestText)->Unit(benchmark::kMillisecond);
 
@@ -77,7 +79,8 @@ void BM_StartUpToFirstPaint(benchmark::State& state) {
     for (auto _ : state) {
         flickerscribe::ui::QtDialogs dialogs;
         flickerscribe::bench::NoSettings store;
-        flickerscribe::ui::MainWindow window(dialogs, store);
+        flickerscribe::AnimationScript animation;
+        flickerscribe::ui::MainWindow window(animation, dialogs, store);
         window.show();
         window.repaint();
     }

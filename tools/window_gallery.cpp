@@ -41,27 +41,28 @@ int main(int argc, char** argv) {
         window.close();
     };
 
-    ui::MainWindow main(dialogs, store);
+    AnimationScript animation;
     for (const char* text : {"^1Fl^7ick^4er", "^2Sec^3ond", "third"})
-        main.script().AppendLine(text, "15", "[none]");
-    main.script().SelectLine(1);
-    main.setPreview();
+        animation.AppendLine(text, "15", "[none]");
+    animation.SelectLine(1);
+    ui::MainWindow main(animation, dialogs, store);
     shoot(main, u"main"_s);
-    main.toggleColours();
+    main.findChild<QAction*>(u"mnuEditShowColors"_s)->trigger();
     shoot(main, u"main-colours"_s);
 
-    auto wizard = std::make_unique<ui::WizardDialog>(main.history(), dialogs, main.Settings());
+    const settings::Settings settings = settings::loadSettings(store);
+    ui::AnimationHistory history(animation);
+    auto wizard = std::make_unique<ui::WizardDialog>(history, dialogs, settings);
     for (const int page : wizard->pageIds()) {
         if (page > 1) wizard->next();
         shoot(*wizard, u"wizard-%1"_s.arg(page));
     }
     const std::vector<std::pair<QString, std::function<std::unique_ptr<QWidget>()>>> windows = {
-        {u"script"_s,
-         [&] { return std::make_unique<ui::ScriptWindow>(main.script(), dialogs, main.Settings()); }},
+        {u"script"_s, [&] { return std::make_unique<ui::ScriptWindow>(animation, dialogs, settings); }},
         {u"edit"_s, [] { return std::make_unique<ui::EditTimeDialog>(); }},
         {u"options"_s, [&] { return std::make_unique<ui::OptionsDialog>(store, dialogs, [] {}); }},
         {u"colour-editor"_s, [&] { return std::make_unique<ui::ColourNameEditor>(dialogs); }},
-        {u"simple-edit"_s, [&] { return std::make_unique<ui::SimpleEditWindow>(main.history(), dialogs); }},
+        {u"simple-edit"_s, [&] { return std::make_unique<ui::SimpleEditWindow>(history, dialogs); }},
         {u"help"_s, [&] { return std::make_unique<ui::HelpDialog>(dialogs); }},
         {u"about"_s, [] { return std::make_unique<ui::AboutDialog>(); }},
     };

@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QStandardPaths>
 
+#include "document/AnimationScript.h"
 #include "settings/UserSettingsStore.h"
 #include "ui/common/ProgramInfo.h"
 #include "ui/common/QtDialogs.h"
@@ -13,8 +14,9 @@ int main(int argc, char** argv) {
     QApplication::setApplicationVersion(QString::fromStdString(flickerscribe::ui::info::programVersion()));
     flickerscribe::ui::QtDialogs dialogs;
     const auto store = flickerscribe::settings::openUserSettingsStore();
+    flickerscribe::AnimationScript animation;
     // Each run keeps its animation in the user's data folder.
-    flickerscribe::ui::MainWindow window(dialogs, *store,
+    flickerscribe::ui::MainWindow window(animation, dialogs, *store,
                                          QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
     // Ended by a signal, the program ends as by Exit, keeping the animation.
     flickerscribe::ui::endOnTerminationSignals(&window, [&window] { window.exit(); });

@@ -45,15 +45,19 @@ protected:
         given << name;
         Change([&] { Trigger(name); });
     }
-    // Makes a change; if it made a step, Ctrl+Z brings back the lines, the
-    // selected line and the pane as they were and Ctrl+Y the change.
+    // Makes a change; if it made a step (Undo names another, Redo has none),
+    // Ctrl+Z brings back the lines, the selected line and the pane as they
+    // were and Ctrl+Y the change.
     void Change(const std::function<void()>& change) {
         using Seen = std::tuple<TextTimes, int, std::string>;
         const Seen before{Lines(), script().SelectedIndex(), PaneText()};
-        const int steps = window->history().undoableSteps();
+        QAction* undo = named(u"mnuEditUndo"_s);
+        const QString stepBefore = undo->text();
         change();
         const Seen after{Lines(), script().SelectedIndex(), PaneText()};
-        if (window->history().undoableSteps() <= steps || !window->isVisible()) return;
+        const bool stepMade =
+            undo->isEnabled() && undo->text() != stepBefore && !named(u"mnuEditRedo"_s)->isEnabled();
+        if (!stepMade || !window->isVisible()) return;
         window->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
         Key(Qt::Key_Z, Qt::ControlModifier);
@@ -77,7 +81,7 @@ TEST_F(EndToEnd, OneSessionGivesEveryCommand) {
 
     // The wizard makes the first animation: the settings' name with "Wave 2".
     store.writeValue(u"Name"_s, u"^1Kat^2ryn"_s);
-    window->loadSettings();
+    ReloadSettings();
     Give(u"btnwizard"_s);
     QPointer<WizardDialog> wizard = window->findChild<WizardDialog*>();
     const auto click = [&](const QString& name) {
@@ -92,7 +96,7 @@ TEST_F(EndToEnd, OneSessionGivesEveryCommand) {
 
     // Play, and stop half way.
     Give(u"btnpreview"_s);
-    window->showNextFrame();
+    Tick();
     Give(u"btnpreview"_s);
 
     // The line commands, the clipboard, and editing in the pane with the
@@ -102,14 +106,14 @@ TEST_F(EndToEnd, OneSessionGivesEveryCommand) {
                                 u"btncopylastx"_s, u"btncopyall"_s, u"btncopyallreverse"_s, u"btnremove"_s,
                                 u"mnuEditCopy"_s, u"mnuEditCut"_s, u"mnuEditPaste"_s, u"mnuEditShowColors"_s})
         Give(name);
-    Change([&] { QTest::keyClicks(window->paneEdit(), u"abc"_s); });
+    Change([&] { QTest::keyClicks(PaneEdit(), u"abc"_s); });
     Change([&] {
-        window->previewPane().SetSelStart(0);
-        window->previewPane().SetSelLength(2);
+        MainPane().SetSelStart(0);
+        MainPane().SetSelLength(2);
         QTest::mouseClick(window->findChild<QPushButton*>(u"cmdColor_3"_s), Qt::LeftButton);
     });
     Change([&] {  // the list's own editor
-        LineListView* list = window->lineList();
+        LineListView* list = List();
         list->edit(list->model()->index(0, 0));
         auto* editor = list->viewport()->findChild<QLineEdit*>();
         QTest::keyClicks(editor, u"^2x"_s);
@@ -143,7 +147,7 @@ TEST_F(EndToEnd, OneSessionGivesEveryCommand) {
     Give(u"mnuEditUndo"_s);
     EXPECT_EQ(script().Count(), lines);
     Give(u"mnuEditRedo"_s);
-    window->keepAnimation();
+    Tick(u"timKeep"_s);
     Give(u"btnnew"_s);
     emit named<QMenu>(u"mnuFile"_s)->aboutToShow();
     Give(u"mnuFileReopen"_s);

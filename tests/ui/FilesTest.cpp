@@ -28,8 +28,7 @@ public:
     void TearDown() override { write_seam::Reset(); }
 
     ScriptWindow& GeneratedScript() {
-        if (!scriptWindow)
-            scriptWindow = std::make_unique<ScriptWindow>(script(), dialogs, window->Settings());
+        if (!scriptWindow) scriptWindow = std::make_unique<ScriptWindow>(script(), dialogs, settingsNow);
         return *scriptWindow;
     }
     // "Open", "SaveAs", "Import" or "SaveScript" (the script window's Save),
@@ -42,6 +41,7 @@ public:
                 : command == "SaveAs" ? u"mnuFileSaveAs"_s
                                       : u"mnuFileImport"_s);
     }
+    settings::Settings settingsNow;  // the script window's, as the main window gives them
     std::unique_ptr<ScriptWindow> scriptWindow;
 };
 
@@ -49,19 +49,20 @@ public:
 // without one, wherever it was last. Cancel changes nothing.
 TEST_F(Files, EachDialogOpensInItsFolderAndCancelChangesNothing) {
     Start(kABC);
+    QString last[2];  // where the main window's dialog and the script window's opened last
     for (const auto& [command, followsSetting] :
          {std::pair{"Open", true}, std::pair{"SaveAs", true}, std::pair{"Import", false},
           std::pair{"SaveScript", true}}) {
-        for (const QString& folder : {u"/set"_s, QString()}) {
+        const bool scriptWindowsOwn = command == std::string("SaveScript");
+        for (const QString& folder : {u"/set-"_s + QString::fromLatin1(command), QString()}) {
             store.writeValue(u"OpenDir"_s, folder);
             store.writeValue(u"SaveDir"_s, folder);
-            window->loadSettings();
-            (command == std::string("SaveScript") ? GeneratedScript().saveDialog() : window->fileDialog())
-                .initialFolder = u"/last"_s;
+            ReloadSettings();
+            settingsNow = settings::loadSettings(store);
             Run(command, {std::nullopt});
-            EXPECT_EQ(dialogs.Calls().back().state.initialFolder,
-                      followsSetting && !folder.isEmpty() ? folder : u"/last"_s)
-                << command;
+            QString& expected = last[scriptWindowsOwn];
+            if (followsSetting && !folder.isEmpty()) expected = folder;
+            EXPECT_EQ(dialogs.Calls().back().state.initialFolder, expected) << command;
         }
     }
     EXPECT_EQ(

@@ -65,7 +65,7 @@ TEST_F(Gestures, ALineBreakPastedIntoAOneLineBoxBecomesABlank) {
         for (const QString& lineBreak : {u"\r\n"_s, u"\r"_s, u"\n"_s}) {
             SCOPED_TRACE(std::string(owner) + " " + lineBreak.toStdString());
             QLineEdit* edit = nullptr;
-            LineListView* list = window->lineList();
+            LineListView* list = List();
             if (*box == '\0') {
                 Trigger(u"btnnew"_s);
                 Start({"old/15"});
@@ -119,7 +119,7 @@ TEST_F(Gestures, TypingAfterASelectionEditsOnlyTheSelectedLine) {
         Start(lines, 2);
         window->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
-        LineListView* list = window->lineList();
+        LineListView* list = List();
         QWidget* rows = list->viewport();
         const QPoint at = c.row < 4 ? Row(list, c.row) : QPoint(5, rows->height() - 3);
         const std::string gesture = c.gesture;
@@ -133,7 +133,7 @@ TEST_F(Gestures, TypingAfterASelectionEditsOnlyTheSelectedLine) {
         }
         if (gesture == "key") Key(Qt::Key(c.row));
         if (gesture == "remove") Trigger(u"btnremove"_s);
-        QTest::keyClicks(window->paneEdit(), u"!"_s);
+        QTest::keyClicks(PaneEdit(), u"!"_s);
 
         TextTimes expected = lines;
         if (gesture == "remove") expected.erase(expected.begin() + 1);
@@ -154,7 +154,7 @@ TEST_F(Edges, InPlaceEditKeepsALongTextWholeAndWritesNothingUnchanged) {
     Start({text + "/15", text + "/15"}, 1);
     window->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
-    LineListView* list = window->lineList();
+    LineListView* list = List();
     int writes = 0;
     QObject::connect(list->model(), &QAbstractItemModel::dataChanged, [&] { ++writes; });
     const auto editor = [list] { return list->viewport()->findChild<QLineEdit*>(); };
@@ -176,9 +176,9 @@ TEST_F(Edges, InPlaceEditKeepsALongTextWholeAndWritesNothingUnchanged) {
 
 TEST_F(Edges, TabReachesTheColourStripAndSpaceColoursThePanesSelection) {
     Start({"abcd/15"});
-    window->toggleColours();
+    Trigger(u"mnuEditShowColors"_s);
     Show();
-    QTextEdit* pane = window->paneEdit();
+    QTextEdit* pane = PaneEdit();
     pane->setFocus();
     for (const auto& [key, modifiers] :
          {std::pair{Qt::Key_Home, Qt::KeyboardModifiers()}, std::pair{Qt::Key_Right, Qt::KeyboardModifiers()},
@@ -193,7 +193,7 @@ TEST_F(Edges, TabReachesTheColourStripAndSpaceColoursThePanesSelection) {
     QWidget* strip = named<QWidget>(u"picColors"_s);
     EXPECT_EQ(strip->findChildren<QPushButton*>().size(), 8);
     EXPECT_EQ(strip->x(), pane->geometry().right() + 1);
-    EXPECT_EQ(pane->x(), window->lineList()->x());
+    EXPECT_EQ(pane->x(), List()->x());
 }
 
 TEST_F(Edges, TheAddButtonsMenuIsOnTheAccessibilityTree) {
@@ -232,7 +232,7 @@ TEST_F(Gestures, PasteAndDropArriveAsPlainText) {
     QMimeData dropped;
     dropped.setText(u"a\r\nb\nc"_s);
     dropped.setHtml(u"<p style=\"color:#ff0000\">a</p>"_s);
-    QWidget* viewport = window->paneEdit()->viewport();
+    QWidget* viewport = PaneEdit()->viewport();
     const QPoint at(viewport->width() - 2, viewport->height() / 2);
     QDragEnterEvent enter(at, Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(viewport, &enter);

@@ -30,15 +30,15 @@ public:
 TEST_F(History, TypingMergesUntilTheSelectionMovesOrACommandRuns) {
     Start(kABC, 1);
     Show();
-    QTest::keyClicks(window->paneEdit(), u"12"_s);
+    QTest::keyClicks(PaneEdit(), u"12"_s);
     Press(Qt::Key_Down, {});
-    QTest::keyClicks(window->paneEdit(), u"3"_s);
-    QTest::keyClicks(window->paneEdit(), u"4"_s);
+    QTest::keyClicks(PaneEdit(), u"3"_s);
+    QTest::keyClicks(PaneEdit(), u"4"_s);
     Press(Qt::Key_Up, {});
-    QTest::keyClicks(window->paneEdit(), u"0"_s);
+    QTest::keyClicks(PaneEdit(), u"0"_s);
     Press(Qt::Key_Down, {});
     Trigger(u"btncopylast"_s);
-    QTest::keyClicks(window->paneEdit(), u"5"_s);
+    QTest::keyClicks(PaneEdit(), u"5"_s);
     const TextTimes typed = {"A120/10", "B345/20", "C/30", "B34/20"};
     EXPECT_EQ(Lines(), typed);
     const TextTimes undone[] = {{"A120/10", "B34/20", "C/30", "B34/20"},
@@ -66,7 +66,7 @@ TEST_F(History, NothingChangedIsNoStepAndPlaybackWaits) {
         if (QWidget* edit = QApplication::activeModalWidget()) edit->close();
     });
     Trigger(u"btnedit"_s);
-    EXPECT_EQ(window->history().undoableSteps(), 0);
+    EXPECT_FALSE(named(u"mnuEditUndo"_s)->isEnabled());
     Trigger(u"btnadd"_s);
     Trigger(u"btnpreview"_s);
     EXPECT_FALSE(named(u"mnuEditUndo"_s)->isEnabled());
@@ -145,13 +145,13 @@ TEST_F(History, EachRunKeepsItsOwnAnimationAndALaterRunGetsThemBack) {
     // Two at once; the first is kept last. Garbage and a file cut short are no
     // kept animations.
     MakeWindow();
-    auto other = std::make_unique<MainWindow>(dialogs, store, keptFolder);
+    AnimationScript otherAnimation;
+    auto other = std::make_unique<MainWindow>(otherAnimation, dialogs, store, keptFolder);
     EXPECT_EQ(script().Count(), 0) << "the program starts empty";
     WriteBytes(PathOf(u"kept/kept-garbage.fsq"_s), "\x01\x02 no animation");
     WriteBytes(PathOf(u"kept/kept-cut.fsq"_s), "#v050#\r\nA\r\n15\r\n[none]\r\nB\r\n15\r\n");
-    other->script().AppendLine("^1Two & more", "15", "[none]");
-    other->script().AppendLine("x", "15", "[none]");
-    other->history().setTime(u"Edit time"_s, 1, "20");
+    WriteBytes(PathOf(u"two.fsq"_s), "#v050#\r\n^1Two & more\r\n20\r\n[none]\r\nx\r\n15\r\n[none]\r\n");
+    other->openAnimationFile(PathOf(u"two.fsq"_s));
     other->close();
     emit named<QMenu>(u"mnuFile"_s)->aboutToShow();  // which readies Reopen
     ASSERT_TRUE(named(u"mnuFileReopen"_s)->isEnabled());
@@ -199,7 +199,7 @@ TEST_F(History, TheFolderHoldsTheLastTenRuns) {
         SetAge(path, 100 - run);
     }
     Trigger(u"btnadd"_s);
-    window->keepAnimation();
+    Tick(u"timKeep"_s);
     const QStringList files = KeptFiles();
     ASSERT_EQ(files.size(), 10);
     EXPECT_TRUE(files.front().contains(u"kept-2"_s)) << "this run's, named by its date";

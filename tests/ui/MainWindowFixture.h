@@ -13,6 +13,7 @@
 #include "MemorySettingsStore.h"
 #include "ScriptedDialogs.h"
 #include "colour/ColouredText.h"
+#include "settings/SettingsStore.h"
 #include "ui/dialogs/ColourNameEditor.h"
 #include "ui/dialogs/EditTimeDialog.h"
 #include "ui/dialogs/HelpDialog.h"
@@ -20,6 +21,7 @@
 #include "ui/dialogs/SimpleEditWindow.h"
 #include "ui/main/MainWindow.h"
 #include "ui/widgets/LineListView.h"
+#include "ui/widgets/RichPane.h"
 #include "ui/wizard/WizardDialog.h"
 
 // Failed checks show texts as text.
@@ -63,11 +65,14 @@ public:
         MakeWindow();
     }
 
+    // A new run: a new window over an empty animation, with the settings the
+    // store has now.
     void MakeWindow() {
         window.reset();
-        window = std::make_unique<MainWindow>(dialogs, store, keptFolder);
+        animation.ClearLines();
+        window = std::make_unique<MainWindow>(animation, dialogs, store, keptFolder);
     }
-    AnimationScript& script() { return window->script(); }
+    AnimationScript& script() { return animation; }
 
     // Puts the lines into the list, not as a command, and selects one.
     void Start(const TextTimes& lines, int selected = 1) {
@@ -94,7 +99,31 @@ public:
     }
     void Trigger(const QString& name) { named(name)->trigger(); }
 
-    std::string PaneText() { return window->previewPane().Text(); }
+    QTextEdit* PaneEdit() const { return named<QTextEdit>(u"txtPreview"_s); }
+    LineListView* List() const { return named<LineListView>(u"lvwMain"_s); }
+    // The pane's text and colours, as a line's text would hold them.
+    RichPane MainPane() const { return RichPane(PaneEdit()); }
+    std::string PaneText() const { return MainPane().Text(); }
+    std::vector<ColouredRun> PaneRuns() const { return MainPane().Runs(); }
+    // A click on the line with this 1-based index.
+    void ClickLine(int line) {
+        QTest::mouseClick(List()->viewport(), Qt::LeftButton, {},
+                          List()->visualRect(List()->model()->index(line - 1, 0)).center());
+    }
+
+    // The timer's time is up: the next frame of playback ("timAni"), or
+    // keeping the animation ("timKeep").
+    void Tick(const QString& timer = u"timAni"_s) {
+        ASSERT_TRUE(QMetaObject::invokeMethod(named<QTimer>(timer), "timeout"));
+    }
+    bool Playing() const { return named<QTimer>(u"timAni"_s)->isActive(); }
+    // Options, OK: the window reads the settings store again.
+    void ReloadSettings() {
+        QTimer::singleShot(0, window.get(), [] {
+            QApplication::activeModalWidget()->findChild<QPushButton*>(u"cmdOK"_s)->click();
+        });
+        Trigger(u"mnuEditOptions"_s);
+    }
 
     // The window on screen and active, so that its shortcuts work.
     void Show() {
@@ -103,9 +132,7 @@ public:
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     }
     // A key pressed in the list.
-    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-        QTest::keyClick(window->lineList(), key, modifiers);
-    }
+    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(List(), key, modifiers); }
     QString PathOf(const QString& name) const { return folder.filePath(name); }
 
     QTemporaryDir folder;
@@ -119,6 +146,7 @@ public:
         return paths;
     }
     QString keptFolder;  // none unless a test says
+    AnimationScript animation;
     std::unique_ptr<MainWindow> window;
 };
 
@@ -131,7 +159,7 @@ public:
     }
     QDialog& Open(const QString& name) {
         if (name == u"frmWizard"_s) {
-            dialog = std::make_unique<WizardDialog>(window->history(), dialogs, window->Settings());
+            dialog = std::make_unique<WizardDialog>(history, dialogs, settings::loadSettings(store));
         } else if (name == u"frmEdit"_s) {
             dialog = std::make_unique<EditTimeDialog>();
         } else if (name == u"frmOptions"_s) {
@@ -141,7 +169,7 @@ public:
         } else if (name == u"frmColorEditor"_s) {
             dialog = std::make_unique<ColourNameEditor>(dialogs);
         } else {
-            dialog = std::make_unique<SimpleEditWindow>(window->history(), dialogs);
+            dialog = std::make_unique<SimpleEditWindow>(history, dialogs);
         }
         dialog->show();
         return *dialog;
@@ -159,6 +187,7 @@ public:
             QTest::mouseClick(Child<QPushButton>(u"cmdNext"_s), Qt::LeftButton);
     }
 
+    AnimationHistory history{animation};
     std::unique_ptr<QDialog> dialog;
     int reloads = 0;  // of the settings, by the Options dialog
 };

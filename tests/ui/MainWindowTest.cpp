@@ -11,7 +11,7 @@ using MainWindowCase = MainWindowTest;
 // It starts empty, and with nothing to save, undo or reopen.
 TEST_F(MainWindowCase, StartsEmpty) {
     EXPECT_EQ(PaneText(), "Preview");
-    EXPECT_TRUE(window->previewPane().Locked());
+    EXPECT_TRUE(MainPane().Locked());
     EXPECT_FALSE(named<QWidget>(u"picColors"_s)->isVisibleTo(window.get()));
     EXPECT_TRUE(store.Writes().isEmpty());
     for (const QString& off : {u"mnuFileSave"_s, u"mnuFileReopen"_s, u"mnuEditUndo"_s, u"mnuEditRedo"_s})
@@ -71,12 +71,13 @@ class Command : public MainWindowTest, public testing::WithParamInterface<Comman
 TEST_P(Command, ChangesTheList) {
     const CommandCase& c = GetParam();
     Start(c.start, c.selected);
-    QAbstractItemModelTester model(window->lineList()->model(),
-                                   QAbstractItemModelTester::FailureReportingMode::Fatal);
+    QAbstractItemModelTester model(List()->model(), QAbstractItemModelTester::FailureReportingMode::Fatal);
     dialogs.clipboard = u"before"_s;
-    window->setPreviewBusy(true);
-    RenderCodedText("marker", window->previewPane());
-    window->setPreviewBusy(false);
+    {
+        const QSignalBlocker quiet(PaneEdit());  // drawn by the test, no line's text
+        RichPane pane = MainPane();
+        RenderCodedText("marker", pane);
+    }
     const auto shown = [this] {
         return script().Count() ? script().LineAt(script().SelectedIndex()).Text : "Preview";
     };
@@ -84,7 +85,7 @@ TEST_P(Command, ChangesTheList) {
     c.run(*this);
     EXPECT_EQ(Lines(), c.expected);
     EXPECT_EQ(script().SelectedIndex(), c.selectedAfter);
-    EXPECT_EQ(window->lineList()->currentIndex().row(), c.selectedAfter - 1);
+    EXPECT_EQ(List()->currentIndex().row(), c.selectedAfter - 1);
     // Paste and a key in the list redraw the pane in any case.
     const bool redrawn = std::string(c.name).starts_with("Paste") || std::string(c.name).starts_with("Key");
     std::string plain = script().Count() ? "" : "Preview";
@@ -198,19 +199,19 @@ TEST_F(MainWindowCase, EditsInThePaneReachTheLineInNormalForm) {
     for (const auto& c : cases) {
         MakeWindow();
         Start({std::string(c.before) + "/30", "other/20"}, 1);
-        Pane& pane = window->previewPane();
+        RichPane pane = MainPane();
         if (c.start >= 0) {
             pane.SetSelStart(c.start);
             pane.SetSelLength(c.length);
         }
         const int caret = pane.SelStart();
         if (c.button >= 0) {
-            window->toggleColours();
+            Trigger(u"mnuEditShowColors"_s);
             QTest::mouseClick(named<QPushButton>(u"cmdColor_%1"_s.arg(c.button)), Qt::LeftButton);
             EXPECT_EQ(pane.SelLength(), 0);
         }
         const auto length = PaneText().size();
-        QTest::keyClicks(window->paneEdit(), QString::fromLatin1(c.typed));
+        QTest::keyClicks(PaneEdit(), QString::fromLatin1(c.typed));
         EXPECT_EQ(Lines(), TextTimes({std::string(c.after) + "/30", "other/20"}))
             << c.before << " " << c.typed;
         EXPECT_EQ(pane.SelStart(), caret + int(PaneText().size()) - int(length));
@@ -223,14 +224,14 @@ TEST_F(MainWindowCase, CtrlLeavesThePaneAndItsShortcutsWorkOnLines) {
     Start({"line/15"}, 1);
     Show();
     for (Qt::Key key : {Qt::Key_Shift, Qt::Key_Q, Qt::Key_Control}) {
-        window->paneEdit()->setFocus();
-        QTest::keyPress(window->paneEdit(), key);
-        EXPECT_EQ(QApplication::focusWidget() == window->lineList(), key == Qt::Key_Control) << key;
+        PaneEdit()->setFocus();
+        QTest::keyPress(PaneEdit(), key);
+        EXPECT_EQ(QApplication::focusWidget() == List(), key == Qt::Key_Control) << key;
         QTest::keyRelease(QApplication::focusWidget(), key);
     }
-    window->paneEdit()->setFocus();
-    QTest::keyClick(window->paneEdit(), Qt::Key_C, Qt::ControlModifier);
-    QTest::keyClick(window->paneEdit(), Qt::Key_V, Qt::ControlModifier);
+    PaneEdit()->setFocus();
+    QTest::keyClick(PaneEdit(), Qt::Key_C, Qt::ControlModifier);
+    QTest::keyClick(PaneEdit(), Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(Lines(), TextTimes({"lineq/15", "lineq/15"}));
     EXPECT_EQ(PaneText(), "lineq") << "not the pane's own copy and paste";
 }
@@ -240,10 +241,9 @@ TEST_F(MainWindowCase, CtrlLeavesThePaneAndItsShortcutsWorkOnLines) {
 TEST_F(MainWindowCase, TheEditItemSettingDecidesWhetherALineCanBeEditedInPlace) {
     for (const char* stored : {"1", "true", "0"}) {
         store.writeValue(u"EditItem"_s, QString::fromLatin1(stored));
-        window->loadSettings();
-        EXPECT_EQ(window->lineList()->editTriggers(), stored == std::string("1")
-                                                          ? QAbstractItemView::SelectedClicked
-                                                          : QAbstractItemView::NoEditTriggers);
+        ReloadSettings();
+        EXPECT_EQ(List()->editTriggers(), stored == std::string("1") ? QAbstractItemView::SelectedClicked
+                                                                     : QAbstractItemView::NoEditTriggers);
     }
 }
 
@@ -258,14 +258,14 @@ TEST_F(MainWindowCase, PlaybackShowsEachLineOnceAndAStopForgetsThePlace) {
     EXPECT_EQ(play->text(), u"Stop"_s);
     EXPECT_FALSE(named(u"btnadd"_s)->isEnabled() || named(u"btnremove"_s)->isEnabled());
     EXPECT_EQ(PaneText(), "two") << "nothing before the first tick";
-    QTest::keyClicks(window->paneEdit(), u"x"_s);
+    QTest::keyClicks(PaneEdit(), u"x"_s);
     for (const char* frame : {"^1one", "two"}) {
-        window->showNextFrame();
-        EXPECT_EQ(window->previewPane().Runs(), RenderRuns(frame));
+        Tick();
+        EXPECT_EQ(PaneRuns(), RenderRuns(frame));
     }
-    window->showClickedLine(1);
+    ClickLine(1);
     EXPECT_EQ(PaneText(), "one") << "a click shows its line until the next tick";
-    window->showNextFrame();
+    Tick();
     EXPECT_EQ(PaneText(), "three") << "the last frame stays";
     EXPECT_FALSE(timer->isActive());
     EXPECT_EQ(play->text(), u"Play"_s);
@@ -274,25 +274,25 @@ TEST_F(MainWindowCase, PlaybackShowsEachLineOnceAndAStopForgetsThePlace) {
     EXPECT_EQ(script().SelectedIndex(), 1);
 
     // A stop forgets the place; an emptied list ends playback.
-    window->togglePlayback();
-    window->showNextFrame();
-    window->showNextFrame();
-    window->togglePlayback();
+    Trigger(u"btnpreview"_s);
+    Tick();
+    Tick();
+    Trigger(u"btnpreview"_s);
     EXPECT_EQ(PaneText(), "two") << "a stop draws nothing";
-    window->togglePlayback();
-    window->showNextFrame();
+    Trigger(u"btnpreview"_s);
+    Tick();
     EXPECT_EQ(PaneText(), "one") << "the next Play starts again";
     Trigger(u"btnnew"_s);
-    window->showNextFrame();
-    EXPECT_FALSE(window->playing());
+    Tick();
+    EXPECT_FALSE(Playing());
     EXPECT_TRUE(dialogs.Calls().empty());
     dialogs.QueueMessageAnswer(MsgAnswer::Cancel);
     Trigger(u"btnpreview"_s);
     EXPECT_EQ(dialogs.Asked().join(u'|'), u"Preview Animation [warning]: There is no animation to play!"_s);
-    EXPECT_FALSE(window->playing());
+    EXPECT_FALSE(Playing());
     Start({"^2only/15"});
     Trigger(u"btnpreview"_s);
-    window->showNextFrame();
+    Tick();
     EXPECT_EQ(PaneText(), "only") << "a single line plays too";
 }
 
@@ -307,27 +307,27 @@ TEST_F(MainWindowCase, AfterPlaybackThePaneEditsTheSelectedLineNotTheFrame) {
             const std::string shown = std::string(gesture) + (stopped ? " after Stop" : " at the end");
             Trigger(u"btnnew"_s);
             Start({"one/15", "two/15", "^3three/15"}, 2);
-            window->paneEdit()->setFocus();
+            PaneEdit()->setFocus();
             Trigger(u"btnpreview"_s);
-            window->showNextFrame();
+            Tick();
             if (stopped) {
                 Trigger(u"btnpreview"_s);
             } else {
-                window->showNextFrame();
-                window->showNextFrame();
+                Tick();
+                Tick();
             }
-            ASSERT_FALSE(window->playing()) << shown;
+            ASSERT_FALSE(Playing()) << shown;
             EXPECT_EQ(PaneText(), stopped ? "one" : "three") << shown << ": the frame stays";
             if (gesture == std::string("click")) {
-                QTest::mouseClick(window->paneEdit()->viewport(), Qt::LeftButton);
+                QTest::mouseClick(PaneEdit()->viewport(), Qt::LeftButton);
             } else if (gesture == std::string("colour")) {
-                window->previewPane().SetSelStart(0);
-                window->previewPane().SetSelLength(2);
+                MainPane().SetSelStart(0);
+                MainPane().SetSelLength(2);
                 QTest::mouseClick(named<QPushButton>(u"cmdColor_0"_s), Qt::LeftButton);
                 EXPECT_EQ(Lines()[1], "two/15") << shown;
-                window->paneEdit()->setFocus();
+                PaneEdit()->setFocus();
             }
-            QTest::keyClicks(window->paneEdit(), u"x"_s);
+            QTest::keyClicks(PaneEdit(), u"x"_s);
             std::string text = script().LineAt(2).Text;
             EXPECT_EQ(text.size(), 4u) << shown << ": " << text;
             EXPECT_EQ(std::erase(text, 'x'), 1u) << shown;

@@ -35,7 +35,7 @@ TEST_F(PictureExport, SaysWhatStopsIt) {
 // and the file holds what flickerscribe-cli picture writes.
 TEST_F(PictureExport, WritesTheBytesOfTheCommandLine) {
     store.writeValue(u"SaveDir"_s, folder.path());
-    window->loadSettings();
+    ReloadSettings();
     RunEffectList(script(), "Quillon", "^4[QZT]", false, {{"Wave 2"}, {"Bounce", "1"}}, {});
     dialogs.QueueSave(PathOf(u"window.gif"_s));
     Show();

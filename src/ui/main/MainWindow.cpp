@@ -65,8 +65,13 @@ bool isLineShortcut(const QKeyEvent* event, const QList<QAction*>& lineActions) 
 
 }  // namespace
 
-MainWindow::MainWindow(Dialogs& dialogs, settings::SettingsStore& store, QString keptFolder, QWidget* parent)
-    : QMainWindow(parent), dialogs_(dialogs), store_(store), kept_(std::move(keptFolder)) {
+MainWindow::MainWindow(AnimationScript& animation, Dialogs& dialogs, settings::SettingsStore& store,
+                       QString keptFolder, QWidget* parent)
+    : QMainWindow(parent),
+      dialogs_(dialogs),
+      store_(store),
+      script_(animation),
+      kept_(std::move(keptFolder)) {
     setObjectName(names::kWindow);
     setWindowTitle(tr("Flickerscribe - by [QZT]Quillon"));
     setWindowIcon(appIcon());
@@ -116,10 +121,6 @@ MainWindow::~MainWindow() {
     // The model listens to the script, which goes before the widgets do: the
     // model goes first, and the list is left without one.
     delete model_;
-}
-
-Pane& MainWindow::previewPane() {
-    return *preview_;
 }
 
 void MainWindow::buildControls() {

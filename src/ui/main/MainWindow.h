@@ -45,28 +45,25 @@ class MainWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    // `keptFolder` is where runs keep their animations (none when empty).
-    MainWindow(Dialogs& dialogs, settings::SettingsStore& store, QString keptFolder = {},
-               QWidget* parent = nullptr);
+    // The window shows and changes `animation`, which outlives it: the one
+    // animation of the program. `keptFolder` is where runs keep their
+    // animations (none when empty).
+    MainWindow(AnimationScript& animation, Dialogs& dialogs, settings::SettingsStore& store,
+               QString keptFolder = {}, QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    AnimationScript& script() { return script_; }
-    const AnimationScript& script() const { return script_; }
-    // Every change to the animation goes through its history.
-    AnimationHistory& history() { return history_; }
-    // The settings in memory, as loadSettings last read them.
-    const settings::Settings& Settings() const { return settings_; }
-    // The preview pane as the core's walks see it, and as a widget.
-    Pane& previewPane();
-    QTextEdit* paneEdit() const { return paneEdit_; }
-    LineListView* lineList() const { return lineList_; }
-    bool coloursVisible() const { return coloursVisible_; }
+public slots:
+    // Open of a file named without the dialog: the one the program was
+    // started with (a project file opened from the desktop).
+    void openAnimationFile(const QString& path);
+    // Ends the program at once, asking nothing; the animation is kept.
+    void exit();
 
-    // While the preview is busy, nothing that happens in the pane reaches a
-    // line: the program's own drawing, and playback for as long as it runs.
-    bool previewBusy() const { return previewBusy_; }
-    void setPreviewBusy(bool busy) { previewBusy_ = busy; }
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
+private:
     // --- the shell (MainWindow.cpp)
     // Draws the selected line into the pane, or locks it with "Preview" when
     // the list is empty.
@@ -81,7 +78,6 @@ public:
     void loadSettings();
     // A click on the line with this 1-based index.
     void showClickedLine(int index);
-    void exit();
 
     // --- playback (MainWindow_Playback.cpp)
     void togglePlayback();
@@ -109,18 +105,11 @@ public:
 
     // --- files (MainWindow_Files.cpp)
     void openAnimation();
-    // Open of a file named without the dialog: the one the program was
-    // started with (a project file opened from the desktop).
-    void openAnimationFile(const QString& path);
     void saveAnimationAs();
     void importScript();
     void generateScript();
     // The animation as an animated GIF (MainWindow_Picture.cpp).
     void exportPicture();
-    // The one file dialog of Open, Save As and Import: it keeps its file name
-    // and folder between uses.
-    FileDialogState& fileDialog() { return fileDialog_; }
-
     // --- undo, redo and the kept animation (MainWindow_History.cpp)
     void undo();
     void redo();
@@ -141,11 +130,6 @@ public:
     void showHelp();
     void showAbout();
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
-
-private:
     void buildMenus();
     void buildToolbar();
     void buildControls();
@@ -165,7 +149,7 @@ private:
 
     Dialogs& dialogs_;
     settings::SettingsStore& store_;
-    AnimationScript script_;
+    AnimationScript& script_;
     AnimationHistory history_{script_};
     KeptAnimations kept_;
     bool keptCurrent_ = true;  // this run's kept file holds the animation of the moment
@@ -180,7 +164,11 @@ private:
     QList<QAction*> lineActions_;
     settings::Settings settings_;
     bool coloursVisible_ = false;
+    // While the preview is busy, nothing that happens in the pane reaches a
+    // line: the program's own drawing, and playback for as long as it runs.
     bool previewBusy_ = false;
+    // The one file dialog of Open, Save As and Import: it keeps its file name
+    // and folder between uses.
     FileDialogState fileDialog_;
     // What the pane shows: "Preview", the selected line as `shownText_`
     // (drawn by setPreview or typed in the pane), or a frame of playback.
