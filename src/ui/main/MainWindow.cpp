@@ -19,7 +19,6 @@
 #include "picture/FramePainter.h"
 #include "settings/SettingsStore.h"
 #include "ui/common/TextConv.h"
-#include "ui/dialogs/DialogWindow.h"
 #include "ui/main/MainIcons.h"
 #include "ui/main/MainWindowNames.h"
 #include "ui/widgets/ColourButtons.h"
