@@ -46,6 +46,19 @@
     </message>
 </context>
 <context>
+    <name>LineLimit</name>
+    <message>
+        <location filename="../src/ui/common/LineLimit.cpp" line="12"/>
+        <source>An animation holds at most 32767 lines. The lines up to that limit are kept; the rest could not be added.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/common/LineLimit.cpp" line="15"/>
+        <source>Line limit reached</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>flickerscribe::ui::AboutDialog</name>
     <message>
         <location filename="../src/ui/dialogs/AboutDialog.cpp" line="67"/>
@@ -188,12 +201,12 @@
 <context>
     <name>flickerscribe::ui::MainWindow</name>
     <message>
-        <location filename="../src/ui/main/MainWindow.cpp" line="71"/>
+        <location filename="../src/ui/main/MainWindow.cpp" line="76"/>
         <source>Flickerscribe - by [QZT]Quillon</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/main/MainWindow.cpp" line="189"/>
+        <location filename="../src/ui/main/MainWindow.cpp" line="190"/>
         <source>Edit text</source>
         <translation type="unfinished"></translation>
     </message>
@@ -257,7 +270,7 @@
     <message>
         <location filename="../src/ui/main/MainWindow_Actions.cpp" line="68"/>
         <location filename="../src/ui/main/MainWindow_Actions.cpp" line="137"/>
-        <location filename="../src/ui/main/MainWindow_Editing.cpp" line="92"/>
+        <location filename="../src/ui/main/MainWindow_Editing.cpp" line="93"/>
         <source>Edit</source>
         <translation type="unfinished"></translation>
     </message>
@@ -385,7 +398,7 @@
     <message>
         <location filename="../src/ui/main/MainWindow_Actions.cpp" line="141"/>
         <location filename="../src/ui/main/MainWindow_Actions.cpp" line="202"/>
-        <location filename="../src/ui/main/MainWindow_Playback.cpp" line="40"/>
+        <location filename="../src/ui/main/MainWindow_Playback.cpp" line="43"/>
         <source>Play</source>
         <translation type="unfinished"></translation>
     </message>
@@ -437,7 +450,7 @@
     </message>
     <message>
         <location filename="../src/ui/main/MainWindow_Actions.cpp" line="200"/>
-        <location filename="../src/ui/main/MainWindow_Playback.cpp" line="32"/>
+        <location filename="../src/ui/main/MainWindow_Playback.cpp" line="34"/>
         <source>Stop</source>
         <translation type="unfinished"></translation>
     </message>
@@ -447,17 +460,17 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/main/MainWindow_Editing.cpp" line="68"/>
+        <location filename="../src/ui/main/MainWindow_Editing.cpp" line="69"/>
         <source>Colour</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/main/MainWindow_Editing.cpp" line="90"/>
+        <location filename="../src/ui/main/MainWindow_Editing.cpp" line="91"/>
         <source>Edit time</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/main/MainWindow_Editing.cpp" line="92"/>
+        <location filename="../src/ui/main/MainWindow_Editing.cpp" line="93"/>
         <source>No items to edit</source>
         <translation type="unfinished"></translation>
     </message>
@@ -600,12 +613,12 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/main/MainWindow_Playback.cpp" line="28"/>
+        <location filename="../src/ui/main/MainWindow_Playback.cpp" line="30"/>
         <source>There is no animation to play!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/main/MainWindow_Playback.cpp" line="28"/>
+        <location filename="../src/ui/main/MainWindow_Playback.cpp" line="30"/>
         <source>Preview Animation</source>
         <translation type="unfinished"></translation>
     </message>
@@ -694,6 +707,24 @@
     </message>
 </context>
 <context>
+    <name>flickerscribe::ui::ScriptModel</name>
+    <message>
+        <location filename="../src/ui/widgets/ScriptModel.cpp" line="50"/>
+        <source>Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/widgets/ScriptModel.cpp" line="52"/>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/widgets/ScriptModel.cpp" line="54"/>
+        <source>Action</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>flickerscribe::ui::ScriptWindow</name>
     <message>
         <location filename="../src/ui/dialogs/ScriptWindow.cpp" line="49"/>
@@ -748,69 +779,69 @@
 <context>
     <name>flickerscribe::ui::WizardDialog</name>
     <message>
-        <location filename="../src/ui/wizard/WizardDialog.cpp" line="47"/>
-        <location filename="../src/ui/wizard/WizardDialog.cpp" line="126"/>
+        <location filename="../src/ui/wizard/WizardDialog.cpp" line="46"/>
+        <location filename="../src/ui/wizard/WizardDialog.cpp" line="125"/>
         <source>Animation Script Wizard</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/wizard/WizardDialog.cpp" line="69"/>
+        <location filename="../src/ui/wizard/WizardDialog.cpp" line="68"/>
         <source>&lt; Back</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/wizard/WizardDialog.cpp" line="70"/>
+        <location filename="../src/ui/wizard/WizardDialog.cpp" line="69"/>
         <source>Next &gt;</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/wizard/WizardDialog.cpp" line="71"/>
+        <location filename="../src/ui/wizard/WizardDialog.cpp" line="70"/>
         <source>Finish</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/wizard/WizardDialog.cpp" line="72"/>
+        <location filename="../src/ui/wizard/WizardDialog.cpp" line="71"/>
         <source>Cancel</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/wizard/WizardDialog.cpp" line="95"/>
+        <location filename="../src/ui/wizard/WizardDialog.cpp" line="94"/>
         <source>Are you sure you want to exit the wizard?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/wizard/WizardDialog.cpp" line="95"/>
+        <location filename="../src/ui/wizard/WizardDialog.cpp" line="94"/>
         <source>Exit wizard?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/wizard/WizardDialog.cpp" line="118"/>
+        <location filename="../src/ui/wizard/WizardDialog.cpp" line="117"/>
         <source>Wizard</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/wizard/WizardDialog.cpp" line="124"/>
+        <location filename="../src/ui/wizard/WizardDialog.cpp" line="123"/>
         <source>A name or a clan tag can hold at most %1 characters. The animation was left as it was.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/wizard/WizardDialog.cpp" line="149"/>
+        <location filename="../src/ui/wizard/WizardDialog.cpp" line="148"/>
         <source>Preview not available yet!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/wizard/WizardDialog.cpp" line="149"/>
+        <location filename="../src/ui/wizard/WizardDialog.cpp" line="148"/>
         <source>Effect - Preview</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/wizard/WizardDialog.cpp" line="164"/>
+        <location filename="../src/ui/wizard/WizardDialog.cpp" line="163"/>
         <source>Repeat</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <location filename="../src/ui/wizard/WizardDialog.cpp" line="163"/>
         <location filename="../src/ui/wizard/WizardDialog.cpp" line="164"/>
-        <location filename="../src/ui/wizard/WizardDialog.cpp" line="165"/>
         <source>No options</source>
         <translation type="unfinished"></translation>
     </message>

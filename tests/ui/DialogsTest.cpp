@@ -153,32 +153,6 @@ TEST_F(Dialog, OpensWithTheFocusWhereTheUserTypesFirst) {
     }
 }
 
-// At its default size each window shows every control whole: none stands over
-// another or past its frame's edge.
-TEST_F(Dialog, NoControlCoversAnotherOrCrossesItsFramesEdge) {
-    for (const QString& name :
-         {u"frmEdit"_s, u"frmOptions"_s, u"frmHelp"_s, u"frmColorEditor"_s, u"frmSimpleEdit"_s}) {
-        Open(name);
-        QApplication::processEvents();
-        QList<QWidget*> controls;
-        for (QWidget* control : dialog->findChildren<QWidget*>()) {
-            if (!control->objectName().isEmpty() && !control->objectName().startsWith(u"qt_"_s))
-                controls << control;
-        }
-        for (QWidget* control : controls) {
-            EXPECT_TRUE(control->parentWidget()->rect().contains(control->geometry()))
-                << name.toStdString() << " " << control->objectName().toStdString();
-            for (QWidget* other : controls) {
-                if (other != control && other->parentWidget() == control->parentWidget()) {
-                    EXPECT_FALSE(control->geometry().intersects(other->geometry()))
-                        << name.toStdString() << " " << control->objectName().toStdString() << " "
-                        << other->objectName().toStdString();
-                }
-            }
-        }
-    }
-}
-
 // --- About and Help
 
 TEST(About, ShowsNameVersionAndMakerAndClosesByEnterOrEscape) {

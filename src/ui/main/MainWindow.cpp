@@ -10,6 +10,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QSignalBlocker>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
@@ -239,8 +240,8 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void MainWindow::setPreview() {
-    const bool wasBusy = previewBusy_;
-    previewBusy_ = true;
+    // The program's own drawing is no edit of the line.
+    const QSignalBlocker quiet(paneEdit_);
     if (script_.Count() > 0) {
         preview_->SetLocked(false);
         shownText_ = script_.LineAt(script_.SelectedIndex()).Text;
@@ -251,11 +252,10 @@ void MainWindow::setPreview() {
         preview_->SetText("Preview");
         paneShows_ = PaneShows::Placeholder;
     }
-    previewBusy_ = wasBusy;
 }
 
 void MainWindow::keepPaneOnSelectedLine() {
-    if (writingFromPane_ || playing()) return;
+    if (playing()) return;
     const int selected = script_.SelectedIndex();
     const bool shown = selected == 0
                            ? paneShows_ == PaneShows::Placeholder

@@ -164,9 +164,6 @@ private:
     QList<QAction*> lineActions_;
     settings::Settings settings_;
     bool coloursVisible_ = false;
-    // While the preview is busy, nothing that happens in the pane reaches a
-    // line: the program's own drawing, and playback for as long as it runs.
-    bool previewBusy_ = false;
     // The one file dialog of Open, Save As and Import: it keeps its file name
     // and folder between uses.
     FileDialogState fileDialog_;
@@ -175,8 +172,6 @@ private:
     enum class PaneShows { Placeholder, Line, Frame };
     PaneShows paneShows_ = PaneShows::Placeholder;
     std::string shownText_;
-    // Set while the pane writes its text to the line, which is no change to follow.
-    bool writingFromPane_ = false;
     // The 1-based index of the next line that playback shows.
     int playIndex_ = 1;
     // The wizard, the one window shown beside this one, while it is open.

@@ -26,15 +26,15 @@ void MainWindow::writePaneToLine(const QString& stepName, bool typing) {
     const int caret = pane.SelStart();
     // Every change of the pane goes back to the selected line as coded text,
     // with a code only where the colour changes (white counting as the colour
-    // before the first character). The program's own drawing, and playback,
-    // reach no line, and neither does a frame that playback left in the pane;
-    // with an empty list there is no line to reach.
-    if (!previewBusy_ && paneShows_ != PaneShows::Frame && script_.Count() >= 1) {
+    // before the first character). The program draws into the pane with its
+    // signals blocked and locks it while playback runs, so only the user's
+    // edits come here; a frame that playback left in the pane reaches no
+    // line, and with an empty list there is no line to reach. The line's
+    // change comes back to a pane that already shows it, and stays there.
+    if (paneShows_ != PaneShows::Frame && script_.Count() >= 1) {
         shownText_ = EncodeColouredText(pane, kWhite);
         paneShows_ = PaneShows::Line;
-        writingFromPane_ = true;
         history_.setText(stepName, script_.SelectedIndex(), shownText_, typing);
-        writingFromPane_ = false;
     }
     // The caret stays where it was, and a selection ends at its start. The
     // walk above doesn't move the caret, so this only matters after a colour
@@ -48,9 +48,10 @@ void MainWindow::writePaneToLine(const QString& stepName, bool typing) {
 
 void MainWindow::paintSelection(int index) {
     Pane& pane = *preview_;
-    // A frame of playback is no line to paint: the pane shows the line again.
-    if (paneShows_ == PaneShows::Frame) {
-        if (!playing()) setPreview();
+    // A locked pane holds no line to paint: "Preview", or playback's frames.
+    // A frame left after playback gives way to the selected line.
+    if (pane.Locked()) {
+        if (paneShows_ == PaneShows::Frame && !playing()) setPreview();
         return;
     }
     // An empty pane takes no colour: a new text can't start with one.

@@ -1,4 +1,6 @@
 #include <QAction>
+#include <QSignalBlocker>
+#include <QTextEdit>
 #include <QTimer>
 
 #include "colour/ColouredText.h"
@@ -33,7 +35,8 @@ void MainWindow::togglePlayback() {
         playAction_->setIcon(stopIcon_);
         addAction_->setEnabled(false);
         removeAction_->setEnabled(false);
-        previewBusy_ = true;
+        // The pane takes no edit while it plays.
+        preview_->SetLocked(true);
         playTimer_->start();
         updateUndoActions();
     } else {
@@ -41,13 +44,13 @@ void MainWindow::togglePlayback() {
         playAction_->setIcon(playIcon_);
         addAction_->setEnabled(true);
         removeAction_->setEnabled(true);
-        previewBusy_ = false;
         playTimer_->stop();
         updateUndoActions();
         // The last frame stays in the pane, but it is no line's text: the pane
-        // takes no edit until it shows the selected line again, which the
-        // user's next click, key or colour in the pane brings.
-        if (paneShows_ == PaneShows::Frame) preview_->SetLocked(true);
+        // stays locked until it shows the selected line again, which the
+        // user's next click, key or colour in the pane brings. Stopped before
+        // the first frame, the pane shows the selected line at once.
+        if (paneShows_ != PaneShows::Frame) setPreview();
     }
 }
 
@@ -58,7 +61,10 @@ void MainWindow::showNextFrame() {
         togglePlayback();
         return;
     }
-    RenderCodedText(script_.LineAt(playIndex_).Text, *preview_);
+    {
+        const QSignalBlocker quiet(paneEdit_);
+        RenderCodedText(script_.LineAt(playIndex_).Text, *preview_);
+    }
     paneShows_ = PaneShows::Frame;
     ++playIndex_;
     // The tick that shows the last line also stops; the frame stays.

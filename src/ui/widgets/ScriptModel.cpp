@@ -47,11 +47,11 @@ QVariant ScriptModel::headerData(int section, Qt::Orientation orientation, int r
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
     switch (section) {
         case kText:
-            return QStringLiteral("Text");
+            return tr("Text");
         case kTime:
-            return QStringLiteral("Time");
+            return tr("Time");
         case kAction:
-            return QStringLiteral("Action");
+            return tr("Action");
         default:
             return {};
     }
