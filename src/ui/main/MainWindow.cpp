@@ -112,6 +112,7 @@ MainWindow::MainWindow(AnimationScript& animation, Dialogs& dialogs, settings::S
     // "Preview" in a locked pane.
     coloursVisible_ = false;
     loadSettings();
+    followSelectedLine(script_.SelectedIndex());
     setPreview();
     updateUndoActions();
     updateReopenAction();
@@ -172,17 +173,7 @@ void MainWindow::buildControls() {
                 const int line = ScriptModel::lineOfRow(current.row());
                 if (line != script_.SelectedIndex()) script_.SelectLine(line);
             });
-    connect(model_, &ScriptModel::selectedLineChanged, this, [this](int index) {
-        if (index == 0) {
-            lineList_->selectionModel()->clear();
-        } else {
-            lineList_->selectionModel()->setCurrentIndex(
-                model_->indexOfLine(index), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-        }
-        // Typing into another line is a step of its own.
-        history_.endTyping();
-        keepPaneOnSelectedLine();
-    });
+    connect(model_, &ScriptModel::selectedLineChanged, this, &MainWindow::followSelectedLine);
     connect(model_, &QAbstractItemModel::dataChanged, this, [this] { keepPaneOnSelectedLine(); });
     connect(model_, &QAbstractItemModel::modelReset, this, [this] { keepPaneOnSelectedLine(); });
     // What the list's in-place editor commits is a step like any other edit.
@@ -252,6 +243,18 @@ void MainWindow::setPreview() {
         preview_->SetText("Preview");
         paneShows_ = PaneShows::Placeholder;
     }
+}
+
+void MainWindow::followSelectedLine(int index) {
+    if (index == 0) {
+        lineList_->selectionModel()->clear();
+    } else {
+        lineList_->selectionModel()->setCurrentIndex(
+            model_->indexOfLine(index), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    }
+    // Typing into another line is a step of its own.
+    history_.endTyping();
+    keepPaneOnSelectedLine();
 }
 
 void MainWindow::keepPaneOnSelectedLine() {

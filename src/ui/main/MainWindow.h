@@ -68,6 +68,9 @@ private:
     // Draws the selected line into the pane, or locks it with "Preview" when
     // the list is empty.
     void setPreview();
+    // The list's current row, and the pane, follow the animation's selected
+    // line (1-based; 0 for none).
+    void followSelectedLine(int index);
     // Redraws the pane when it no longer shows the selected line: after the
     // selection moved, by whatever gesture or command, or the selected line's
     // text changed elsewhere than in the pane. Playback keeps its frames.
