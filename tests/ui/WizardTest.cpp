@@ -11,7 +11,6 @@ public:
         store.writeValue(u"Name"_s, name);
         store.writeValue(u"Clantag"_s, tag);
         store.writeValue(u"Reverse"_s, reverse ? u"1"_s : u"0"_s);
-        ReloadSettings();
         Open(u"frmWizard"_s);
     }
     void Click(const QString& name) { QTest::mouseClick(Child<QPushButton>(name), Qt::LeftButton); }
