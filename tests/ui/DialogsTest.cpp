@@ -1,6 +1,5 @@
 // The smaller windows: the Edit dialog, Options, the two painting windows,
-// About and Help; the names Qt's file dialog is given; the rich text pane and
-// the wizard's pictures.
+// About and Help; the names Qt's file dialog is given; the rich text pane.
 #include <algorithm>
 #include <cstdlib>
 #include <random>
@@ -11,7 +10,6 @@
 #include "ui/common/QtDialogs.h"
 #include "ui/dialogs/AboutDialog.h"
 #include "ui/widgets/RichPane.h"
-#include "ui/wizard/WizardArt.h"
 
 namespace flickerscribe::ui::testing_support {
 namespace {
@@ -272,26 +270,6 @@ TEST(RichPane, BehavesAsThePaneInMemory) {
         rich.SetLocked(true);
         EXPECT_TRUE(rich.Locked() && edit.isReadOnly());
     }
-}
-
-// The wizard's pictures are painted in code; a change to them shows here. When
-// the art is changed on purpose, look at the new pictures and take their sums.
-TEST(WizardArt, ThePicturesLookAsApproved) {
-#ifdef _WIN32
-    GTEST_SKIP() << "the sums are of pictures whose text Linux's font rasterizer drew";
-#endif
-    const auto sum = [](const QPixmap& picture) {
-        const QImage image = picture.toImage().convertToFormat(QImage::Format_ARGB32);
-        return QCryptographicHash::hash(QByteArrayView(image.constBits(), image.sizeInBytes()),
-                                        QCryptographicHash::Sha1)
-            .toHex()
-            .left(12)
-            .toStdString();
-    };
-    EXPECT_EQ(wizardSidePicture().deviceIndependentSize().toSize(), QSize(164, 313));
-    EXPECT_EQ(sum(wizardSidePicture()), "7a150c62383a");
-    EXPECT_EQ(sum(wizardBandPicture(2)) + " " + sum(wizardBandPicture(3)) + " " + sum(wizardBandPicture(4)),
-              "c2f8aedbf966 aede8fcd23bb d00dfeabc91f");
 }
 
 }  // namespace
