@@ -45,22 +45,10 @@ QWidget* addStroke(QBoxLayout* layout, const QString& name, int thickness, QColo
     return line;
 }
 
-// The pane takes one '\n' for a line break where the text has CR LF.
-std::string withPaneBreaks(const std::string& text) {
-    std::string out;
-    out.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') continue;
-        out += text[i];
-    }
-    return out;
-}
-
 }  // namespace
 
 std::string aboutText() {
-    return "^1Flicker^7scribe\r\n\r\nVersion ^8" + info::programVersion() +
-           "\r\n^8Made by ^7[QZT]^2Quillon\r\n";
+    return "^1Flicker^7scribe\n\nVersion ^8" + info::programVersion() + "\n^8Made by ^7[QZT]^2Quillon\n";
 }
 
 AboutDialog::AboutDialog(QWidget* parent)
@@ -106,7 +94,7 @@ AboutDialog::AboutDialog(QWidget* parent)
     okButton->setFocus();
 
     // The text is built at each opening.
-    RenderCodedText(withPaneBreaks(aboutText()), *pane_);
+    RenderCodedText(aboutText(), *pane_);
 }
 
 AboutDialog::~AboutDialog() = default;

@@ -234,7 +234,8 @@ void MainWindow::setPreview() {
     // The program's own drawing is no edit of the line.
     const QSignalBlocker quiet(paneEdit_);
     if (script_.Count() > 0) {
-        preview_->SetLocked(false);
+        // While playback runs, the line a click shows takes no edit either.
+        preview_->SetLocked(playing());
         shownText_ = script_.LineAt(script_.SelectedIndex()).Text;
         RenderCodedText(shownText_, *preview_);
         paneShows_ = PaneShows::Line;

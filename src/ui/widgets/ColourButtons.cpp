@@ -22,7 +22,7 @@ QString colourName(int index) {
         QT_TRANSLATE_NOOP("ColourButtons", "Cyan"),   QT_TRANSLATE_NOOP("ColourButtons", "Magenta"),
         QT_TRANSLATE_NOOP("ColourButtons", "White"),  QT_TRANSLATE_NOOP("ColourButtons", "Black"),
         QT_TRANSLATE_NOOP("ColourButtons", "Red")};
-    return index >= 0 && index < 9 ? QCoreApplication::translate("ColourButtons", names[index]) : QString();
+    return QCoreApplication::translate("ColourButtons", names[index]);
 }
 
 }  // namespace
