@@ -183,6 +183,21 @@ TEST_F(Dialog, HelpShowsAndCopiesEachAddressWhole) {
     EXPECT_FALSE(dialog->isVisible());
 }
 
+// The real input box gives what the box holds on OK and nothing on Cancel.
+TEST(QtDialogs, TheRealInputBoxGivesItsTextOnlyOnOk) {
+    QtDialogs dialogs;
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+        QTimer::singleShot(0, [key] {
+            QWidget* box = QApplication::activeModalWidget()->findChild<QLineEdit*>();
+            QTest::keyClick(box, Qt::Key_End);
+            QTest::keyClicks(box, u"7"_s);
+            QTest::keyClick(box, key);
+        });
+        EXPECT_EQ(dialogs.inputBox(nullptr, u"How many?"_s, u"Copy"_s, u"2"_s),
+                  key == Qt::Key_Return ? std::optional(u"27"_s) : std::nullopt);
+    }
+}
+
 // The real file dialog opens in the folder asked for, as an Open or a Save
 // dialog, with Qt's filters as given, and asks no overwrite question of its
 // own: the commands ask theirs.
