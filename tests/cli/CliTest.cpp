@@ -21,12 +21,6 @@ struct CliResult {
 };
 
 #ifdef _WIN32
-// An argument as CommandLineToArgvW reads it back; the tests' arguments hold
-// no quotes and end in no backslash.
-std::wstring Quoted(const std::wstring& arg) {
-    return L"\"" + arg + L"\"";
-}
-
 // Runs the program in `dir` with the file "stdin" there on standard input,
 // started directly (no shell) with a wide-character command line. Windows has
 // no pipe whose writer starts late to give it.
@@ -44,8 +38,9 @@ CliResult RunCli(const TempFolder& dir, const std::vector<std::string>& args, co
     start.hStdInput = open("stdin", false);
     start.hStdOutput = open("stdout", true);
     start.hStdError = open("stderr", true);
-    std::wstring line = Quoted(std::filesystem::path(FS_CLI_PATH).make_preferred().wstring());
-    for (const auto& arg : args) line += L" " + Quoted(FsPath(arg).wstring());
+    // Read back by CommandLineToArgvW: the tests' arguments hold no quotes and end in no backslash.
+    std::wstring line = L"\"" + std::filesystem::path(FS_CLI_PATH).make_preferred().wstring() + L"\"";
+    for (const auto& arg : args) line += L" \"" + FsPath(arg).wstring() + L"\"";
     PROCESS_INFORMATION process{};
     DWORD status = static_cast<DWORD>(-1);
     if (CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, CREATE_NO_WINDOW, nullptr,
@@ -60,14 +55,13 @@ CliResult RunCli(const TempFolder& dir, const std::vector<std::string>& args, co
 }
 #else
 // Runs the program in `dir` with `input` on standard input: the file "stdin"
-// there, or with `piped` a pipe whose writer starts late. `feeder` is a shell
-// command run beside the program, in the background.
+// there, or the shell command `shell` ahead of the program ends in a pipe
+// ("... | ") that gives it.
 CliResult RunCli(const TempFolder& dir, const std::vector<std::string>& args, const std::string& input = "",
-                 bool piped = false, const std::string& feeder = "") {
+                 const std::string& shell = "") {
     WriteBytes(dir.File("stdin"), input);
-    std::string command = "cd " + dir.Path() + " || exit 9; " +
-                          (feeder.empty() ? "" : "(" + feeder + ") & ") +
-                          (piped ? "(sleep 0.2; cat stdin) | " : "") + FS_CLI_PATH;
+    const bool piped = shell.ends_with("| ");
+    std::string command = "cd " + dir.Path() + " || exit 9; " + shell + FS_CLI_PATH;
     for (const auto& arg : args) {
         command += " '";
         for (char c : arg) command += c == '\'' ? std::string("'\\''") : std::string(1, c);
@@ -97,15 +91,16 @@ const std::string kFsq = "#v050#\r\n^1one\r\n20\r\n[none]\r\na\r\n15\r\n[none]\r
 
 // Standard input is also the file "stdin". An expected output that ends in
 // "..." is its beginning; an expected error is a part of standard error, and
-// none means an empty one.
+// none means an empty one. 32767 lines go through whole; a line more stops the
+// work with status 3, and the lines that stood are written.
 TEST(Cli, CommandsWriteTheirResultsAndEndWithTheirStatus) {
     TempFolder dir;
-    const struct {
-        std::vector<std::string> args;
-        std::string input;
-        int status;
-        std::string out, err;
-    } cases[] = {
+    std::string list = "names\r\n", commands;
+    for (int i = 1; i <= 32767; ++i) {
+        list += "n" + std::to_string(i) + "\r\n";
+        commands += "\r\nset name \"n" + std::to_string(i) + "\"\r\nwait 15";
+    }
+    const std::tuple<std::vector<std::string>, std::string, int, std::string, std::string> cases[] = {
         // clang-format off
         {{"generate", "stdin"}, "#v050#\r\n^1Hi\r\n0\r\n[none]\r\n^3Bye\r\n250\r\nx\r\n", 0,
          Script("\r\nset name \"^1Hi\"\r\nwait 5\r\nset name \"^3Bye\"\r\nwait 99"), ""},
@@ -115,6 +110,7 @@ TEST(Cli, CommandsWriteTheirResultsAndEndWithTheirStatus) {
         {{"import", "-"}, "set name \"^1one\"; wait 20\r\nset name \"a;b\"", 0, kFsq, ""},
         {{"import", "--output=out.fsq", "--", "stdin"}, "set name \"^1one\"; wait 20\nset name \"a;b\"\n", 0, "", ""},
         {{"render", "--runs", "^1F^7i\xC3\xA9"}, "", 0, "FF0000\tF\nFFFFFF\ti\nFFFFFF\t\xE9\n", ""},
+        {{"render", "^1ab^2cd"}, "", 0, "\x1b[48;2;128;128;128m\x1b[38;2;255;0;0mab\x1b[38;2;0;255;0mcd\x1b[0m\n", ""},
         {{"effects", "--reverse", "--tag", "-X-", "--name", "f\xC3\xA9", "--effect", "Wave forward"}, "", 0,
          ProjectFile({"^7f ^0-X-", " ^7\xE9^0-X-"}), ""},
         {{"effects", "--name", "K", "--effect", "Bounce", "--param1", "5.9", "--effect", "Wave 2"}, "y\n", 0,
@@ -122,10 +118,12 @@ TEST(Cli, CommandsWriteTheirResultsAndEndWithTheirStatus) {
         {{"import", "--help"}, "", 0, "usage: flickerscribe-cli import [--output FILE] INPUT\n...", ""},
         {{"picture", "-"}, kFsq, 0, "GIF89a...", ""},
         {{"picture", "--output", "never.gif", "stdin"}, "#v050#\r\n", 1, "", "there is no animation to draw in stdin"},
+        {{"generate", "-"}, list, 0, Script(commands), ""},
+        {{"generate", "-"}, list + "one too many\r\n", 3, Script(commands), "at most 32767 lines"},
         {{"generate", "missing.fsq"}, "", 1, "", "flickerscribe-cli: cannot read missing.fsq"},
         {{"generate", "--output", "nowhere/out.cfg", "stdin"}, "", 1, "", "cannot write nowhere/out.cfg"},
         {{"effects", "--output", "."}, "", 1, "", "cannot write ."},
-        {{}, "", 2, "", "usage: flickerscribe-cli"},
+        {{}, "", 2, "", "flickerscribe-cli COMMAND --help\n\nCommands:\n  generate  write the game script"},
         {{"frob"}, "", 2, "", "unknown command frob"},
         {{"generate", "a", "b"}, "", 2, "", "unexpected argument b\nusage: flickerscribe-cli generate"},
         {{"render", "--runs=yes", "x"}, "", 2, "", "takes no value\nusage: flickerscribe-cli render"},
@@ -143,17 +141,17 @@ TEST(Cli, CommandsWriteTheirResultsAndEndWithTheirStatus) {
 #endif
         // clang-format on
     };
-    for (const auto& c : cases) {
+    for (const auto& [args, input, status, out, err] : cases) {
         std::string shown;
-        for (const auto& a : c.args) shown += a.substr(0, 20) + " ";
-        const CliResult r = RunCli(dir, c.args, c.input);
-        EXPECT_EQ(r.status, c.status) << shown << r.err;
-        if (c.out.ends_with("...")) {
-            EXPECT_TRUE(r.out.starts_with(c.out.substr(0, c.out.size() - 3))) << shown << r.out;
+        for (const auto& a : args) shown += a.substr(0, 20) + " ";
+        const CliResult r = RunCli(dir, args, input);
+        EXPECT_EQ(r.status, status) << shown << r.err;
+        if (out.ends_with("...")) {
+            EXPECT_TRUE(r.out.starts_with(out.substr(0, out.size() - 3))) << shown << r.out;
         } else {
-            EXPECT_EQ(r.out, c.out) << shown;
+            EXPECT_EQ(r.out, out) << shown;
         }
-        EXPECT_TRUE(c.err.empty() ? r.err.empty() : r.err.find(c.err) != std::string::npos) << shown << r.err;
+        EXPECT_TRUE(err.empty() ? r.err.empty() : r.err.find(err) != std::string::npos) << shown << r.err;
     }
     EXPECT_EQ(ReadBytes(dir.File("-dash.cfg")), Script(""));
     EXPECT_EQ(ReadBytes(dir.File("out.fsq")), kFsq);
@@ -161,50 +159,25 @@ TEST(Cli, CommandsWriteTheirResultsAndEndWithTheirStatus) {
     EXPECT_FALSE(std::filesystem::exists(dir.File("never.gif")));
 }
 
-// As `generate <(command)` hands it over: a pipe whose data comes later.
-TEST(Cli, ReadsAPipeNamedOnTheCommandLine) {
+// A pipe whose writer comes late is read when it comes, to its end: one named
+// as `generate <(command)` names it, and a named pipe. Neither the input nor
+// the output file is left empty.
+TEST(Cli, WaitsForTheWriterOfAPipe) {
 #ifdef _WIN32
-    GTEST_SKIP() << "Windows has no /dev/stdin and no pipe that a shell names as a file";
-#else
-    TempFolder dir;
-    const CliResult r = RunCli(dir, {"generate", "/dev/stdin"}, "#v050#\nx\n7\n[none]\n", true);
-    EXPECT_EQ(r.status, 0) << r.err;
-    EXPECT_EQ(r.out, Script("\r\nset name \"x\"\r\nwait 7"));
-#endif
-}
-
-// A named pipe whose writer comes late is read when it comes, to its end:
-// neither an empty input nor an empty output file.
-TEST(Cli, WaitsForTheWriterOfANamedPipe) {
-#ifdef _WIN32
-    GTEST_SKIP() << "Windows has no named pipes in the file system (FIFOs)";
+    GTEST_SKIP() << "Windows has no /dev/stdin and no named pipes in the file system (FIFOs)";
 #else
     TempFolder dir;
     ASSERT_EQ(::mkfifo(dir.File("fifo").c_str(), 0600), 0);
-    WriteBytes(dir.File("out.cfg"), "old");
-    const CliResult r = RunCli(dir, {"generate", "--output", "out.cfg", "fifo"}, "", false,
-                               "sleep 0.3; printf '#v050#\\r\\nx\\r\\n7\\r\\n[none]\\r\\n' >fifo");
-    EXPECT_EQ(r.status, 0) << r.err;
-    EXPECT_EQ(ReadBytes(dir.File("out.cfg")), Script("\r\nset name \"x\"\r\nwait 7"));
-#endif
-}
-
-// 32767 lines go through whole; a line more stops the work with status 3,
-// and the lines that stood are written.
-TEST(Cli, TheLineLimit) {
-    TempFolder dir;
-    std::string list = "names\r\n", commands;
-    for (int i = 1; i <= 32767; ++i) {
-        list += "n" + std::to_string(i) + "\r\n";
-        commands += "\r\nset name \"n" + std::to_string(i) + "\"\r\nwait 15";
+    const std::pair<const char*, const char*> cases[] = {{"/dev/stdin", "(sleep 0.2; cat stdin) | "},
+                                                         {"fifo", "(sleep 0.3; cat stdin >fifo) & "}};
+    for (const auto& [input, shell] : cases) {
+        WriteBytes(dir.File("out.cfg"), "old");
+        const CliResult r =
+            RunCli(dir, {"generate", "--output", "out.cfg", input}, "#v050#\nx\n7\n[none]\n", shell);
+        EXPECT_EQ(r.status, 0) << input << r.err;
+        EXPECT_EQ(ReadBytes(dir.File("out.cfg")), Script("\r\nset name \"x\"\r\nwait 7")) << input;
     }
-    CliResult r = RunCli(dir, {"generate", "-"}, list);
-    EXPECT_EQ(r.status, 0) << r.err;
-    EXPECT_TRUE(r.out == Script(commands));
-    r = RunCli(dir, {"generate", "-"}, list + "one too many\r\n");
-    EXPECT_EQ(r.status, 3);
-    EXPECT_NE(r.err.find("at most 32767 lines"), std::string::npos) << r.err;
-    EXPECT_TRUE(r.out == Script(commands));
+#endif
 }
 
 }  // namespace

@@ -13,8 +13,6 @@
 
 #include <cerrno>
 #include <csignal>
-#include <cstdio>
-#include <cstring>
 #include <random>
 
 #include "TempFolder.h"
@@ -41,11 +39,8 @@ TEST(HostileFiles, OnlyAFileReadWholeReplacesTheLines) {
     // More than the program reads, but sparse: no disk is taken.
     test::WriteBytes(dir.File("huge"), "#v050#\r\n");
     std::filesystem::resize_file(test::FsPath(dir.File("huge")), kMaxFileBytes + 1);
-    const struct {
-        std::string path;
-        bool exists;
-        int lines;  // -1: the old line stays
-    } cases[] = {
+    const std::tuple<std::string, bool, int> cases[] = {
+        // path, exists, lines (-1: the old line stays)
         // clang-format off
         {dir.File("one"), true, 1}, {dir.File("zero"), true, 0}, {dir.File("gone"), false, -1}, {dir.Path(), false, -1},
         {"", false, -1}, {dir.File("huge"), true, -1},
@@ -56,16 +51,16 @@ TEST(HostileFiles, OnlyAFileReadWholeReplacesTheLines) {
 #endif
         // clang-format on
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(FileExists(c.path), c.exists) << c.path;
+    for (const auto& [path, exists, lines] : cases) {
+        EXPECT_EQ(FileExists(path), exists) << path;
         for (const auto load : {LoadAnimationFile, ImportFile}) {
             AnimationScript s;
             s.AppendLine("old", "15", "[none]");
             test::Recorder view;
             s.SetListener(&view);
-            EXPECT_EQ(load(c.path, s), c.lines < 0 ? LoadStatus::ReadFailed : LoadStatus::Loaded) << c.path;
-            EXPECT_EQ(s.Count(), c.lines < 0 ? 1 : c.lines) << c.path;
-            EXPECT_EQ(view.log, c.lines < 0 ? "" : c.lines ? "[R R] s1" : "[R R] s0") << c.path;
+            EXPECT_EQ(load(path, s), lines < 0 ? LoadStatus::ReadFailed : LoadStatus::Loaded) << path;
+            EXPECT_EQ(s.Count(), lines < 0 ? 1 : lines) << path;
+            EXPECT_EQ(view.log, lines < 0 ? "" : lines ? "[R R] s1" : "[R R] s0") << path;
         }
     }
 }
@@ -80,28 +75,11 @@ TEST(HostileFiles, WritesThatASignalCutsShortGoOnWhereTheyStopped) {
     GTEST_SKIP() << "Windows has no signals that cut a write short, and no named pipes in the file system";
 }
 #else
-std::string RandomBytes(std::size_t size, unsigned seed) {
-    std::mt19937 gen(seed);
-    std::string bytes(size, '\0');
-    for (char& c : bytes) c = static_cast<char>(gen() & 0xFF);
-    return bytes;
-}
-
 const std::string kOldFile = "#v050#\r\nold\r\n15\r\n[none]\r\n";
 
-// Saves one line as `name` in `dir`, which holds anim.fsq: the save must be
-// refused for want of rights, anim.fsq stay whole and no file come or go.
-void SaveIsRefused(const test::TempFolder& dir, const std::string& name) {
-    const auto entries = dir.Entries();
-    AnimationScript s;
-    s.AppendLine("new", "15", "[none]");
-    EXPECT_EQ(SaveAnimationFile(dir.File(name), s).value_or(SaveError{}).number, EACCES) << name;
-    EXPECT_EQ(test::ReadBytes(dir.File("anim.fsq")), kOldFile) << name;
-    EXPECT_EQ(dir.Entries(), entries) << name;
-}
-
-// Root may write and read anything: run as root, the test takes the rights
-// of the unprivileged user for a while.
+// A save refused for want of rights leaves anim.fsq whole, and no file comes
+// or goes. Root may write and read anything: run as root, the test takes the
+// rights of the unprivileged user for a while.
 TEST(HostileFiles, AnOrdinaryUserCantWriteAReadOnlyFileNorReadAnUnreadableOne) {
     test::TempFolder open, closed;  // where only the file says no, and where the folder does
     for (const auto* dir : {&open, &closed}) test::WriteBytes(dir->File("anim.fsq"), kOldFile);
@@ -112,9 +90,14 @@ TEST(HostileFiles, AnOrdinaryUserCantWriteAReadOnlyFileNorReadAnUnreadableOne) {
     const bool root = ::geteuid() == 0;
     if (root && (::setresgid(65534, 65534, 0) != 0 || ::setresuid(65534, 65534, 0) != 0))
         GTEST_SKIP() << "no ordinary user to become";
-    SaveIsRefused(open, "anim.fsq");
-    SaveIsRefused(closed, "new.fsq");
     AnimationScript s;
+    s.AppendLine("new", "15", "[none]");
+    for (const auto& [dir, name] : {std::pair(&open, "anim.fsq"), std::pair(&closed, "new.fsq")}) {
+        const auto entries = dir->Entries();
+        EXPECT_EQ(SaveAnimationFile(dir->File(name), s).value_or(SaveError{}).number, EACCES) << name;
+        EXPECT_EQ(test::ReadBytes(dir->File("anim.fsq")), kOldFile) << name;
+        EXPECT_EQ(dir->Entries(), entries) << name;
+    }
     EXPECT_FALSE(FileExists(open.File("secret")));
     EXPECT_EQ(LoadAnimationFile(open.File("secret"), s), LoadStatus::ReadFailed);
     EXPECT_EQ(root ? ::setresuid(0, 0, 0) | ::setresgid(0, 0, 0) : 0, 0);
@@ -124,7 +107,10 @@ TEST(HostileFiles, AnOrdinaryUserCantWriteAReadOnlyFileNorReadAnUnreadableOne) {
 // goes on where it stopped, so the reader gets every byte once, in order.
 TEST(HostileFiles, WritesThatASignalCutsShortGoOnWhereTheyStopped) {
     test::TempFolder dir;
-    const std::string pipe = dir.File("pipe"), bytes = RandomBytes(1 << 20, 3);
+    const std::string pipe = dir.File("pipe");
+    std::string bytes(1 << 20, '\0');
+    std::mt19937 random(3);
+    for (char& c : bytes) c = static_cast<char>(random());
     ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
     const int keepOpen =
         ::open(pipe.c_str(), O_RDONLY | O_NONBLOCK);  // so that the writer's open goes through

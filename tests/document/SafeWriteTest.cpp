@@ -17,12 +17,6 @@ namespace {
 
 namespace stdfs = std::filesystem;
 
-// The outcome of a save: nullopt for 0, else the error of that number.
-std::optional<SaveError> Error(int number) {
-    if (number == 0) return std::nullopt;
-    return SystemError(number);
-}
-
 const std::string kOld = "old content\r\n";
 const std::string kNew = "the new content, longer than the old one\r\n";
 
@@ -32,17 +26,12 @@ TEST(WriteFileSafely, KeepsPermissionsAndOwner) {
 #ifdef _WIN32
     GTEST_SKIP() << "Windows files have no mode bits and owner (the read-only attribute: WindowsFilesTest)";
 #else
-    const auto StatOf = [](const std::string& path) {
-        struct stat st {};
-        ::stat(path.c_str(), &st);
-        return st;
-    };
     test::TempFolder dir;
     const mode_t mask = ::umask(027);
     const auto error = WriteFileSafely(dir.File("new.cfg"), kNew);
     ::umask(mask);
     ASSERT_EQ(error, std::nullopt);
-    EXPECT_EQ(StatOf(dir.File("new.cfg")).st_mode & 07777, 0640u);
+    EXPECT_EQ(stdfs::status(dir.File("new.cfg")).permissions(), stdfs::perms(0640));
     const uid_t owner = ::geteuid() == 0 ? 65534 : ::geteuid();
     const auto path = dir.File("anim.fsq");
     for (const mode_t mode : {0600u, 0755u, 0604u}) {
@@ -50,8 +39,10 @@ TEST(WriteFileSafely, KeepsPermissionsAndOwner) {
         ASSERT_EQ(::chmod(path.c_str(), mode) | ::chown(path.c_str(), owner, ::getegid()), 0);
         errno = EIO;  // a stale error number from before must not fail a good save
         ASSERT_EQ(WriteFileSafely(path, kNew), std::nullopt) << std::oct << mode;
-        EXPECT_EQ(StatOf(path).st_mode & 07777, mode);
-        EXPECT_EQ(StatOf(path).st_uid, owner);
+        struct stat st {};
+        ASSERT_EQ(::stat(path.c_str(), &st), 0);
+        EXPECT_EQ(st.st_mode & 07777, mode);
+        EXPECT_EQ(st.st_uid, owner);
         ASSERT_EQ(WriteFileSafely(path, "x"), std::nullopt);  // shorter: nothing of the old text stays
         EXPECT_EQ(test::ReadBytes(path), "x");
     }
@@ -104,7 +95,7 @@ TEST(WriteFileSafely, AWriteBrokenOffHalfWayLeavesTheOldFileWhole) {
             const auto path = dir.File("anim.fsq");
             if (oldFile) test::WriteBytes(path, kOld);
             write_seam::FailNextWriteAfter(after, error);
-            EXPECT_EQ(WriteFileSafely(path, kNew), Error(error)) << after;
+            EXPECT_EQ(WriteFileSafely(path, kNew), SystemError(error)) << after;
             EXPECT_EQ(test::ReadBytes(path), oldFile ? kOld : "") << after;
             EXPECT_EQ(dir.Entries().size(), oldFile ? 1u : 0u) << after;
             EXPECT_EQ(WriteFileSafely(path, kNew), std::nullopt);  // the failure was for one write only
@@ -119,6 +110,7 @@ TEST(WriteFileSafely, AWriteBrokenOffHalfWayLeavesTheOldFileWhole) {
     ::close(0);
     test::TempFolder dir;
     EXPECT_EQ(WriteFileSafely(dir.File("anim.fsq"), kNew), std::nullopt);
+    EXPECT_EQ(ReadFileBytes(dir.File("anim.fsq")), kNew);
     EXPECT_EQ(WriteFileSafely("/dev/null", kNew, FileKinds::AnyKind), std::nullopt);
     ::dup2(input, 0);
     ::close(input);
@@ -135,11 +127,7 @@ TEST(WriteFileSafely, RefusesWhatCannotBeWrittenAndTouchesNothing) {
         << "named pipes in the file system, symbolic links and /dev: Windows' own in WindowsFilesTest";
 #else
     constexpr auto kAny = FileKinds::AnyKind, kPlain = FileKinds::PlainOnly;
-    const struct {
-        std::string target;
-        FileKinds kinds;
-        int error;
-    } cases[] = {
+    const std::tuple<std::string, FileKinds, int> cases[] = {
         // clang-format off
         {"sub", kAny, EISDIR}, {"nowhere/anim.fsq", kAny, ENOENT}, {"anim.fsq/x", kAny, ENOTDIR},
         {"loop", kAny, ELOOP}, {"", kAny, ENOENT}, {"/dev/full", kAny, ENOSPC}, {"/dev/null", kAny, 0},

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "TempFolder.h"
+#include "document/AnimationScript.h"
 #include "effects/EffectRun.h"
 
 namespace flickerscribe {
@@ -17,9 +17,7 @@ std::string Frames(const AnimationScript& script, int from = 1) {
     return frames;
 }
 
-bool Yes(const std::string&, const std::string&) {
-    return true;
-}
+const YesNoQuestion Yes = [](const std::string&, const std::string&) { return true; };
 
 // One effect on a fresh script: its frames, and the name and tag that the
 // next row of a run sees. A code is a caret and a digit; the character behind
@@ -71,39 +69,31 @@ TEST(Effects, FramesOfEachEffect) {
 
 // Bounce asks before a count of 5 or more, and No ends it before it touches
 // anything. One visible character makes 3 * 2^R - 3 lines, seven 15 * 2^R - 15.
+// Rows: the count, the name, the lines made, whether it asks.
 TEST(Effects, BounceRepeatCount) {
-    const struct {
-        const char *repeats, *name;
-        int lines;
-        bool asked;
-    } cases[] = {
+    const std::tuple<const char*, std::string, int, bool> cases[] = {
         // clang-format off
         {"0", "K", 0, false}, {"abc", "K", 0, false}, {"-2", "K", 0, false}, {"0.9", "K", 0, false},
         {"1", "K", 3, false}, {"2.7", "K", 9, false}, {"4.9", "K", 45, false}, {"5", "K", 93, true},
         {" 5.9 ", "K", 93, true}, {"3", "Quillon", 105, false}, {"11", "Quillon", 30705, true},
         // clang-format on
     };
-    for (const auto& c : cases) {
+    for (const auto& [repeats, visible, lines, asks] : cases) {
         for (const bool answer : {true, false}) {
-            SCOPED_TRACE(std::string("\"") + c.repeats + "\" answered " + (answer ? "yes" : "no"));
+            SCOPED_TRACE(std::string("\"") + repeats + "\" answered " + (answer ? "yes" : "no"));
             AnimationScript script;
-            std::string name = std::string("^1") + c.name, tag = "^4[QZT]", asked;
+            std::string name = "^1" + visible, tag = "^4[QZT]", asked;
             const auto ask = [&](const std::string& title, const std::string& text) {
                 asked = title + " " + text;
                 return answer;
             };
-            EXPECT_EQ(ApplyEffect(script, name, "Bounce", c.repeats, "0", tag, false, ask),
-                      EffectStatus::Done);
-            EXPECT_EQ(asked,
-                      c.asked
-                          ? "Processing effect list... Are you sure you want to repeat the BOUNCE EFFECT " +
-                                std::string(c.repeats) + " times?"
-                          : "");
-            const bool runs = c.lines > 0 && (answer || !c.asked);
-            EXPECT_EQ(script.Count(), runs ? c.lines : 0);
-            EXPECT_EQ(name + tag,
-                      runs ? c.name + std::string("[QZT]") : "^1" + std::string(c.name) + "^4[QZT]");
-            EXPECT_EQ(Frames(script, std::max(1, script.Count())), runs ? "[QZT]" + std::string(c.name) : "");
+            EXPECT_EQ(ApplyEffect(script, name, "Bounce", repeats, "0", tag, false, ask), EffectStatus::Done);
+            const std::string question = "Are you sure you want to repeat the BOUNCE EFFECT ";
+            EXPECT_EQ(asked, asks ? "Processing effect list... " + question + repeats + " times?" : "");
+            const bool runs = lines > 0 && (answer || !asks);
+            EXPECT_EQ(script.Count(), runs ? lines : 0);
+            EXPECT_EQ(name + tag, runs ? visible + "[QZT]" : "^1" + visible + "^4[QZT]");
+            EXPECT_EQ(Frames(script, std::max(1, script.Count())), runs ? "[QZT]" + visible : "");
         }
     }
 }
@@ -130,12 +120,7 @@ TEST(Effects, StopAtTheFirstLineTheFullScriptRefuses) {
 // A run clears the script and applies the rows in order, each to the name
 // and tag the rows before it left.
 TEST(EffectRun, RowsChainThroughTheRewrittenNameAndTag) {
-    const struct {
-        const char *name, *tag;
-        bool reverse;
-        std::vector<EffectRow> rows;
-        const char* frames;
-    } cases[] = {
+    const std::tuple<const char*, const char*, bool, std::vector<EffectRow>, const char*> cases[] = {
         // clang-format off
         {"Ka", "[QZT]", true, {{"Wave 2"}, {"Bounce", "1"}, {"Wave 2"}},
          "K^0[QZT]|Ka^0[QZT]|Ka[QZT]|K[QZT]a|[QZT]Ka|K[QZT]a|Ka[QZT]|Ka^0[QZT]|K^0[QZT]|K^0[QZT]|Ka^0[QZT]"},
@@ -143,12 +128,12 @@ TEST(EffectRun, RowsChainThroughTheRewrittenNameAndTag) {
         {"Ka", "[QZT]", false, {}, ""},
         // clang-format on
     };
-    for (const auto& c : cases) {
+    for (const auto& [name, tag, reverse, rows, frames] : cases) {
         AnimationScript script;
         script.AppendLine("from before the run", "15", "[none]");
-        const EffectRunResult result = RunEffectList(script, c.name, c.tag, c.reverse, c.rows, Yes);
+        const EffectRunResult result = RunEffectList(script, name, tag, reverse, rows, Yes);
         EXPECT_FALSE(result.lineLimitReached || result.inputRefused);
-        EXPECT_EQ(Frames(script), c.frames);
+        EXPECT_EQ(Frames(script), frames);
         EXPECT_EQ(script.SelectedIndex(), script.Count() ? 1 : 0);
     }
 }

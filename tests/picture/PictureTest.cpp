@@ -37,10 +37,7 @@ TEST(Picture, FramesStayTheirTimeAndThePictureLoops) {
 #ifdef _WIN32
     GTEST_SKIP() << "under Wine Qt's offscreen platform finds no fonts, and every glyph draws alike";
 #endif
-    const struct {
-        std::vector<std::string> texts;
-        std::vector<int> delays;
-    } cases[] = {
+    const std::pair<std::vector<std::string>, std::vector<int>> cases[] = {
         {{"^1Fl^7ick", "^1Fl^7ick", "^1Fl^7ick", "x"}, {300, 100}},
         {{"a", "b", "a"}, {100, 100, 100}},
         {{"^1a", "^9a", "^1a", "^3a"}, {300, 100}},  // other codes, one picture
@@ -48,9 +45,9 @@ TEST(Picture, FramesStayTheirTimeAndThePictureLoops) {
         {{"one\ntwo", "one two"}, {200}},                        // a line break shows as a blank
         {std::vector<std::string>(7000, "a"), {655300, 44700}},  // longer than a GIF's 16-bit delay
     };
-    for (const auto& c : cases) {
-        const Decoded d = Draw(c.texts);
-        EXPECT_EQ(d.delays, c.delays) << c.texts.front();
+    for (const auto& [texts, delays] : cases) {
+        const Decoded d = Draw(texts);
+        EXPECT_EQ(d.delays, delays) << texts.front();
         EXPECT_EQ(d.loops, -1);
         for (const QImage& frame : d.frames) EXPECT_EQ(frame.size(), d.frames.front().size());
     }
@@ -87,33 +84,29 @@ TEST(Picture, GlyphsTakeTheirCharactersColours) {
                                            {'Y', qRgb(255, 255, 0)},   {'B', qRgb(0, 0, 255)},
                                            {'C', qRgb(0, 255, 255)},   {'M', qRgb(255, 0, 255)},
                                            {'W', qRgb(255, 255, 255)}, {'K', qRgb(0, 0, 0)}};
-    const struct {
-        std::string text, colours;
-    } cases[] = {
-        {"^1Fl^7ick", "RRWWW"},
-        {"^2a^3b^4c^5d^6e^8f", "GYBCMK"},
-        {"Quillon ^4[QZT]", "WWWWWWW BBBBB"},
-        {"^9x^0y", "RW"},
-    };
-    for (const auto& c : cases) {
-        const QImage frame = Draw({c.text}).frames.at(0);
-        const double advance = double(frame.width() - 2 * kFrameMargin) / double(c.colours.size());
-        std::vector<int> inked(c.colours.size());
+    const std::pair<std::string, std::string> cases[] = {{"^1Fl^7ick", "RRWWW"},
+                                                         {"^2a^3b^4c^5d^6e^8f", "GYBCMK"},
+                                                         {"Quillon ^4[QZT]", "WWWWWWW BBBBB"},
+                                                         {"^9x^0y", "RW"}};
+    for (const auto& [text, colours] : cases) {
+        const QImage frame = Draw({text}).frames.at(0);
+        const double advance = double(frame.width() - 2 * kFrameMargin) / double(colours.size());
+        std::vector<int> inked(colours.size());
         for (int y = 0; y < frame.height(); ++y) {
             for (int x = 0; x < frame.width(); ++x) {
                 const QRgb pixel = frame.pixel(x, y);
                 if (pixel == qRgb(128, 128, 128)) continue;  // the pane's grey
                 ASSERT_TRUE(x >= kFrameMargin && y >= kFrameMargin && y < frame.height() - kFrameMargin)
-                    << c.text << " inks the margin at " << x << "," << y;
+                    << text << " inks the margin at " << x << "," << y;
                 const auto cell = std::size_t(std::max(0.0, (x - kFrameMargin) / advance));
-                ASSERT_LT(cell, c.colours.size()) << c.text << " at " << x << "," << y;
-                ASSERT_EQ(pixel, kColours.at(c.colours[cell]))
-                    << c.text << " at " << x << "," << y << " in character " << cell;
+                ASSERT_LT(cell, colours.size()) << text << " at " << x << "," << y;
+                ASSERT_EQ(pixel, kColours.at(colours[cell]))
+                    << text << " at " << x << "," << y << " in character " << cell;
                 ++inked[cell];
             }
         }
-        for (std::size_t i = 0; i < c.colours.size(); ++i)
-            EXPECT_EQ(inked[i] > 0, c.colours[i] != ' ') << c.text << " character " << i;
+        for (std::size_t i = 0; i < colours.size(); ++i)
+            EXPECT_EQ(inked[i] > 0, colours[i] != ' ') << text << " character " << i;
     }
 }
 

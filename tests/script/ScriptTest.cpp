@@ -25,19 +25,12 @@ TEST(ScriptText, WaitCommand) {
     EXPECT_EQ(WaitCommand("x", nullptr), "wait 15");
 }
 
-// The worked example byte for byte: the empty first line, the banner, then
-// each line's commands; every time that is no number reported in list order.
-// A text goes in as it is, but an empty one or one that begins with a blank
-// gets "^7" in front.
+// Byte for byte: the empty first line, the banner's lines, then each line's
+// commands; every time that is no number reported in list order. A text goes
+// in as it is, but an empty one or one that begins with a blank gets "^7" in front.
 TEST(ScriptText, BuildsTheWholeScript) {
-    const std::string banner =
-        "\r\n//--------------------------\\\\"
-        "\r\n//----- SCRIPT MADE WITH ---\\\\"
-        "\r\n//------ Flickerscribe -----\\\\"
-        "\r\n//----- by: [QZT]Quillon ---\\\\"
-        "\r\n//--------------------------\\\\"
-        "\r\n//-quillon@qzt-clan.example-\\\\"
-        "\r\n//--------------------------\\\\";
+    std::string banner;
+    for (std::string_view line : kScriptBanner) banner.append("\r\n").append(line);
     AnimationScript script;
     std::vector<std::string> reports;
     const ScriptReport report = [&](const std::string& m) { reports.push_back(m); };
@@ -101,10 +94,9 @@ TEST(ConfigImport, ScriptsAndTheLinesTheyMake) {
     for (const auto& [script, lines] : cases) EXPECT_EQ(Import(script), lines) << script;
 }
 
+// A line's text and time, and the line the generated script imports as.
 TEST(ConfigImport, AGeneratedScriptComesBack) {
-    const struct {
-        const char *text, *time, *back;
-    } cases[] = {
+    const std::tuple<const char*, const char*, const char*> cases[] = {
         // clang-format off
         {"^1Fl^7ick", "15", "^1Fl^7ick"}, {"", "20", "^7 |20"}, {" ^2up", "0", "^7 ^2up|5"}, {"^7 ", "250", "^7 |99"},
         {"a\"b", "abc", "ab"}, {"a;b", "3", "a|3"}, {"x", " 20 ", "x|20"}, {"x", "1.5", "x|1.5"},
@@ -113,9 +105,9 @@ TEST(ConfigImport, AGeneratedScriptComesBack) {
     };
     AnimationScript source;
     Lines expected;
-    for (const auto& c : cases) {
-        source.AppendLine(c.text, c.time, "[none]");
-        expected.push_back(c.back);
+    for (const auto& [text, time, back] : cases) {
+        source.AppendLine(text, time, "[none]");
+        expected.push_back(back);
     }
     EXPECT_EQ(Import(BuildScriptText(source, nullptr) + "\r\n"), expected);
 }
