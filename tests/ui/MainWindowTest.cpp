@@ -16,6 +16,7 @@ TEST_F(MainWindowCase, StartsEmpty) {
     EXPECT_TRUE(store.Writes().isEmpty());
     for (const QString& off : {u"mnuFileSave"_s, u"mnuFileReopen"_s, u"mnuEditUndo"_s, u"mnuEditRedo"_s})
         EXPECT_FALSE(named(off)->isEnabled()) << off.toStdString();
+    EXPECT_FALSE(named<QMenu>(u"mnuFileKept"_s)->isEnabled()) << "no kept animations";
 }
 
 // --- the commands over lines, the clipboard and the list's keys. A, B, C with the times 10, 20, 30, B
@@ -137,6 +138,7 @@ INSTANTIATE_TEST_SUITE_P(
         CommandCase{"Copy", Press("mnuEditCopy"), kABC, 2, kABC, 2, "", "B"},
         CommandCase{"Cut", Press("mnuEditCut"), kAC, 2, kABC, 2, "", "B"},
         CommandCase{"CutTheOnly", Press("mnuEditCut"), {}, 0, {"^1A/10"}, 1, "", "^1A"},
+        CommandCase{"CutOfNone", Press("mnuEditCut"), {}, 0, {}, 0},
         CommandCase{"Paste", Paste(u" ^1x ^^ "_s), WithPasted(" ^1x ^^ "), 2, kABC, 2, "", " ^1x ^^ "},
         CommandCase{"PasteFirstLineOfCrLf", Paste(u"one\r\ntwo"_s), WithPasted("one"), 2, kABC, 2, "",
                     "one\r\ntwo"},
@@ -321,6 +323,7 @@ TEST_F(MainWindowCase, AfterPlaybackThePaneEditsTheSelectedLineNotTheFrame) {
             EXPECT_EQ(PaneText(), stopped ? "one" : "three") << shown << ": the frame stays";
             if (gesture == std::string("click")) {
                 QTest::mouseClick(PaneEdit()->viewport(), Qt::LeftButton);
+                EXPECT_EQ(PaneText(), "two") << shown << ": the click shows the line";
             } else if (gesture == std::string("colour")) {
                 MainPane().SetSelStart(0);
                 MainPane().SetSelLength(2);
