@@ -41,7 +41,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     flickerscribe::RenderCodedText(coded, pane);
     FUZZ_CHECK(pane.Text() == shown);
     FUZZ_CHECK(pane.Runs() == runs);
-    FUZZ_CHECK(pane.SelStart() == pane.length() && pane.SelLength() == 0);
+    FUZZ_CHECK(pane.SelStart() == pane.Length() && pane.SelLength() == 0);
 
     // Encoding and rendering again gives the same coloured characters, as long
     // as no shown character is a caret (a shown caret would read as a code).
@@ -59,7 +59,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (size <= 256) {
         flickerscribe::MemoryPane typed;
         for (const auto& run : runs) {
-            typed.SetSelStart(typed.length());
+            typed.SetSelStart(typed.Length());
             typed.SetSelColour(run.colour);
             typed.SetSelText(run.text);
         }
