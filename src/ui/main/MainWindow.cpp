@@ -108,12 +108,12 @@ MainWindow::MainWindow(AnimationScript& animation, Dialogs& dialogs, settings::S
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         move(screen->availableGeometry().center() - rect().center());
 
-    // The strip starts hidden; the settings apply, and the empty list shows
-    // "Preview" in a locked pane.
-    coloursVisible_ = false;
+    // The strip starts hidden; the settings apply, and the pane shows the
+    // selected line, or "Preview" locked for an empty list, before the list's
+    // row follows that line.
     loadSettings();
-    followSelectedLine(script_.SelectedIndex());
     setPreview();
+    followSelectedLine(script_.SelectedIndex());
     updateUndoActions();
     updateReopenAction();
 }
@@ -224,7 +224,7 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
         }
         if (watched == paneEdit_ && event->type() == QEvent::KeyPress) {
             const auto* key = static_cast<QKeyEvent*>(event);
-            onPaneKeyPress(key->key(), key->modifiers());
+            onPaneKeyPress(key->key());
         }
     }
     return QMainWindow::eventFilter(watched, event);

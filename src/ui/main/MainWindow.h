@@ -102,8 +102,8 @@ private:
     // --- editing in the pane and the list (MainWindow_Editing.cpp)
     void onPaneEdited();
     void paintSelection(int index);
-    void onPaneKeyPress(int key, Qt::KeyboardModifiers modifiers);
-    void onListKeyPress(int key, Qt::KeyboardModifiers modifiers);
+    void onPaneKeyPress(int key);
+    void onListKeyPress(int key);
     void editSelectedLine();
 
     // --- files (MainWindow_Files.cpp)

@@ -69,15 +69,14 @@ void MainWindow::paintSelection(int index) {
     if (stretch) writePaneToLine(tr("Colour"), false);
 }
 
-void MainWindow::onPaneKeyPress(int key, Qt::KeyboardModifiers modifiers) {
-    (void)modifiers;
+void MainWindow::onPaneKeyPress(int key) {
     // The Ctrl key alone takes the focus to the list, so that every Ctrl
     // combination begun in the pane works on lines, not on characters.
     if (key == Qt::Key_Control) lineList_->setFocus();
 }
 
-void MainWindow::onListKeyPress(int key, Qt::KeyboardModifiers modifiers) {
-    (void)modifiers;  // Shift+Delete and Ctrl+Delete remove as well
+void MainWindow::onListKeyPress(int key) {
+    // Delete removes with Shift or Ctrl held as well.
     // The list has already moved its selection for this key, so the pane
     // shows the line an arrow key led to.
     if (key == Qt::Key_Delete) removeSelectedLine();

@@ -3,7 +3,6 @@
 #include <QBrush>
 #include <QColor>
 #include <QHash>
-#include <QPalette>
 #include <QTextBlock>
 #include <QTextCharFormat>
 #include <QTextCursor>
@@ -58,12 +57,7 @@ Colour colourAt(const QTextDocument& doc, int position) {
 
 }  // namespace
 
-RichPane::RichPane(QTextEdit* edit) : edit_(edit) {
-    // What reads as black must also show black, whatever the desktop's theme.
-    QPalette palette = edit_->palette();
-    palette.setColor(QPalette::Text, Qt::black);
-    edit_->setPalette(palette);
-}
+RichPane::RichPane(QTextEdit* edit) : edit_(edit) {}
 
 std::string RichPane::Text() const {
     QString text = edit_->document()->toRawText();

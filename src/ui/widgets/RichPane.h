@@ -12,7 +12,8 @@ namespace flickerscribe::ui {
 // walks run on a real widget. Bulk reads and writes go by runs, in one edit
 // block with one character format per colour, never a round trip per
 // character. A paragraph break of the widget is the pane character '\n'.
-// Text that was never painted has the pane's default colour, black.
+// Text that was never painted has the pane's default colour, black (which
+// styleGreyPane makes the widget show as black).
 class RichPane : public Pane {
 public:
     explicit RichPane(QTextEdit* edit);
