@@ -3,6 +3,7 @@
 #include <windows.h>
 #else
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <unistd.h>
 #endif
 
@@ -19,6 +20,16 @@ namespace stdfs = std::filesystem;
 
 const std::string kOld = "old content\r\n";
 const std::string kNew = "the new content, longer than the old one\r\n";
+
+#ifndef _WIN32
+// The device /dev/NAME; run as root, a node of its own in `dir`, so that a
+// broken save can only replace that one and never the system's.
+std::string Device(const test::TempFolder& dir, const std::string& name, unsigned minor) {
+    const std::string node = dir.File(name);
+    const bool own = ::geteuid() == 0 && ::mknod(node.c_str(), S_IFCHR | 0666, makedev(1, minor)) == 0;
+    return own ? node : "/dev/" + name;
+}
+#endif
 
 // A new file gets what the umask leaves; a replaced one keeps its mode and
 // its owner (only root can give a file away; anyone else keeps it anyway).
@@ -111,7 +122,7 @@ TEST(WriteFileSafely, AWriteBrokenOffHalfWayLeavesTheOldFileWhole) {
     test::TempFolder dir;
     EXPECT_EQ(WriteFileSafely(dir.File("anim.fsq"), kNew), std::nullopt);
     EXPECT_EQ(ReadFileBytes(dir.File("anim.fsq")), kNew);
-    EXPECT_EQ(WriteFileSafely("/dev/null", kNew, FileKinds::AnyKind), std::nullopt);
+    EXPECT_EQ(WriteFileSafely(Device(dir, "null", 3), kNew, FileKinds::AnyKind), std::nullopt);
     ::dup2(input, 0);
     ::close(input);
 #endif
@@ -127,11 +138,13 @@ TEST(WriteFileSafely, RefusesWhatCannotBeWrittenAndTouchesNothing) {
         << "named pipes in the file system, symbolic links and /dev: Windows' own in WindowsFilesTest";
 #else
     constexpr auto kAny = FileKinds::AnyKind, kPlain = FileKinds::PlainOnly;
+    test::TempFolder devices;
+    const std::string null = Device(devices, "null", 3), full = Device(devices, "full", 7);
     const std::tuple<std::string, FileKinds, int> cases[] = {
         // clang-format off
         {"sub", kAny, EISDIR}, {"nowhere/anim.fsq", kAny, ENOENT}, {"anim.fsq/x", kAny, ENOTDIR},
-        {"loop", kAny, ELOOP}, {"", kAny, ENOENT}, {"/dev/full", kAny, ENOSPC}, {"/dev/null", kAny, 0},
-        {"pipe", kAny, ENXIO}, {"pipe", kPlain, EINVAL}, {"/dev/null", kPlain, EINVAL},
+        {"loop", kAny, ELOOP}, {"", kAny, ENOENT}, {full, kAny, ENOSPC}, {null, kAny, 0},
+        {"pipe", kAny, ENXIO}, {"pipe", kPlain, EINVAL}, {null, kPlain, EINVAL},
         // clang-format on
     };
     for (const auto& [target, kinds, error] : cases) {
@@ -148,7 +161,7 @@ TEST(WriteFileSafely, RefusesWhatCannotBeWrittenAndTouchesNothing) {
         EXPECT_EQ(dir.Entries(), (std::vector<std::string>{"anim.fsq", "loop", "pipe", "sub"})) << target;
         EXPECT_TRUE(stdfs::is_empty(dir.File("sub"))) << target;
     }
-    EXPECT_TRUE(stdfs::is_character_file("/dev/null"));
+    EXPECT_TRUE(stdfs::is_character_file(null));
 #endif
 }
 
