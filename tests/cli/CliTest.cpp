@@ -21,9 +21,8 @@ struct CliResult {
 };
 
 #ifdef _WIN32
-// Runs the program in `dir` with the file "stdin" there on standard input,
-// started directly (no shell) with a wide-character command line. Windows has
-// no pipe whose writer starts late to give it.
+// Runs the program in `dir`, the file "stdin" there on standard input, with a
+// wide-character command line and no shell.
 CliResult RunCli(const TempFolder& dir, const std::vector<std::string>& args, const std::string& input = "") {
     WriteBytes(dir.File("stdin"), input);
     SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
@@ -54,9 +53,8 @@ CliResult RunCli(const TempFolder& dir, const std::vector<std::string>& args, co
     return {static_cast<int>(status), ReadBytes(dir.File("stdout")), ReadBytes(dir.File("stderr"))};
 }
 #else
-// Runs the program in `dir` with `input` on standard input: the file "stdin"
-// there, or the shell command `shell` ahead of the program ends in a pipe
-// ("... | ") that gives it.
+// Runs the program in `dir`, the file "stdin" there on standard input, or the
+// output of `shell`, a command ending in "... | ".
 CliResult RunCli(const TempFolder& dir, const std::vector<std::string>& args, const std::string& input = "",
                  const std::string& shell = "") {
     WriteBytes(dir.File("stdin"), input);
@@ -89,10 +87,8 @@ std::string ProjectFile(const std::vector<std::string>& texts) {
 
 const std::string kFsq = "#v050#\r\n^1one\r\n20\r\n[none]\r\na\r\n15\r\n[none]\r\n";
 
-// Standard input is also the file "stdin". An expected output that ends in
-// "..." is its beginning; an expected error is a part of standard error, and
-// none means an empty one. 32767 lines go through whole; a line more stops the
-// work with status 3, and the lines that stood are written.
+// An output ending in "..." is a beginning; an error is a part of standard
+// error (none: empty). A line over 32767 stops with status 3, the rest written.
 TEST(Cli, CommandsWriteTheirResultsAndEndWithTheirStatus) {
     TempFolder dir;
     std::string list = "names\r\n", commands;
@@ -159,9 +155,8 @@ TEST(Cli, CommandsWriteTheirResultsAndEndWithTheirStatus) {
     EXPECT_FALSE(std::filesystem::exists(dir.File("never.gif")));
 }
 
-// A pipe whose writer comes late is read when it comes, to its end: one named
-// as `generate <(command)` names it, and a named pipe. Neither the input nor
-// the output file is left empty.
+// A pipe whose writer comes late (as `generate <(command)` names one, and a
+// named pipe) is read to its end; neither input nor output is left empty.
 TEST(Cli, WaitsForTheWriterOfAPipe) {
 #ifdef _WIN32
     GTEST_SKIP() << "Windows has no /dev/stdin and no named pipes in the file system (FIFOs)";

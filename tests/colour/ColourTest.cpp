@@ -14,9 +14,8 @@ constexpr Colour kRed = 0x0000FF, kGreen = 0x00FF00, kYellow = 0x00FFFF, kBlue =
                  kMagenta = 0xFF00FF;
 constexpr Colour kDarkRed = Rgb(128, 0, 0);  // outside the palette
 
-// What the pane shows for a coded text, and the codes it gives back (from
-// white). A caret and the character behind it go together; only a digit
-// there changes the colour, and the character after the pair is shown untested.
+// What the pane shows for a coded text and the codes it gives back (from white).
+// A caret takes the character behind it; only a digit there changes the colour.
 TEST(RenderRuns, ShowsCharactersInTheColourOfTheirCode) {
     const std::tuple<const char*, std::vector<ColouredRun>, const char*> cases[] = {
         // clang-format off
@@ -40,9 +39,8 @@ TEST(RenderRuns, ShowsCharactersInTheColourOfTheirCode) {
     }
 }
 
-// Codes are compared from white, and the last colour runs on across line
-// breaks; a line of nothing but blanks is left out unless it starts with a
-// code. The breaks carry colours that would change the result if they counted.
+// Codes compare from white, the last colour running on across line breaks
+// (whose own colours don't count); a blank line without a code is left out.
 TEST(SimpleEditWalk, SplitsThePaneIntoCodedLines) {
     const std::pair<std::vector<ColouredRun>, std::vector<std::string>> cases[] = {
         // clang-format off
@@ -65,9 +63,8 @@ TEST(SimpleEditWalk, SplitsThePaneIntoCodedLines) {
 
 const std::string kZeros(400, '0');
 
-// Blanks around are trimmed; the value is rounded half to even and must lie
-// in -32768..32767; a huge exponent is fine on a tiny mantissa and a tiny
-// one reads as zero, even behind many zeros. No value: the test fails.
+// Trimmed, rounded half to even, within -32768..32767; exponents are weighed
+// against the mantissa, even behind many zeros. No value: the test fails.
 TEST(NumberText, WhatPassesAndItsRoundedValue) {
     const std::pair<std::string, std::optional<int>> cases[] = {
         // clang-format off

@@ -106,10 +106,8 @@ TEST(Cp1252, EveryByteSurvivesTheRoundTrip) {
     }
 }
 
-// A character the code page lacks is "?", and so is each byte of broken UTF-8.
-// Strict decoding takes every character up to U+10FFFF in its shortest form
-// and nothing else: no overlong CR (E0 80 8D) or NUL (C0 80), no surrogate,
-// no stray continuation byte.
+// A character the code page lacks is "?", as is each byte of broken UTF-8.
+// Strict decoding takes the shortest forms up to U+10FFFF and nothing else.
 TEST(Cp1252, WhatIsNoUtf8OrHasNoFormBecomesAQuestionMark) {
     const std::pair<std::string, std::u32string> valid[] = {
         {"", U""},

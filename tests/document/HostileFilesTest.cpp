@@ -1,7 +1,5 @@
-// What disks and users really hand the file routines: files that go away or
-// can't be read, pipes, devices, an I/O error, a read-only file met by an
-// ordinary user, signals. Each ends in the routine's own result, never in a
-// crash or a half-written file.
+// What disks and users hand the file routines (pipes, devices, I/O errors,
+// read-only files, signals) ends in their own result, never a half-written file.
 #include <gtest/gtest.h>
 #ifndef _WIN32
 #include <fcntl.h>
@@ -24,8 +22,7 @@ namespace flickerscribe {
 namespace {
 
 // Only a plain file read to its end replaces the lines, in one reset for the
-// view; anything else (/proc/self/mem opens, but reading it is an I/O error;
-// a file larger than the program reads) leaves them alone, even for the view.
+// view; anything else (an I/O error, a file too large) leaves them alone.
 TEST(HostileFiles, OnlyAFileReadWholeReplacesTheLines) {
     test::TempFolder dir;
     test::WriteBytes(dir.File("one"), "#v050#\r\nset name a\r\n15\r\n[none]\r\n");
@@ -66,8 +63,7 @@ TEST(HostileFiles, OnlyAFileReadWholeReplacesTheLines) {
 }
 
 #ifdef _WIN32
-// Windows' counterparts (the read-only attribute, a file another program
-// holds) are in WindowsFilesTest.cpp.
+// Windows' counterparts are in WindowsFilesTest.cpp.
 TEST(HostileFiles, AnOrdinaryUserCantWriteAReadOnlyFileNorReadAnUnreadableOne) {
     GTEST_SKIP() << "POSIX permission bits and users: Windows files have neither";
 }
@@ -77,9 +73,8 @@ TEST(HostileFiles, WritesThatASignalCutsShortGoOnWhereTheyStopped) {
 #else
 const std::string kOldFile = "#v050#\r\nold\r\n15\r\n[none]\r\n";
 
-// A save refused for want of rights leaves anim.fsq whole, and no file comes
-// or goes. Root may write and read anything: run as root, the test takes the
-// rights of the unprivileged user for a while.
+// A save refused for want of rights leaves anim.fsq whole and no file beside
+// it; run as root, the test takes an unprivileged user's rights for a while.
 TEST(HostileFiles, AnOrdinaryUserCantWriteAReadOnlyFileNorReadAnUnreadableOne) {
     test::TempFolder open, closed;  // where only the file says no, and where the folder does
     for (const auto* dir : {&open, &closed}) test::WriteBytes(dir->File("anim.fsq"), kOldFile);

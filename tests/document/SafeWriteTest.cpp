@@ -128,10 +128,8 @@ TEST(WriteFileSafely, AWriteBrokenOffHalfWayLeavesTheOldFileWhole) {
 #endif
 }
 
-// In a folder holding anim.fsq, an empty folder "sub", a link to itself
-// "loop" and a named pipe nobody reads, nothing changes and nothing waits. A
-// device is written in place where any kind of file is asked for, and
-// refused, as the pipe is, where only a plain file will do.
+// Beside anim.fsq, a folder, a link to itself and an unread pipe: nothing
+// changes, nothing waits. A device is written in place unless a plain file is asked.
 TEST(WriteFileSafely, RefusesWhatCannotBeWrittenAndTouchesNothing) {
 #ifdef _WIN32
     GTEST_SKIP()

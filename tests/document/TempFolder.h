@@ -21,8 +21,7 @@ inline void PrintTo(const SaveError& e, std::ostream* os) {
 
 namespace flickerscribe::test {
 
-// The program's paths are UTF-8 (see document/platform/Files.h); these are
-// the same paths as the standard library takes them.
+// The program's UTF-8 paths (document/platform/Files.h) as std::filesystem takes them.
 inline std::filesystem::path FsPath(const std::string& utf8) {
     return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
 }
@@ -31,9 +30,8 @@ inline std::string Utf8(const std::filesystem::path& path) {
     return std::string(text.begin(), text.end());
 }
 
-// A fresh folder under the system's temporary folder, removed with all it
-// holds (write permission given back first) when the test ends. Paths in it
-// use '/' on every system.
+// A fresh temporary folder, removed with all it holds (write permission given
+// back first) at the end. Paths in it use '/' on every system.
 class TempFolder {
 public:
     TempFolder() {
@@ -77,8 +75,7 @@ inline std::string ReadBytes(const std::string& path) {
     return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
 }
 
-// Text and Time of every line as "text|time"; an Action other than "[none]"
-// fails the test.
+// Every line as "text|time"; an Action other than "[none]" fails the test.
 inline std::vector<std::string> Lines(const AnimationScript& s) {
     std::vector<std::string> out;
     for (const AnimationLine& line : s.Lines()) {

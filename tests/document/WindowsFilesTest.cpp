@@ -1,6 +1,5 @@
-// What Windows does differently from Linux with the program's files: files
-// that another program holds open, the read-only attribute, devices and pipes
-// by their Windows names, and names outside ASCII.
+// Windows' own ways with files: files held open by another program, the
+// read-only attribute, devices and pipes by their names, names outside ASCII.
 #include <gtest/gtest.h>
 #include <windows.h>
 
@@ -45,8 +44,7 @@ TEST(WindowsFiles, AFileHeldOpenByAnotherProgram) {
     }
 }
 
-// A read-only file is refused as a plain write would refuse it, and reads as
-// any file; a hidden one stays hidden when saved.
+// A read-only file is refused as a plain write is, and read; a hidden one stays hidden.
 TEST(WindowsFiles, TheFileAttributes) {
     test::TempFolder dir;
     const std::string path = dir.File("anim.fsq");

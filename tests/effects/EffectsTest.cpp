@@ -6,8 +6,7 @@
 namespace flickerscribe {
 namespace {
 
-// The Text of every line from line `from` on, joined by "|". Every line an
-// effect makes has the time "15" and the action "[none]".
+// The texts from line `from` on, joined by "|"; each line must be 15 and "[none]".
 std::string Frames(const AnimationScript& script, int from = 1) {
     std::string frames;
     for (int i = from; i <= script.Count(); ++i) {
@@ -19,14 +18,10 @@ std::string Frames(const AnimationScript& script, int from = 1) {
 
 const YesNoQuestion Yes = [](const std::string&, const std::string&) { return true; };
 
-// One effect on a fresh script: its frames, and the name and tag that the
-// next row of a run sees. A code is a caret and a digit; the character behind
-// a code is taken untested, so in "^1^2x" only "^1" is a code. Wave forward
-// shows a character a frame at its own column with its own code. Wave 2 types
-// the name in, a code coming in whole; a frame that only adds a blank, or ends
-// in a code, is left out. A tag behind the name gets "^0". Bounce sends the
-// tag through the name and back, each turn mirroring every line before it,
-// and drops the colours for good.
+// One effect on a fresh script: its frames, and the name and tag the next row
+// sees. In "^1^2x" only "^1" is a code. Wave 2 types the name in, leaving out
+// frames that only add a blank or end in a code; a tag behind gets "^0".
+// Bounce sends the tag through the name and back, mirroring, without colours.
 TEST(Effects, FramesOfEachEffect) {
     const struct {
         const char *effect, *repeats, *name, *tag;  // repeats: Parameter1, read by Bounce only
@@ -67,9 +62,8 @@ TEST(Effects, FramesOfEachEffect) {
     }
 }
 
-// Bounce asks before a count of 5 or more, and No ends it before it touches
-// anything. One visible character makes 3 * 2^R - 3 lines, seven 15 * 2^R - 15.
-// Rows: the count, the name, the lines made, whether it asks.
+// Bounce asks before a count of 5 or more; No ends it untouched. Rows: count,
+// name, lines made (one character: 3 * 2^R - 3, seven: 15 * 2^R - 15), asks.
 TEST(Effects, BounceRepeatCount) {
     const std::tuple<const char*, std::string, int, bool> cases[] = {
         // clang-format off
@@ -98,8 +92,7 @@ TEST(Effects, BounceRepeatCount) {
     }
 }
 
-// An effect stops at the first line a full script refuses; Bounce's forward
-// pass may fit and its mirror pass be refused at once.
+// An effect stops at the first line a full script refuses (Bounce's mirror pass too).
 TEST(Effects, StopAtTheFirstLineTheFullScriptRefuses) {
     const std::tuple<const char*, bool, int, const char*> cases[] = {
         {"Wave forward", false, 2, "[QZT]^7K|[QZT] ^7a"},
@@ -117,8 +110,7 @@ TEST(Effects, StopAtTheFirstLineTheFullScriptRefuses) {
     }
 }
 
-// A run clears the script and applies the rows in order, each to the name
-// and tag the rows before it left.
+// A run clears the script and applies each row to the name and tag left before it.
 TEST(EffectRun, RowsChainThroughTheRewrittenNameAndTag) {
     const std::tuple<const char*, const char*, bool, std::vector<EffectRow>, const char*> cases[] = {
         // clang-format off

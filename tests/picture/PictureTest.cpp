@@ -1,5 +1,4 @@
-// The animated picture as a reader sees it: Qt's GIF reader for the frames as
-// shown, their delays and the loop.
+// The animated picture as Qt's GIF reader sees it: frames, delays, the loop.
 #include <gmock/gmock.h>
 
 #include <QBuffer>
@@ -73,9 +72,8 @@ TEST(Picture, EveryFrameShowsItsLine) {
     }
 }
 
-// Each glyph has its character's colour, all else (the margin too) is the
-// pane's grey. In the fixed-pitch face character i fills the i-th equal part
-// behind the margin.
+// Each glyph has its character's colour, all else the pane's grey; character i
+// fills the i-th equal part behind the margin.
 TEST(Picture, GlyphsTakeTheirCharactersColours) {
 #ifdef _WIN32
     GTEST_SKIP() << "under Wine Qt's offscreen platform finds no fonts, and every glyph draws alike";
@@ -110,8 +108,7 @@ TEST(Picture, GlyphsTakeTheirCharactersColours) {
     }
 }
 
-// Small files: typing a name into a wide picture, each later frame holds
-// little more than its new letter.
+// Small files: a frame that types one more letter holds little more than it.
 TEST(Picture, LaterFramesHoldOnlyWhatChanged) {
     const std::string wide(60, ' ');
     const std::size_t typing = DrawAnimatedPicture({"Q", "Qu", "Qui", "Quil", "Quill", wide})->size();

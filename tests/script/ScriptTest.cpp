@@ -6,8 +6,7 @@
 namespace flickerscribe {
 namespace {
 
-// A time of 1..99 (rounded down) goes in as written, less is 5, more is 99;
-// no number waits 15 and is reported.
+// A time of 1..99 (rounded down) stands, less is 5, more 99; no number waits 15, reported.
 TEST(ScriptText, WaitCommand) {
     const std::pair<const char*, const char*> cases[] = {
         {"15", "15"},     {"1", "1"},    {"99", "99"},   {"99.99", "99.99"}, {"100", "99"},
@@ -25,9 +24,8 @@ TEST(ScriptText, WaitCommand) {
     EXPECT_EQ(WaitCommand("x", nullptr), "wait 15");
 }
 
-// Byte for byte: the empty first line, the banner's lines, then each line's
-// commands; every time that is no number reported in list order. A text goes
-// in as it is, but an empty one or one that begins with a blank gets "^7" in front.
+// Byte for byte: a blank line, the banner, each line's commands (bad times told
+// in order); an empty text or one starting with a blank gets "^7" in front.
 TEST(ScriptText, BuildsTheWholeScript) {
     std::string banner;
     for (std::string_view line : kScriptBanner) banner.append("\r\n").append(line);

@@ -1,5 +1,4 @@
-// The registry store on Windows, against the real registry, in a key of the
-// test's own beside the user's.
+// The registry store against the real registry, in a key of the test's own.
 #include <gmock/gmock.h>
 #include <windows.h>
 
@@ -30,8 +29,7 @@ protected:
     }
 };
 
-// Written values come back exactly, in a later store too; the program's store
-// on Windows is this one.
+// Values come back exactly, in a later store too; it is the program's store.
 TEST_F(RegistryStoreTest, KeepsEveryTextExactly) {
     EXPECT_NE(dynamic_cast<RegistryStore*>(openUserSettingsStore().get()), nullptr);
     for (const QString& value : {QString(), u"  two  blanks  "_s, u"C:\\Users\\Zo\u00eb\\"_s,

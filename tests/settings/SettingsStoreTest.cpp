@@ -11,9 +11,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace flickerscribe::settings {
 namespace {
 
-// The file store in a folder of the test's own: values come back exactly as
-// written, in a later run too; reading creates nothing; an empty text is a
-// value, not a deletion.
+// Values come back exactly, later too; reading creates nothing; "" is a value.
 TEST(QSettingsStore, KeepsEveryTextExactly) {
     QTemporaryDir dir;
     const QString path = dir.filePath(u"sub/Flickerscribe.conf"_s);

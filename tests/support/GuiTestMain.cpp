@@ -3,8 +3,7 @@
 #include <QApplication>
 #include <QStandardPaths>
 
-// Runs the tests inside one QApplication on the offscreen platform, unless the
-// caller chose another platform.
+// One QApplication for the tests, on the offscreen platform unless one is chosen.
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);

@@ -9,30 +9,16 @@
 
 namespace flickerscribe {
 
-// A pane held in memory: one colour per character, a selection, and the
-// colour waiting for the next insertion. It behaves like the rich text box the
-// panes are built on, so the render and encode walks, and the windows' logic,
-// can run without a widget.
-//
-// - Text never painted (SetText, or inserted into an empty pane with no colour
-//   chosen) is black, the box's default colour.
-// - SetSelStart: negative is 0, past the end is the end; the selection becomes
-//   empty there (SelLength 0). SetSelLength: negative is 0, cut at the end.
-//   Every write of either forgets a pending insertion colour, as the caret
-//   counts as moved.
-// - SetSelColour with a selection colours it; with an empty selection it sets
-//   the pending colour: what SetSelText inserts next.
-// - SelColour read: the colour of the first selected character; with an empty
-//   selection the pending colour if one was set since the caret last moved,
-//   else the colour of the character in front of the caret, else black.
-// - SetSelText replaces the selection by the text in the colour SelColour reads
-//   at that moment (the colour last given to SetSelColour, or the colour the
-//   place already had), and leaves the caret behind the inserted text with an
-//   empty selection. The empty text with an empty selection changes nothing.
-// - SetText and SetRuns replace everything and forget a pending colour;
-//   SetText puts the caret at 0, SetRuns at the end (where a render walk
-//   leaves it).
-// - Locked only records the flag: the routines can always write.
+// A pane held in memory, behaving like the rich text box the panes are built
+// on, so the render and encode walks and the windows' logic run without one.
+// - Unpainted text is black. Selection writes clamp to the text, and forget a
+//   pending insertion colour (the caret moved).
+// - SetSelColour colours the selection, or with none sets the pending colour.
+//   SelColour reads the first selected character's colour; with no selection
+//   the pending colour, else the one before the caret, else black.
+// - SetSelText inserts in the colour SelColour reads, caret behind it.
+// - SetText (caret at 0) and SetRuns (caret at the end) forget the pending
+//   colour. Locked only records the flag.
 class MemoryPane : public Pane {
 public:
     MemoryPane() = default;

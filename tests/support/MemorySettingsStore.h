@@ -8,8 +8,7 @@
 
 namespace flickerscribe::settings {
 
-// A settings store in memory for tests: starts empty, a first run, and tells
-// the names written, in order.
+// A settings store in memory: empty (a first run), telling the names written.
 class MemorySettingsStore : public SettingsStore {
 public:
     QString readValue(const QString& valueName, const QString& defaultValue = {}) const override {

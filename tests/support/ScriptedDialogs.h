@@ -22,10 +22,8 @@ struct DialogCall {
     FileDialogState state;  // a file dialog as it was shown
 };
 
-// Dialogs for tests: every call is recorded and answered from what the test
-// queued. A question with nothing queued fails the test and is answered like
-// Cancel (No for Yes/No), so a test never blocks; a message with the one
-// button OK needs no answer. Answers left over at the end fail the test.
+// Every call recorded and answered from the test's queue; an unqueued question
+// (OK alone needs none) or an answer left over fails the test, never blocks it.
 class ScriptedDialogs : public Dialogs {
 public:
     ~ScriptedDialogs() override {

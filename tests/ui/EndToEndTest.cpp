@@ -1,6 +1,5 @@
-// One session through the real windows gives every command of the menus, the
-// toolbar and the drop-down, each change taken back by Ctrl+Z and done again by
-// Ctrl+Y. Under scripts/test.sh asan it shows that no command leaks.
+// One session gives every command, each change undone and redone by its keys;
+// under scripts/test.sh asan it shows that no command leaks.
 #include "MainWindowFixture.h"
 #include "ui/dialogs/ScriptWindow.h"
 

@@ -1,6 +1,4 @@
-// The commands through the file dialogs: Open, Save As, Import, and the
-// generated script's window with its Save; with files that can't be read or
-// written.
+// Open, Save As, Import and the script window's Save over awkward files.
 #include <cerrno>
 #ifdef _WIN32
 #include <windows.h>
@@ -45,38 +43,10 @@ public:
     std::unique_ptr<ScriptWindow> scriptWindow;
 };
 
-// Each file dialog opens in the folder the settings give at the moment, or,
-// without one, wherever it was last. Cancel changes nothing.
-TEST_F(Files, EachDialogOpensInItsFolderAndCancelChangesNothing) {
-    Start(kABC);
-    QString last[2];  // where the main window's dialog and the script window's opened last
-    for (const auto& [command, followsSetting] :
-         {std::pair{"Open", true}, std::pair{"SaveAs", true}, std::pair{"Import", false},
-          std::pair{"SaveScript", true}}) {
-        const bool scriptWindowsOwn = command == std::string("SaveScript");
-        for (const QString& folder : {u"/set-"_s + QString::fromLatin1(command), QString()}) {
-            store.writeValue(u"OpenDir"_s, folder);
-            store.writeValue(u"SaveDir"_s, folder);
-            ReloadSettings();
-            settingsNow = settings::loadSettings(store);
-            Run(command, {std::nullopt});
-            QString& expected = last[scriptWindowsOwn];
-            if (followsSetting && !folder.isEmpty()) expected = folder;
-            EXPECT_EQ(dialogs.Calls().back().state.initialFolder, expected) << command;
-        }
-    }
-    EXPECT_EQ(
-        dialogs.Asked().count(u"Import note [info]: Note: Currently only .cfg files can be imported!"_s), 2);
-    EXPECT_EQ(Lines(), kABC);
-    EXPECT_TRUE(QDir(folder.path()).isEmpty());
-}
-
-// Whatever can't be read to its end as a plain file leaves the animation as
-// it was and gets "File not found!": a pipe with no writer must not hold the
-// window, and an I/O error half way or a file larger than the memory allows
-// must not cost the lines. A file of more lines than an animation holds gives
-// the first ones, and says so.
-TEST_F(Files, UnreadableFilesAreNotFoundAndLongOnesCut) {
+// Whatever can't be read to its end as a plain file leaves the lines as they
+// were and gets "File not found!": a pipe with no writer must not hold the
+// window, nor an I/O error half way or a file too large cost the lines.
+TEST_F(Files, UnreadableFilesAreNotFound) {
     const QString locked = PathOf(u"locked"_s), gone = PathOf(u"gone"_s), huge = PathOf(u"huge"_s);
     QFile sparse(huge);  // takes no disk
     ASSERT_TRUE(sparse.open(QIODevice::WriteOnly) && sparse.resize(qint64(kMaxFileBytes) + 1));
@@ -104,22 +74,14 @@ TEST_F(Files, UnreadableFilesAreNotFoundAndLongOnesCut) {
                                                   : u"Import error [stop]: File not found!"_s);
             EXPECT_EQ(Lines(), TextTimes{"a/15"}) << command << " " << path.toStdString();
         }
-        std::string bytes = command == std::string("Open") ? "plain list\r\n" : "";
-        for (int i = 0; i <= kMaxLines; ++i)
-            bytes += command == std::string("Open") ? "n\r\n" : "set name n\r\n";
-        WriteBytes(PathOf(u"long"_s), bytes);
-        Run(command, {PathOf(u"long"_s)});
-        EXPECT_EQ(script().Count(), kMaxLines);
-        EXPECT_TRUE(dialogs.Asked().last().startsWith(u"Line limit reached"_s));
     }
 #ifdef _WIN32
     CloseHandle(holder);
 #endif
 }
 
-// Over a file, only Yes replaces it; No shows the dialog again with the name
-// last chosen; Cancel writes nothing. A disk that fills up half way keeps the
-// old file whole, and the user is told the error number and text.
+// Over a file only Yes replaces it (No asks again, Cancel writes nothing); a
+// full disk keeps the old file whole and tells the error number and text.
 TEST_F(Files, SavesReplaceAFileOnlyWhenAskedAndKeepItWhenTheDiskIsFull) {
     Start({"a/15"});
     const QString path = PathOf(u"old"_s);
@@ -170,9 +132,8 @@ TEST_F(Files, SavesReplaceAFileOnlyWhenAskedAndKeepItWhenTheDiskIsFull) {
 
 // --- the generated script's window
 
-// The window shows the script of the animation, and its Save writes what the
-// box holds then: as Windows-1252, "?" where it has no character, each line
-// break as CR LF.
+// The window shows the script; Save writes what its box holds, as Windows-1252
+// ("?" where it has no character) with CR LF breaks.
 TEST_F(Files, TheScriptWindowShowsTheScriptAndSavesWhatItsBoxHolds) {
     Start({"^1Fl^7ick/15", "\x80\xE9/1.5"});
     ScriptWindow& w = GeneratedScript();

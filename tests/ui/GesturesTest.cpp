@@ -1,5 +1,4 @@
-// What users do with keys, mouse and clipboard, through the real widgets: each
-// gesture has to leave the animation exactly as the user meant it.
+// Keys, mouse and clipboard on the real widgets leave what the user meant.
 
 #include "MainWindowFixture.h"
 
@@ -8,9 +7,8 @@ namespace {
 
 using Gestures = DialogTest;
 
-// What a window left after a gesture: open or closed, the wizard's page and
-// effect rows, the time the Edit dialog gives, the settings written, the
-// lines, what was copied and the titles of the questions asked.
+// What a gesture left: open or closed, wizard page and rows, the Edit dialog's
+// time, settings written, lines, what was copied, the questions' titles.
 QString State(Gestures& t, qsizetype writesBefore, qsizetype askedBefore) {
     QString state = t.dialog->isVisible() ? u"open"_s : u"closed"_s;
     if (auto* wizard = dynamic_cast<WizardDialog*>(t.dialog.get()))
@@ -25,9 +23,8 @@ QString State(Gestures& t, qsizetype writesBefore, qsizetype askedBefore) {
     return state;
 }
 
-// Enter presses the focused button; in a box or a list it is the default
-// button's (Next in the wizard, Finish on its last page), and nothing's
-// where there is none (Options, Help).
+// Enter presses the focused button; in a box or list, the default one (Next,
+// Finish on the wizard's last page), or none (Options, Help).
 TEST_F(Gestures, EnterPressesTheFocusedButtonElseTheDefault) {
     const std::tuple<const char*, int, const char*, const char*> cases[] = {
         {"frmWizard", 4, "cmdAddEffect", "open page 4 rows 1 writes 0 lines 2"},
@@ -56,98 +53,12 @@ TEST_F(Gestures, EnterPressesTheFocusedButtonElseTheDefault) {
     }
 }
 
-// A line break pasted into a one-line box becomes a blank; with it at the
-// end, a number is still a number for the Time box.
-TEST_F(Gestures, ALineBreakPastedIntoAOneLineBoxBecomesABlank) {
-    const std::pair<const char*, const char*> cases[] = {
-        {"list", ""}, {"frmEdit", "txtTime"}, {"frmOptions", "txtClan"}};
-    for (const auto& [owner, box] : cases) {
-        for (const QString& lineBreak : {u"\r\n"_s, u"\r"_s, u"\n"_s}) {
-            SCOPED_TRACE(std::string(owner) + " " + lineBreak.toStdString());
-            QLineEdit* edit = nullptr;
-            LineListView* list = List();
-            if (*box == '\0') {
-                Trigger(u"btnnew"_s);
-                Start({"old/15"});
-                list->edit(list->model()->index(0, 0));
-                edit = list->viewport()->findChild<QLineEdit*>();
-            } else {
-                Open(QString::fromLatin1(owner));
-                edit = Child<QLineEdit>(QString::fromLatin1(box));
-            }
-            QGuiApplication::clipboard()->setText(u"1"_s + lineBreak);
-            edit->setFocus();
-            edit->selectAll();
-            QTest::keyClick(edit, Qt::Key_V, Qt::ControlModifier);
-            QString given = edit->text();
-            if (*box == '\0') {
-                QPointer<QLineEdit> editor = edit;
-                QTest::keyClick(edit, Qt::Key_Return);
-                // The list commits once the key has been handled.
-                ASSERT_TRUE(QTest::qWaitFor([&] { return editor.isNull(); }));
-                given = QString::fromStdString(script().LineAt(1).Text);
-            } else if (auto* time = dynamic_cast<EditTimeDialog*>(dialog.get())) {
-                QTest::keyClick(edit, Qt::Key_Return);
-                given = time->time();
-            }
-            EXPECT_EQ(given, u"1 "_s);
-        }
-    }
-}
-
-// --- the pane shows the line selected last, whatever selected it
-
-QPoint Row(LineListView* list, int row) {
-    return list->visualRect(list->model()->index(row, 0)).center();
-}
-
-// Typing after a click, a right-click, a drag, a key or Remove edits only the
-// line selected then.
-TEST_F(Gestures, TypingAfterASelectionEditsOnlyTheSelectedLine) {
-    const struct {
-        const char* gesture;
-        int row;       // clicked or key pressed
-        int selected;  // the line typed into
-    } cases[] = {{"click", 3, 4},          {"right-click", 2, 3},
-                 {"drag", 3, 4},           {"click", 9, 2},  // below the last line: the selection stays
-                 {"key", Qt::Key_Down, 3}, {"key", Qt::Key_PageDown, 4},
-                 {"key", Qt::Key_Home, 1}, {"key", Qt::Key_End, 4},
-                 {"remove", 0, 2}};
-    const TextTimes lines = {"one/15", "two/15", "three/15", "four/15"};
-    for (const auto& c : cases) {
-        MakeWindow();
-        Start(lines, 2);
-        window->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
-        LineListView* list = List();
-        QWidget* rows = list->viewport();
-        const QPoint at = c.row < 4 ? Row(list, c.row) : QPoint(5, rows->height() - 3);
-        const std::string gesture = c.gesture;
-        if (gesture == "click") QTest::mouseClick(rows, Qt::LeftButton, {}, at);
-        if (gesture == "right-click") QTest::mouseClick(rows, Qt::RightButton, {}, at);
-        if (gesture == "drag") {
-            QTest::mousePress(rows, Qt::LeftButton, {}, Row(list, 1));
-            QTest::mouseMove(rows, Row(list, 2));
-            QTest::mouseMove(rows, at);
-            QTest::mouseRelease(rows, Qt::LeftButton, {}, at);
-        }
-        if (gesture == "key") Key(Qt::Key(c.row));
-        if (gesture == "remove") Trigger(u"btnremove"_s);
-        QTest::keyClicks(PaneEdit(), u"!"_s);
-
-        TextTimes expected = lines;
-        if (gesture == "remove") expected.erase(expected.begin() + 1);
-        std::string& typedInto = expected[std::size_t(c.selected - 1)];
-        typedInto.insert(typedInto.find('/'), "!");
-        EXPECT_EQ(Lines(), expected) << gesture << " " << c.row;
-    }
-}
-
 // --- the main window at its edges and by keyboard
 
 using Edges = MainWindowTest;
 
 TEST_F(Edges, InPlaceEditKeepsALongTextWholeAndWritesNothingUnchanged) {
+    EXPECT_EQ(List()->editTriggers(), QAbstractItemView::NoEditTriggers) << "only when the settings say";
     store.writeValue(u"EditItem"_s, u"1"_s);
     MakeWindow();
     const std::string text(40000, 'x');
@@ -158,11 +69,10 @@ TEST_F(Edges, InPlaceEditKeepsALongTextWholeAndWritesNothingUnchanged) {
     int writes = 0;
     QObject::connect(list->model(), &QAbstractItemModel::dataChanged, [&] { ++writes; });
     const auto editor = [list] { return list->viewport()->findChild<QLineEdit*>(); };
-    // Line 1 is edited without a change, line 2 with one; a click on a line
-    // not yet selected only selects it.
+    // Line 1 edited without a change, line 2 with one; a first click only selects.
     for (const auto& [row, typed] : {std::pair{0, QString()}, std::pair{1, u"!"_s}, std::pair{1, u"!"_s}}) {
         const bool selected = script().SelectedIndex() == row + 1;
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, Row(list, row));
+        ClickLine(row + 1);
         if (!selected) continue;
         ASSERT_TRUE(QTest::qWaitFor([&] { return editor() != nullptr; }));
         QTest::keyClick(editor(), Qt::Key_End);
@@ -189,11 +99,6 @@ TEST_F(Edges, TabReachesTheColourStripAndSpaceColoursThePanesSelection) {
     ASSERT_EQ(QApplication::focusWidget()->objectName(), u"cmdColor_1"_s);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     EXPECT_EQ(script().LineAt(1).Text, "a^2bc^7d");
-    // Eight colours, standing right of the pane, which lines up with the list.
-    QWidget* strip = named<QWidget>(u"picColors"_s);
-    EXPECT_EQ(strip->findChildren<QPushButton*>().size(), 8);
-    EXPECT_EQ(strip->x(), pane->geometry().right() + 1);
-    EXPECT_EQ(pane->x(), List()->x());
 }
 
 TEST_F(Edges, TheAddButtonsMenuIsOnTheAccessibilityTree) {
@@ -214,8 +119,7 @@ TEST_F(Edges, TheAddButtonsMenuIsOnTheAccessibilityTree) {
     EXPECT_EQ(script().Count(), 1) << "a screen reader's Press adds a line";
 }
 
-// Simple edit and the preview pane take a paste or a drop as plain text in the
-// colour in force.
+// Simple Edit and the pane take a paste or drop as plain text in the colour in force.
 TEST_F(Gestures, PasteAndDropArriveAsPlainText) {
     Open(u"frmSimpleEdit"_s);
     auto* pane = Child<QTextEdit>(u"txtPreview"_s);

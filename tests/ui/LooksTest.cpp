@@ -1,6 +1,5 @@
-// Every window at its default size looks as approved: the window gallery
-// draws each one, and each picture must match its approved one pixel for
-// pixel. After a change meant to be seen, look at the new pictures
+// Every window, drawn by the window gallery, matches its approved picture pixel
+// for pixel. After a change meant to be seen, look at the new pictures
 // (build/default/tools/window_gallery FOLDER) and copy them to tests/data/windows.
 
 #include <gtest/gtest.h>

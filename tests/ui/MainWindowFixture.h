@@ -55,9 +55,8 @@ inline void SetAge(const QString& path, int seconds) {
         file.setFileTime(QDateTime::currentDateTime().addSecs(-seconds), QFileDevice::FileModificationTime));
 }
 
-// A fresh main window for each test, with scripted dialogs, a settings store
-// in memory (a first run unless the test fills `store` and makes the window
-// anew) and a folder of the test's own. Public, so that table rows can use it.
+// A fresh main window for each test, with scripted dialogs, an in-memory
+// settings store and a folder of its own. Public, so that table rows can use it.
 class MainWindowTest : public testing::Test {
 public:
     void SetUp() override {
@@ -150,8 +149,7 @@ public:
     std::unique_ptr<MainWindow> window;
 };
 
-// One of the program's dialogs, made for the test over the main window's
-// animation, settings and store, and closed at its end.
+// One of the program's dialogs over the test's animation and store, closed at the end.
 class DialogTest : public MainWindowTest {
 public:
     void TearDown() override {

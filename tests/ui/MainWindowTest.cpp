@@ -1,5 +1,4 @@
-// The main window: what it shows at the start, its commands over lines, the
-// clipboard, editing in the pane and by keys, playback and its layout.
+// The main window: commands over lines, the clipboard, the pane, playback.
 
 #include "MainWindowFixture.h"
 
@@ -8,19 +7,7 @@ namespace {
 
 using MainWindowCase = MainWindowTest;
 
-// It starts empty, and with nothing to save, undo or reopen.
-TEST_F(MainWindowCase, StartsEmpty) {
-    EXPECT_EQ(PaneText(), "Preview");
-    EXPECT_TRUE(MainPane().Locked());
-    EXPECT_FALSE(named<QWidget>(u"picColors"_s)->isVisibleTo(window.get()));
-    EXPECT_TRUE(store.Writes().isEmpty());
-    for (const QString& off : {u"mnuFileSave"_s, u"mnuFileReopen"_s, u"mnuEditUndo"_s, u"mnuEditRedo"_s})
-        EXPECT_FALSE(named(off)->isEnabled()) << off.toStdString();
-    EXPECT_FALSE(named<QMenu>(u"mnuFileKept"_s)->isEnabled()) << "no kept animations";
-}
-
-// --- the commands over lines, the clipboard and the list's keys. A, B, C with the times 10, 20, 30, B
-// selected, unless a row says otherwise.
+// --- commands, clipboard, list keys; from A/10 B/20 C/30, B selected, unless a row says.
 
 using Act = std::function<void(MainWindowTest&)>;
 Act Press(const char* name) {
@@ -217,35 +204,6 @@ TEST_F(MainWindowCase, EditsInThePaneReachTheLineInNormalForm) {
         EXPECT_EQ(Lines(), TextTimes({std::string(c.after) + "/30", "other/20"}))
             << c.before << " " << c.typed;
         EXPECT_EQ(pane.SelStart(), caret + int(PaneText().size()) - int(length));
-    }
-}
-
-// The Ctrl key alone takes the focus from the pane to the list, so that the
-// Edit menu's shortcuts work on lines from anywhere.
-TEST_F(MainWindowCase, CtrlLeavesThePaneAndItsShortcutsWorkOnLines) {
-    Start({"line/15"}, 1);
-    Show();
-    for (Qt::Key key : {Qt::Key_Shift, Qt::Key_Q, Qt::Key_Control}) {
-        PaneEdit()->setFocus();
-        QTest::keyPress(PaneEdit(), key);
-        EXPECT_EQ(QApplication::focusWidget() == List(), key == Qt::Key_Control) << key;
-        QTest::keyRelease(QApplication::focusWidget(), key);
-    }
-    PaneEdit()->setFocus();
-    QTest::keyClick(PaneEdit(), Qt::Key_C, Qt::ControlModifier);
-    QTest::keyClick(PaneEdit(), Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(Lines(), TextTimes({"lineq/15", "lineq/15"}));
-    EXPECT_EQ(PaneText(), "lineq") << "not the pane's own copy and paste";
-}
-
-// --- settings
-
-TEST_F(MainWindowCase, TheEditItemSettingDecidesWhetherALineCanBeEditedInPlace) {
-    for (const char* stored : {"1", "true", "0"}) {
-        store.writeValue(u"EditItem"_s, QString::fromLatin1(stored));
-        ReloadSettings();
-        EXPECT_EQ(List()->editTriggers(), stored == std::string("1") ? QAbstractItemView::SelectedClicked
-                                                                     : QAbstractItemView::NoEditTriggers);
     }
 }
 

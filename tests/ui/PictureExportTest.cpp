@@ -1,38 +1,14 @@
-// File, Export animated picture: through its shortcut, the save dialog, the
-// progress dialog's Cancel, and against the command line's bytes.
+// Export animated picture: its shortcut, Cancel half way, the command line's bytes.
 #include "MainWindowFixture.h"
 #include "document/AnimationFile.h"
-#include "document/SafeWrite.h"
 #include "effects/EffectRun.h"
-#include "ui/common/FileCommands.h"
 
 namespace flickerscribe::ui::testing_support {
 namespace {
 
 using PictureExport = MainWindowTest;
 
-// Nothing to export in an empty list; Cancel in the save dialog writes
-// nothing; a write that fails says why.
-TEST_F(PictureExport, SaysWhatStopsIt) {
-    Show();
-    Key(Qt::Key_E, Qt::ControlModifier);
-    Start(kABC);
-    for (const auto& path : {std::optional<QString>(), std::optional(PathOf(u"missing/x.gif"_s))}) {
-        dialogs.QueueSave(path);
-        Key(Qt::Key_E, Qt::ControlModifier);
-    }
-    // The system's own error number and text, as any save of that path gets.
-    const SaveError missing =
-        WriteFileSafely(nativePath(PathOf(u"missing/x.gif"_s)), "").value_or(SaveError{});
-    EXPECT_EQ(dialogs.Asked(),
-              (QStringList{u"Export animated picture [warning]: There is no animation to export!"_s,
-                           u"save Export animated picture"_s, u"save Export animated picture"_s,
-                           u"Error [stop]: Error saving script!\n%1\n%2"_s.arg(missing.number)
-                               .arg(QString::fromLocal8Bit(missing.text))}));
-}
-
-// The README's example: the save dialog opens in the settings' save folder,
-// and the file holds what flickerscribe-cli picture writes.
+// The README's example, saved from the settings' folder as flickerscribe-cli writes it.
 TEST_F(PictureExport, WritesTheBytesOfTheCommandLine) {
     store.writeValue(u"SaveDir"_s, folder.path());
     ReloadSettings();
