@@ -66,13 +66,14 @@ TEST_F(Files, UnreadableFilesAreNotFound) {
 #endif
     for (const char* command : {"Open", "Import"}) {
         for (const QString& path : unreadable) {
-            Trigger(u"btnnew"_s);
+            MakeWindow();
             Start({"a/15"});
             Run(command, {path});
             EXPECT_EQ(dialogs.Asked().last(), command == std::string("Open")
                                                   ? u"Error [stop]: File not found!\n"_s + path
                                                   : u"Import error [stop]: File not found!"_s);
             EXPECT_EQ(Lines(), TextTimes{"a/15"}) << command << " " << path.toStdString();
+            EXPECT_FALSE(named(u"mnuEditUndo"_s)->isEnabled()) << "no step";
         }
     }
 #ifdef _WIN32
