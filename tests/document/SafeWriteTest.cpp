@@ -2,6 +2,7 @@
 #ifdef _WIN32
 #include <windows.h>
 #else
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
 #include <unistd.h>
@@ -22,12 +23,15 @@ const std::string kOld = "old content\r\n";
 const std::string kNew = "the new content, longer than the old one\r\n";
 
 #ifndef _WIN32
-// The device /dev/NAME; run as root, a node of its own in `dir`, so that a
-// broken save can only replace that one and never the system's.
+// The device /dev/NAME; run as root, a node of its own in `dir` (where the
+// folder allows devices), so that a broken save can never replace the system's.
 std::string Device(const test::TempFolder& dir, const std::string& name, unsigned minor) {
     const std::string node = dir.File(name);
-    const bool own = ::geteuid() == 0 && ::mknod(node.c_str(), S_IFCHR | 0666, makedev(1, minor)) == 0;
-    return own ? node : "/dev/" + name;
+    const int own = ::geteuid() == 0 && ::mknod(node.c_str(), S_IFCHR | 0666, makedev(1, minor)) == 0
+                        ? ::open(node.c_str(), O_WRONLY)
+                        : -1;
+    if (own >= 0) ::close(own);
+    return own >= 0 ? node : "/dev/" + name;
 }
 #endif
 
