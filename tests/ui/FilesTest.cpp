@@ -7,6 +7,8 @@
 #include <unistd.h>
 #endif
 
+#include <QScrollBar>
+
 #include "MainWindowFixture.h"
 #include "document/SafeWrite.h"
 #include "document/TextFile.h"
@@ -146,6 +148,8 @@ TEST_F(Files, TheScriptWindowShowsTheScriptAndSavesWhatItsBoxHolds) {
     w.findChild<QMenuBar*>()->actions().front()->trigger();
     EXPECT_EQ(ReadBytes(PathOf(u"typed.cfg"_s)), "\x80\xE9?\r\nx\r\ny\r\n");
     w.show();
+    w.scriptBox()->setPlainText(QString(400, u'x'));  // a long line scrolls, it doesn't wrap
+    EXPECT_TRUE(QTest::qWaitFor([&] { return w.scriptBox()->horizontalScrollBar()->maximum() > 0; }));
     QTest::keyClick(w.scriptBox(), Qt::Key_Escape);
     EXPECT_TRUE(w.isVisible()) << "Escape would lose the edits";
     w.close();
