@@ -8,20 +8,11 @@
 #include <cstdlib>
 
 int main(int argc, char** argv) {
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: close_window WINDOW-ID\n");
-        return 2;
-    }
-    char* end = nullptr;
-    const Window window = std::strtoul(argv[1], &end, 0);
-    if (end == argv[1] || *end != '\0' || window == 0) {
-        std::fprintf(stderr, "close_window: not a window id: %s\n", argv[1]);
-        return 2;
-    }
-    Display* display = XOpenDisplay(nullptr);
+    const Window window = argc == 2 ? std::strtoul(argv[1], nullptr, 0) : 0;
+    Display* display = window != 0 ? XOpenDisplay(nullptr) : nullptr;
     if (display == nullptr) {
-        std::fprintf(stderr, "close_window: no X display\n");
-        return 1;
+        std::fprintf(stderr, "usage: close_window WINDOW-ID, on an X display\n");
+        return 2;
     }
     XEvent event{};
     event.xclient.type = ClientMessage;

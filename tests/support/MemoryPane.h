@@ -17,8 +17,7 @@ namespace flickerscribe {
 //   SelColour reads the first selected character's colour; with no selection
 //   the pending colour, else the one before the caret, else black.
 // - SetSelText inserts in the colour SelColour reads, caret behind it.
-// - SetText (caret at 0) and SetRuns (caret at the end) forget the pending
-//   colour. Locked only records the flag.
+// - SetText (caret at 0) and SetRuns (caret at the end) forget the pending colour.
 class MemoryPane : public Pane {
 public:
     MemoryPane() = default;

@@ -1,4 +1,4 @@
-// Options, the painting windows, About, the real input box, the rich text pane.
+// Options, the painting windows, About, the real dialogs, the rich text pane.
 #include <algorithm>
 #include <cstdlib>
 #include <random>
@@ -152,6 +152,33 @@ TEST(QtDialogs, TheRealInputBoxGivesItsTextOnlyOnOk) {
         EXPECT_EQ(dialogs.inputBox(nullptr, u"How many?"_s, u"Copy"_s, u"2"_s),
                   key == Qt::Key_Return ? std::optional(u"27"_s) : std::nullopt);
     }
+}
+
+// The real Save dialog opens in the folder asked for, with Qt's filters, and
+// asks no overwrite question: the command asks its own.
+TEST(QtDialogs, TheRealSaveDialogLeavesTheOverwriteQuestionToUs) {
+    QTemporaryDir folder;
+    WriteBytes(folder.filePath(u"old.cfg"_s), "old");
+    QStringList seen;
+    QTimer questions;  // answers, and notes, any question box that comes up
+    QObject::connect(&questions, &QTimer::timeout, [&] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            seen << box->text();
+            box->button(QMessageBox::Yes) ? box->button(QMessageBox::Yes)->click() : box->reject();
+        }
+    });
+    questions.start(20);
+    QTimer::singleShot(0, [&] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        seen << dialog->directory().path() + u' ' + dialog->nameFilters().join(u'|');
+        auto* name = dialog->findChild<QLineEdit*>(u"fileNameEdit"_s);
+        QTest::keyClicks(name, u"old.cfg"_s);
+        QTest::keyClick(name, Qt::Key_Return);
+    });
+    FileDialogState state{{}, u"Scripts (*.cfg);;All Files(*.*)"_s, folder.path(), {}};
+    EXPECT_TRUE(QtDialogs().showSave(nullptr, state));
+    EXPECT_EQ(seen, QStringList{folder.path() + u" Scripts (*.cfg)|All Files(*.*)"_s});
+    EXPECT_EQ(QDir::fromNativeSeparators(state.fileName), folder.filePath(u"old.cfg"_s));
 }
 
 // --- the rich text pane and the wizard's pictures

@@ -107,10 +107,8 @@ INSTANTIATE_TEST_SUITE_P(
         CommandCase{"RemoveTheOnly", Press("btnremove"), {}, 0, {"A/10"}, 1},
         CommandCase{"CopySelected", Press("btncopylast"), WithCopiesOfB(1), 2},
         CommandCase{"CopyAll", Press("btncopyall"), {"A/10", "B/20", "C/30", "A/10", "B/20", "C/30"}, 2},
-        CommandCase{"CopyAllReversed",
-                    Press("btncopyallreverse"),
-                    {"A/10", "B/20", "C/30", "C/30", "B/20", "A/10"},
-                    2},
+        CommandCase{
+            "CopyAllBack", Press("btncopyallreverse"), {"A/10", "B/20", "C/30", "C/30", "B/20", "A/10"}, 2},
         CommandCase{"TwoTimes", Times(u"2"_s), WithCopiesOfB(2), 2},
         CommandCase{"WordTimes", Times(u"abc"_s), kABC, 2, kABC, 2,
                     "Error [stop]: Can't copy the selected line. Invalid input (abc)"},
@@ -160,10 +158,9 @@ TEST_F(MainWindowCase, AddingStopsAtTheLineLimitWithOneMessage) {
 
 // --- editing in the pane
 
-// Typing reaches the selected line at once in its normal form (a code only
-// where the colour changes), the caret behind what was typed. A colour button
-// colours the selection, which then ends, or else what is typed next; an
-// empty pane takes no colour.
+// Typing reaches the selected line at once in normal form, the caret behind it.
+// A colour button colours the selection (which then ends), else what is typed
+// next; an empty pane takes no colour.
 TEST_F(MainWindowCase, EditsInThePaneReachTheLineInNormalForm) {
     const struct {
         const char* before;
