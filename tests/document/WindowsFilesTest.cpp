@@ -88,12 +88,10 @@ TEST(WindowsFiles, FoldersDevicesAndPipes) {
     const std::string pipe = "//./pipe/flickerscribe-test-" + std::to_string(GetCurrentProcessId());
     const HANDLE server =
         CreateNamedPipeW(Wide(pipe).c_str(), PIPE_ACCESS_DUPLEX, 0, 4, 4096, 4096, 0, nullptr);
-    const std::tuple<std::string, FileKinds, bool> reads[] = {
-        {dir.Path(), FileKinds::AnyKind, false},
-        {"NUL", FileKinds::PlainOnly, false},
-        {"NUL", FileKinds::AnyKind, true},
-        {pipe, FileKinds::PlainOnly, false},
-    };
+    const std::tuple<std::string, FileKinds, bool> reads[] = {{dir.Path(), FileKinds::AnyKind, false},
+                                                              {"NUL", FileKinds::PlainOnly, false},
+                                                              {"NUL", FileKinds::AnyKind, true},
+                                                              {pipe, FileKinds::PlainOnly, false}};
     for (const auto& [path, kinds, read] : reads)
         EXPECT_EQ(ReadFileBytes(path, kinds), read ? std::optional(std::string()) : std::nullopt) << path;
     CloseHandle(server);
@@ -102,8 +100,7 @@ TEST(WindowsFiles, FoldersDevicesAndPipes) {
         {"NUL", FileKinds::PlainOnly, ERROR_INVALID_PARAMETER},
         {"NUL", FileKinds::AnyKind, 0},
         {dir.File("no/a.fsq"), FileKinds::AnyKind, ERROR_PATH_NOT_FOUND},
-        {"", FileKinds::AnyKind, ERROR_PATH_NOT_FOUND},
-    };
+        {"", FileKinds::AnyKind, ERROR_PATH_NOT_FOUND}};
     for (const auto& [path, kinds, error] : saves)
         EXPECT_EQ(WriteFileSafely(path, kNew, kinds),
                   error ? std::optional(SystemError(error)) : std::nullopt)

@@ -9,15 +9,12 @@
 
 namespace flickerscribe {
 
-// A pane held in memory, behaving like the rich text box the panes are built
-// on, so the render and encode walks and the windows' logic run without one.
-// - Unpainted text is black. Selection writes clamp to the text, and forget a
-//   pending insertion colour (the caret moved).
-// - SetSelColour colours the selection, or with none sets the pending colour.
-//   SelColour reads the first selected character's colour; with no selection
-//   the pending colour, else the one before the caret, else black.
-// - SetSelText inserts in the colour SelColour reads, caret behind it.
-// - SetText (caret at 0) and SetRuns (caret at the end) forget the pending colour.
+// A pane in memory that behaves like the rich text box, for tests without one.
+// Unpainted text is black; selection writes clamp to the text. SetSelColour
+// colours the selection, or with none sets a pending colour, which a moved
+// caret, SetText (caret at 0) and SetRuns (caret at the end) forget. SelColour
+// reads the first selected character's colour; with no selection the pending
+// colour, else the one before the caret, else black. SetSelText inserts in it.
 class MemoryPane : public Pane {
 public:
     MemoryPane() = default;

@@ -44,9 +44,8 @@ protected:
         given << name;
         Change([&] { Trigger(name); });
     }
-    // Makes a change; if it made a step (Undo names another, Redo has none),
-    // Ctrl+Z brings back the lines, the selected line and the pane as they
-    // were and Ctrl+Y the change.
+    // Makes a change; if it made a step (Undo names another, Redo has none), Ctrl+Z
+    // brings back the lines, the selected line and the pane, and Ctrl+Y the change.
     void Change(const std::function<void()>& change) {
         using Seen = std::tuple<TextTimes, int, std::string>;
         const Seen before{Lines(), script().SelectedIndex(), PaneText()};

@@ -45,9 +45,8 @@ public:
     std::unique_ptr<ScriptWindow> scriptWindow;
 };
 
-// Whatever can't be read to its end as a plain file leaves the lines as they
-// were and gets "File not found!": a pipe with no writer must not hold the
-// window, nor an I/O error half way or a file too large cost the lines.
+// What can't be read to its end as a plain file gets "File not found!" and leaves the
+// lines: a pipe with no writer holds no window, an I/O error or a huge file costs no line.
 TEST_F(Files, UnreadableFilesAreNotFound) {
     const QString locked = PathOf(u"locked"_s), gone = PathOf(u"gone"_s), huge = PathOf(u"huge"_s);
     QFile sparse(huge);  // takes no disk
@@ -148,6 +147,7 @@ TEST_F(Files, TheScriptWindowShowsTheScriptAndSavesWhatItsBoxHolds) {
     w.findChild<QMenuBar*>()->actions().front()->trigger();
     EXPECT_EQ(ReadBytes(PathOf(u"typed.cfg"_s)), "\x80\xE9?\r\nx\r\ny\r\n");
     w.show();
+    EXPECT_EQ(w.frameGeometry().center(), w.screen()->availableGeometry().center());
     w.scriptBox()->setPlainText(QString(400, u'x'));  // a long line scrolls, it doesn't wrap
     EXPECT_TRUE(QTest::qWaitFor([&] { return w.scriptBox()->horizontalScrollBar()->maximum() > 0; }));
     QTest::keyClick(w.scriptBox(), Qt::Key_Escape);

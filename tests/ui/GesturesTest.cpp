@@ -29,6 +29,7 @@ TEST_F(Gestures, EnterPressesTheFocusedButtonElseTheDefault) {
     const std::tuple<const char*, int, const char*, const char*> cases[] = {
         {"frmWizard", 4, "cmdAddEffect", "open page 4 rows 1 writes 0 lines 2"},
         {"frmWizard", 4, "cmdCancel", "open page 4 rows 0 writes 0 lines 2 asked Exit wizard?"},
+        {"frmWizard", 3, "cmdCancel", "closed page -1 rows 0 writes 0 lines 2 asked Exit wizard?"},
         {"frmWizard", 3, "txtNameOnly_0", "open page 4 rows 0 writes 0 lines 2"},
         {"frmEdit", 0, "cmdCancel", "closed no time writes 0 lines 2"},
         {"frmEdit", 0, "txtTime", "closed time 15 writes 0 lines 2"},
@@ -45,7 +46,8 @@ TEST_F(Gestures, EnterPressesTheFocusedButtonElseTheDefault) {
         Open(QString::fromLatin1(name));
         if (page > 0) ToWizardPage(page);
         if (page == 4) Child<QComboBox>(u"cmbEffects"_s)->setCurrentIndex(0);
-        if (focusName == std::string("cmdCancel") && page) dialogs.QueueMessageAnswer(MsgAnswer::No);
+        if (focusName == std::string("cmdCancel") && page)
+            dialogs.QueueMessageAnswer(page == 4 ? MsgAnswer::No : MsgAnswer::Yes);
         QWidget* focus = Child(QString::fromLatin1(focusName));
         focus->setFocus();
         QTest::keyClick(focus, Qt::Key_Return);
@@ -105,6 +107,7 @@ TEST_F(Edges, TheAddButtonsMenuIsOnTheAccessibilityTree) {
     QAccessibleInterface* button = QAccessible::queryAccessibleInterface(add);
     ASSERT_EQ(button->childCount(), 1);
     QAccessibleInterface* menu = button->child(0);
+    EXPECT_TRUE(menu->object()->objectName() == u"btnaddMenu"_s && button->child(1) == nullptr);
     QStringList entries;
     for (int i = 0; i < menu->childCount(); ++i) entries << menu->child(i)->text(QAccessible::Name);
     EXPECT_EQ(entries.join(u'|').toStdString(),

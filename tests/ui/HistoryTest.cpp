@@ -44,8 +44,8 @@ TEST_F(History, TypingMergesUntilTheSelectionMovesOrACommandRuns) {
                                 {"A12/10", "B34/20", "C/30"},
                                 {"A12/10", "B/20", "C/30"},
                                 kABC};
-    for (const TextTimes& expected : undone) {
-        Press(Qt::Key_Z);
+    for (const TextTimes& expected : undone) {  // the first from the pane: its own undo must not answer
+        &expected == undone ? QTest::keyClick(PaneEdit(), Qt::Key_Z, Qt::ControlModifier) : Press(Qt::Key_Z);
         EXPECT_EQ(Lines(), expected);
     }
     EXPECT_FALSE(named(u"mnuEditUndo"_s)->isEnabled());
@@ -150,6 +150,8 @@ TEST_F(History, TheFolderHoldsTheLastTenRuns) {
         SetAge(path, 100 - run);
     }
     Trigger(u"btnadd"_s);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(KeptFiles().size(), 12) << "kept within the interval, not at once";
     Tick(u"timKeep"_s);
     const QStringList files = KeptFiles();
     ASSERT_EQ(files.size(), 10);
